@@ -1,0 +1,37 @@
+# Writes OUTPUT, a C++ source that embeds every picture of FOLDER and lists them for EmbeddedFiles().
+# Run as: cmake -DOUTPUT=<file.cpp> -DFOLDER=<folder> -P embed_files.cmake
+file(GLOB FILES ${FOLDER}/*.bmp ${FOLDER}/*.gif)
+set(blobs "")
+set(rows "")
+set(number 0)
+foreach(path IN LISTS FILES)
+    get_filename_component(name "${path}" NAME)
+    string(APPEND blobs
+        "asm(\".section .rodata\\n.balign 16\\nembedded${number}begin: .incbin \\\"${path}\\\"\\nembedded${number}end:\\n.previous\");\n"
+        "extern \"C\" const char embedded${number}begin[];\nextern \"C\" const char embedded${number}end[];\n")
+    string(APPEND rows
+        "    rows.push_back({\"${name}\", Between(embedded${number}begin, embedded${number}end)});\n")
+    math(EXPR number "${number} + 1")
+endforeach()
+file(WRITE "${OUTPUT}"
+"#include \"view/embedded_files.h\"
+
+#include <vector>
+
+${blobs}
+namespace {
+
+std::string_view Between(const char* begin, const char* end) { return {begin, static_cast<std::size_t>(end - begin)}; }
+
+std::vector<EmbeddedFile> AllRows() {
+    std::vector<EmbeddedFile> rows;
+${rows}    return rows;
+}
+
+}  // namespace
+
+std::span<const EmbeddedFile> EmbeddedFiles() {
+    static const std::vector<EmbeddedFile> rows = AllRows();
+    return rows;
+}
+")

@@ -1,0 +1,115 @@
+// Row 0: open ground.
+#include <cmath>
+
+#include "grounds.h"
+#include "noise.h"
+#include "shapes.h"
+#include "tile_rows.h"
+
+namespace art {
+namespace {
+
+void Tufts(Relief& relief, std::uint32_t seed, Ink dark, Ink light) {
+    constexpr int Count = 5;
+    Dice dice(seed);
+    for (int i = 0; i < Count; ++i) {
+        Tuft(relief, dice.Roll(4, 16), dice.Roll(5, 17), dice.Roll(2.0f, 3.0f), dark, light,
+             seed + static_cast<std::uint32_t>(i));
+    }
+}
+
+// Small round leaves or petals, lying flat.
+void Dots(Relief& relief, int count, float radius, Ink dark, Ink light, std::uint32_t seed) {
+    Dice dice(seed);
+    for (int i = 0; i < count; ++i) {
+        const auto x = static_cast<double>(dice.Roll(2.5f, 17.5f));
+        const auto y = static_cast<double>(dice.Roll(2.5f, 17.5f));
+        const auto size = static_cast<double>(radius * dice.Roll(0.8f, 1.3f));
+        relief.Stain(Ellipse(x + 0.4, y + 0.5, size, size), Colour(Ink::Fir), 0.5);
+        relief.Stain(Ellipse(x, y, size, size), Between(dark, light, static_cast<double>(dice.Roll(0, 1))));
+    }
+}
+
+void Flowers(Relief& relief) {
+    Tufts(relief, 114, Ink::Meadow, Ink::Sprout);
+    Dots(relief, 4, 0.8f, Ink::Glow, Ink::Snow, 115);
+    Dots(relief, 3, 0.75f, Ink::Gold, Ink::Gold, 116);
+}
+
+// A thin patch in the grass where another ground shows, well inside the tile.
+void WornPatch(Relief& relief, const Loose& ground, std::uint32_t seed) {
+    LoosePatch(relief, Lump(10, 10.5, 5.4, 0.35, seed), ground, 0, 1.4f);
+}
+
+void Furrows(Relief& relief, bool westEast) {
+    relief.Each([westEast](float x, float y, Texel& texel) {
+        const float across = westEast ? y : x;
+        const float along = westEast ? x : y;
+        constexpr float Turn = 2 * 3.14159265f / 5;  // four furrows a tile
+        const float wave = std::sin((across + 0.35f * Noise(along, 3, 2.5f, 20, 121)) * Turn);
+        texel.height += 0.9f * wave;
+        const float light = 1 + 0.12f * wave;
+        texel.red *= light;
+        texel.green *= light;
+        texel.blue *= light;
+    });
+}
+
+void Grain(Relief& relief) {
+    LooseGround(relief, {Ink::Stubble, Ink::Straw, 1.25f, 0.7f, 0.6f, 127});
+    Dice dice(128);
+    for (int i = 0; i < 70; ++i) {
+        const float x = dice.Roll(0, 20);
+        const float y = dice.Roll(0, 20);
+        const QColor colour = Between(Ink::Stubble, Ink::Glow, static_cast<double>(dice.Roll(0, 0.75f)));
+        for (int wrap = 0; wrap < 9; ++wrap) {
+            const auto left = static_cast<double>(x + static_cast<float>(wrap % 3 - 1) * 20);
+            const auto top = static_cast<double>(y + static_cast<float>(wrap / 3 - 1) * 20);
+            relief.StainLine(Trace({{left, top}, {left + 0.7, top - 2.1}}), 0.7, colour, 0.9);
+        }
+    }
+}
+
+void WheelTracks(Relief& relief) {
+    for (const double y : {6.0, 14.0}) {
+        LoosePatch(relief, Rect(-8, y - 1.7, 36, 3.4), EarthGround, -0.9f, 0.7f);
+        for (int x = -8; x < 28; x += 2) {
+            relief.StainLine(Trace({{static_cast<double>(x), y - 1.2}, {x + 0.9, y + 1.2}}), 0.7, Colour(Ink::Loam), 0.5);
+        }
+    }
+}
+
+using Drawing = void (*)(Relief&);
+
+constexpr Drawing Drawings[] = {
+    [](Relief& r) { GrassGround(r); },
+    [](Relief& r) { GrassGround(r); Tufts(r, 101, Ink::Moss, Ink::Sprout); },
+    [](Relief& r) { GrassGround(r); Dots(r, 20, 0.85f, Ink::Meadow, Ink::Sprout, 103); },
+    [](Relief& r) { GrassGround(r); Flowers(r); },
+    [](Relief& r) { GrassGround(r); Tufts(r, 105, Ink::Stubble, Ink::Straw); },
+    [](Relief& r) { GrassGround(r); ScatterStones(r, 7, 0.6f, 1.3f, 2, Ink::Limestone, 107); },
+    [](Relief& r) { GrassGround(r); Dots(r, 7, 0.8f, Ink::Timber, Ink::Straw, 109); },
+    [](Relief& r) { GrassGround(r); WornPatch(r, DirtRoadGround, 111); },
+    [](Relief& r) { LooseGround(r, EarthGround); },
+    [](Relief& r) { LooseGround(r, SandGround); },
+    [](Relief& r) { LooseGround(r, GravelGround); },
+    [](Relief& r) { LooseGround(r, MudGround); },
+    [](Relief& r) { LooseGround(r, EarthGround); Furrows(r, true); },
+    [](Relief& r) { LooseGround(r, EarthGround); Furrows(r, false); },
+    [](Relief& r) { Grain(r); },
+    [](Relief& r) { GrassGround(r); WheelTracks(r); },
+};
+
+}  // namespace
+
+TileRow SurfaceTiles() {
+    TileRow row;
+    for (const Drawing draw : Drawings) {
+        Relief relief;
+        draw(relief);
+        row.push_back(Finished(relief));
+    }
+    return row;
+}
+
+}  // namespace art

@@ -1,0 +1,137 @@
+// Draws every picture of the game into a folder: stored/ is built into the program, pic/ stands beside it, sheets/ is
+// for looking.
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "canvas.h"
+#include "contact_sheets.h"
+#include "digits.h"
+#include "emblem.h"
+#include "mock_field.h"
+#include "overlays.h"
+#include "panel.h"
+#include "people.h"
+#include "picture_writer.h"
+#include "progress_picture.h"
+#include "slate.h"
+#include "sprites.h"
+#include "stance_buttons.h"
+#include "tile_rows.h"
+#include "tile_sheet.h"
+
+namespace art {
+namespace {
+
+void WriteField(const PictureWriter& writer, const QImage& panel) {
+    const TreePictures trees = DrawTrees();
+    const TileRow& tops = trees.tops;
+    const std::vector<TileClass> classes = AllTileClasses(trees.tiles);
+    const QImage& grass = classes.front().tiles.front();
+    writer.Write("stored/picMap.bmp", TileSheet(classes));
+    writer.Write("stored/picForest.bmp", ForestSheet(tops));
+    for (std::size_t i = 0; i < tops.size(); ++i) writer.Write("pic/forest/" + TwoDigits(static_cast<int>(i)) + ".gif", tops[i]);
+    for (std::size_t row = 0; row < classes.size(); ++row) {
+        const std::string name = TwoDigits(static_cast<int>(row)) + " " + classes[row].name;
+        writer.Write("sheets/map_" + TwoDigits(static_cast<int>(row)) + ".png", ContactSheet(name, classes[row].tiles, 13, 4));
+    }
+    writer.Write("sheets/forest.png", ContactSheet("FOREST TOPS", tops, 11, 4, grass));
+    writer.Write("sheets/in_place.png", MockWindow(classes, tops, panel));
+}
+
+void WritePeople(const PictureWriter& writer, const QImage& ground) {
+    writer.Write("stored/picPeople.bmp", PeopleSheet());
+    writer.Write("stored/picSprites.bmp", SpriteSheet());
+    for (int team = 0; team < TeamCount; ++team) {
+        std::vector<QImage> men;
+        for (int i = 0; i < StanceCount * FacingCount; ++i) men.push_back(Soldier(team, i / FacingCount, i % FacingCount));
+        writer.Write("sheets/people_" + std::to_string(team) + ".png", ContactSheet("TEAM " + std::to_string(team), men, FacingCount, 6, ground));
+    }
+    const std::vector<QImage> sprites{SpritePicture(ChargeSprite), SpritePicture(PileSprite), SpritePicture(DeadSprite)};
+    writer.Write("sheets/sprites.png", ContactSheet("SPRITES 12-14", sprites, 3, 8, ground));
+}
+
+void WriteOverlays(const PictureWriter& writer, const QImage& ground) {
+    std::vector<QImage> blowup;
+    std::vector<QImage> target;
+    for (int frame = 1; frame <= OverlayFrames; ++frame) {
+        blowup.push_back(BlowupFrame(frame));
+        target.push_back(TargetFrame(frame));
+        writer.Write("pic/blowup/" + TwoDigits(frame) + ".gif", blowup.back());
+        writer.Write("pic/target/" + TwoDigits(frame) + ".gif", target.back());
+    }
+    writer.Write("sheets/blowup.png", ContactSheet("BLOWUP", blowup, 5, 4, ground));
+    writer.Write("sheets/target.png", ContactSheet("TARGET", target, 5, 6, ground));
+}
+
+void WriteFrames(const PictureWriter& writer) {
+    const QImage upper = UpperFrame();
+    const QImage stripes = Stripes();
+    const QImage progress = ProgressPicture();
+    writer.Write("stored/picSlateU.bmp", upper);
+    writer.Write("stored/picSlateR.bmp", RightFrame());
+    writer.Write("stored/picSlateL.bmp", LeftFrame());
+    writer.Write("stored/picSlateStripes.bmp", stripes);
+    writer.Write("stored/imgMarkH.gif", ColumnMark());
+    writer.Write("stored/imgMarkV.gif", RowMark());
+    writer.Write("stored/imgProgress.gif", progress);
+    for (const int size : {16, 32, 48, 128}) writer.Write("stored/icon" + std::to_string(size) + ".png", Icon(size));
+    writer.Write("sheets/frames.png", ContactSheet("FRAMES", {upper, stripes, progress}, 1, 2));
+    writer.Write("sheets/icons.png", ContactSheet("ICONS", {Icon(16), Icon(32), Icon(48), Icon(128)}, 4, 3));
+}
+
+void WritePanel(const PictureWriter& writer, const PanelPictures& panel) {
+    writer.Write("stored/picSlateD.bmp", panel.panel);
+    writer.Write("stored/imgBars.gif", panel.barsFrame);
+    writer.Write("stored/picBarWeapon.bmp", panel.weaponBox);
+    writer.Write("stored/imgBarWunder.bmp", panel.columnFrame);
+    writer.Write("stored/imgBarWcover.bmp", DurabilityCover());
+    writer.Write("stored/picBarDigits.bmp", BarDigits());
+    writer.Write("pic/weapon.gif", panel.weaponBox);
+    for (int bar = 0; bar < BarCount; ++bar) writer.Write("stored/imgBar" + std::to_string(bar) + ".bmp", BarStrip(bar));
+    for (std::size_t band = 0; band < DurabilityBands.size(); ++band) {
+        writer.Write("pic/wea_" + std::to_string(DurabilityBands[band]) + ".gif", DurabilityFill(band));
+    }
+    writer.Write("sheets/panel.png", ContactSheet("PANEL", {panel.panel}, 1, 2));
+}
+
+void WriteButtons(const PictureWriter& writer) {
+    std::vector<QImage> faces;
+    for (int button = 0; button < StanceButtons; ++button) {
+        for (const bool lit : {false, true}) {
+            faces.push_back(StanceButton(button, lit));
+            writer.Write("pic/stance" + std::to_string(button) + (lit ? "on" : "off") + ".gif", faces.back());
+        }
+    }
+    std::vector<QImage> counters;
+    for (int count = 1; count <= 20; ++count) {
+        counters.push_back(EnemyCounter(count));
+        writer.Write("pic/counter/" + TwoDigits(count) + ".bmp", counters.back());
+    }
+    writer.Write("sheets/stances.png", ContactSheet("STANCES OFF ON", faces, 4, 4));
+    writer.Write("sheets/counter.png", ContactSheet("COUNTER", counters, 10, 4));
+}
+
+void WriteAll(const PictureWriter& writer) {
+    const QImage ground = SurfaceTiles().front();
+    const PanelPictures panel = DrawPanel();
+    WriteField(writer, panel.panel);
+    WritePeople(writer, ground);
+    WriteOverlays(writer, ground);
+    WriteFrames(writer);
+    WritePanel(writer, panel);
+    WriteButtons(writer);
+}
+
+}  // namespace
+}  // namespace art
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: sarnoth_art OUTDIR\n";
+        return EXIT_FAILURE;
+    }
+    art::WriteAll(art::PictureWriter(argv[1]));
+    return EXIT_SUCCESS;
+}

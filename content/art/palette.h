@@ -1,0 +1,56 @@
+// The colours of the whole game. Every picture of the generator ends on these and on no other.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include <QColor>
+
+namespace art {
+
+enum class Ink : std::uint8_t {
+    // foliage and grass, dark to light
+    Pine, Fir, Moss, Meadow, Grass, Pasture, Sprout,
+    // dry growth
+    Stubble, Straw,
+    // earth, wood and sand, dark to light
+    Peat, Loam, Soil, Bark, Timber, Plank, Clay, Sand, Shell,
+    // concrete, iron, asphalt and bone, dark to light
+    Soot, Iron, Asphalt, Slate, Ash, Cement, Concrete, Chalk, Snow,
+    // masonry, warm greys
+    Cellar, Fieldstone, Limestone,
+    // water and sky
+    Abyss, Lake, River, Brook, Shallow, Foam,
+    // soldiers' cloth
+    Jacket, Olive, Khaki, Canvas,
+    // skin
+    Tan, Skin,
+    // brick, blood and badges
+    Maroon, Brick, Scarlet,
+    // selection, fire and brass
+    Amber, Gold, Glow,
+    // the panel's green steel, dark to light
+    Engraving, Armour, Plate, Steel, Edge, Sheen,
+    // read-outs and cloth of flags
+    Signal, Cobalt, Navy,
+    Count
+};
+
+constexpr std::size_t InkCount = static_cast<std::size_t>(Ink::Count);
+
+struct InkRow {
+    QRgb colour;
+    const char* name;
+};
+
+extern const std::array<InkRow, InkCount> Inks;
+
+QColor Colour(Ink ink);
+
+// A colour between two inks; share 0 gives the first.
+QColor Between(Ink first, Ink second, double share);
+
+// The ink that looks nearest to a colour whose lightness is moved by `lift` (0 to 1 is black to white).
+Ink NearestInk(QRgb colour, double lift = 0);
+
+}  // namespace art

@@ -1,0 +1,90 @@
+#include "picture_writer.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <vector>
+
+#include <gif_lib.h>
+
+#include <QString>
+
+#include "palette.h"
+
+namespace art {
+namespace {
+
+constexpr int GifColours = 64;  // the power of two that holds all inks and the see-through one
+constexpr int SeeThrough = GifColours - 1;
+static_assert(InkCount < GifColours);
+
+[[noreturn]] void Fail(const std::string& path) {
+    std::cerr << "sarnoth_art: can't write " << path << '\n';
+    std::exit(EXIT_FAILURE);
+}
+
+ColorMapObject* InkMap() {
+    ColorMapObject* map = GifMakeMapObject(GifColours, nullptr);
+    for (std::size_t i = 0; i < InkCount; ++i) {
+        const QRgb colour = Inks[i].colour;
+        map->Colors[i] = {static_cast<GifByteType>(qRed(colour)), static_cast<GifByteType>(qGreen(colour)),
+                          static_cast<GifByteType>(qBlue(colour))};
+    }
+    return map;
+}
+
+std::vector<GifPixelType> InkRow(const QImage& picture, int y) {
+    std::vector<GifPixelType> row;
+    for (int x = 0; x < picture.width(); ++x) {
+        const QRgb colour = picture.pixel(x, y);
+        const int index = qAlpha(colour) == 0 ? SeeThrough : static_cast<int>(NearestInk(colour));
+        row.push_back(static_cast<GifPixelType>(index));
+    }
+    return row;
+}
+
+bool PutGif(GifFileType* gif, const QImage& picture) {
+    const std::unique_ptr<ColorMapObject, void (*)(ColorMapObject*)> map(InkMap(), GifFreeMapObject);
+    EGifSetGifVersion(gif, true);
+    const int w = picture.width();
+    const int h = picture.height();
+    GraphicsControlBlock control{DISPOSAL_UNSPECIFIED, false, 0, SeeThrough};
+    GifByteType extension[4];
+    EGifGCBToExtension(&control, extension);
+    bool ok = EGifPutScreenDesc(gif, w, h, 8, 0, map.get()) == GIF_OK &&
+              EGifPutExtension(gif, GRAPHICS_EXT_FUNC_CODE, sizeof extension, extension) == GIF_OK &&
+              EGifPutImageDesc(gif, 0, 0, w, h, false, nullptr) == GIF_OK;
+    for (int y = 0; ok && y < h; ++y) {
+        std::vector<GifPixelType> row = InkRow(picture, y);
+        ok = EGifPutLine(gif, row.data(), w) == GIF_OK;
+    }
+    return ok;
+}
+
+void WriteGif(const std::string& path, const QImage& picture) {
+    int error = 0;
+    GifFileType* gif = EGifOpenFileName(path.c_str(), false, &error);
+    if (gif == nullptr) Fail(path);
+    const bool put = PutGif(gif, picture);
+    const bool closed = EGifCloseFile(gif, &error) == GIF_OK;
+    if (!put || !closed) Fail(path);
+}
+
+}  // namespace
+
+void PictureWriter::Write(const std::string& name, const QImage& picture) const {
+    const std::filesystem::path path = std::filesystem::path(folder) / name;
+    std::filesystem::create_directories(path.parent_path());
+    if (path.extension() == ".gif") {
+        WriteGif(path.string(), picture);
+        return;
+    }
+    const bool flat = path.extension() == ".bmp";
+    const QImage stored = flat ? picture.convertToFormat(QImage::Format_RGB888) : picture;
+    if (!stored.save(QString::fromStdString(path.string()), flat ? "BMP" : "PNG")) Fail(path.string());
+}
+
+std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+
+}  // namespace art

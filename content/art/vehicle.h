@@ -1,0 +1,16 @@
+// The squad's vehicle, one drawing over four by two cells.
+#pragma once
+
+#include <array>
+
+#include <QImage>
+
+namespace art {
+
+constexpr int VehicleColumns = 4;
+constexpr int VehicleRows = 2;
+
+// Its cells: the upper row west to east, then the lower one.
+std::array<QImage, VehicleColumns * VehicleRows> VehicleCells();
+
+}  // namespace art

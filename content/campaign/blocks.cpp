@@ -1,0 +1,42 @@
+#include "blocks.h"
+
+namespace {
+
+BlockLine SplitLine(const std::string& text, int number) {
+    BlockLine line{SplitWords(text, number), {number, static_cast<int>(text.size()) + 1}};
+    if (!line.words.empty() && line.words.front().text.front() == '#') line.words.clear();
+    return line;
+}
+
+}  // namespace
+
+std::vector<Block> ReadBlocks(const std::vector<std::string>& lines, const std::string& headWord) {
+    std::vector<Block> blocks;
+    int number = 0;
+    for (const std::string& text : lines) {
+        const BlockLine line = SplitLine(text, ++number);
+        if (line.words.empty()) continue;
+        if (line.words.front().text == headWord) {
+            blocks.push_back({line, {}});
+        } else if (blocks.empty()) {
+            throw SourceError(line.words.front().place,
+                              "\"" + line.words.front().text + "\" stands outside a block",
+                              "\"" + headWord + "\" first");
+        } else {
+            blocks.back().lines.push_back(line);
+        }
+    }
+    if (blocks.empty())
+        throw SourceError({number, 1}, "the source has no block", "at least one \"" + headWord + "\"");
+    return blocks;
+}
+
+const SourceWord& LineWords::Take(const std::string& expected) {
+    if (AtEnd()) throw SourceError(line.end, "the line ends too early", expected);
+    return line.words[next++];
+}
+
+void LineWords::Finish() const {
+    if (!AtEnd())
+        throw SourceError(Place(), "\"" + line.words[next].text + "\" is too much", "the end of the line");
+}

@@ -1,0 +1,189 @@
+#include "map_source.h"
+
+#include <algorithm>
+
+namespace {
+
+struct WayRule {
+    const char* word;
+    Way way;
+    int columnLists;  // words with columns that follow
+    bool links;
+};
+
+constexpr WayRule WayRules[] = {
+    {"tile", Way::Tile, 1, false},   {"pick", Way::Pick, 1, false}, {"join", Way::Join, 0, true},
+    {"line", Way::Line, 0, true},    {"axis", Way::Axis, 2, true},  {"banks", Way::Banks, 1, false},
+    {"block", Way::Block, 1, false},
+};
+
+constexpr int MaxRepeat = 99;
+
+// The words of one line of the legend, taken one after another.
+class LegendLine {
+  public:
+    LegendLine(std::vector<SourceWord> all, SourcePlace end) : words(std::move(all)), endPlace(end) {}
+
+    bool Empty() const { return next == words.size(); }
+
+    const SourceWord& Take(const std::string& expected) {
+        if (Empty()) throw SourceError(endPlace, "the line ends too early", expected);
+        return words[next++];
+    }
+
+  private:
+    std::vector<SourceWord> words;
+    SourcePlace endPlace;
+    std::size_t next = 0;
+};
+
+std::vector<SourceWord> SplitAt(const SourceWord& word, char mark) {
+    std::vector<SourceWord> parts;
+    std::size_t begin = 0;
+    while (begin <= word.text.size()) {
+        const std::size_t end = std::min(word.text.find(mark, begin), word.text.size());
+        parts.push_back({word.text.substr(begin, end - begin),
+                         {word.place.line, word.place.column + static_cast<int>(begin)}});
+        begin = end + 1;
+    }
+    return parts;
+}
+
+// "0x8,1-7": column 0 eight times and the columns 1 to 7 once each.
+std::vector<int> ColumnsOf(const SourceWord& word) {
+    std::vector<int> columns;
+    for (const SourceWord& part : SplitAt(word, ',')) {
+        const std::vector<SourceWord> repeat = SplitAt(part, 'x');
+        const std::vector<SourceWord> range = SplitAt(repeat.front(), '-');
+        const int first = NumberOf(range.front(), 0, SheetColumns - 1, "column");
+        const int last = NumberOf(range.back(), first, SheetColumns - 1, "column");
+        const int times = repeat.size() > 1 ? NumberOf(repeat.back(), 1, MaxRepeat, "repeat") : 1;
+        for (int column = first; column <= last; ++column)
+            columns.insert(columns.end(), static_cast<std::size_t>(times), column);
+    }
+    return columns;
+}
+
+Terrain TerrainOf(const SourceWord& word) {
+    return static_cast<Terrain>(IndexOf(word, TerrainNames(), "terrain class"));
+}
+
+const WayRule& WayRuleOf(const SourceWord& word) {
+    std::vector<std::string> names;
+    for (const WayRule& rule : WayRules)
+        names.emplace_back(rule.word);
+    return WayRules[IndexOf(word, names, "way to choose a tile")];
+}
+
+// The words after the columns: "also <classes>", "link", "steep", then ": description" or the end.
+void ReadOptions(LegendLine& line, Glyph& glyph) {
+    while (!line.Empty()) {
+        const SourceWord& word = line.Take("an option");
+        if (word.text == ":") return;
+        switch (IndexOf(word, {"also", "link", "steep"}, "option")) {
+            case 0:
+                for (const SourceWord& part : SplitAt(line.Take("a list of terrain classes"), ',')) {
+                    glyph.joins.push_back(TerrainOf(part));
+                }
+                break;
+            case 1:
+                glyph.links = true;
+                break;
+            default:
+                glyph.steep = true;
+                break;
+        }
+    }
+}
+
+Glyph ReadGlyph(LegendLine& line) {
+    Glyph glyph;
+    glyph.defined = true;
+    glyph.terrain = TerrainOf(line.Take("a terrain class"));
+    glyph.joins = {glyph.terrain};
+    const WayRule& rule = WayRuleOf(line.Take("a way to choose a tile"));
+    glyph.way = rule.way;
+    glyph.links = rule.links;
+    for (int i = 0; i < rule.columnLists; ++i) {
+        const std::vector<int> columns = ColumnsOf(line.Take("columns of the tile sheet"));
+        glyph.columns.insert(glyph.columns.end(), columns.begin(), columns.end());
+    }
+    if (glyph.way == Way::Block) {
+        glyph.width = NumberOf(line.Take("the width in cells"), 1, MapWidth, "width");
+        glyph.height = NumberOf(line.Take("the height in cells"), 1, MapHeight, "height");
+    }
+    ReadOptions(line, glyph);
+    return glyph;
+}
+
+void ReadLegendLine(const std::string& text, int number, MapSource& map) {
+    LegendLine line(SplitWords(text, number), {number, static_cast<int>(text.size()) + 1});
+    const SourceWord& key = line.Take("a glyph");
+    const char glyph = key.text.front();
+    if (key.text.size() != 1 || glyph <= ' ' || glyph > '~') {
+        throw SourceError(key.place, "\"" + key.text + "\" is no glyph", "one printable ASCII character");
+    }
+    Glyph& entry = map.legend[static_cast<unsigned char>(glyph)];
+    if (entry.defined)
+        throw SourceError(key.place, "glyph \"" + key.text + "\" comes twice", "each glyph once");
+    entry = ReadGlyph(line);
+}
+
+void ReadFieldLine(const std::string& text, int number, MapSource& map, std::string& row) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto code = static_cast<unsigned char>(text[i]);
+        if (code >= map.legend.size() || !map.legend[code].defined) {
+            throw SourceError({number, static_cast<int>(i) + 1}, "the legend has no such glyph",
+                              "a glyph of the legend");
+        }
+    }
+    if (text.size() != static_cast<std::size_t>(MapWidth)) {
+        throw SourceError({number, static_cast<int>(text.size()) + 1},
+                          "this row of the field has " + std::to_string(text.size()) + " glyphs",
+                          std::to_string(MapWidth));
+    }
+    row = text;
+}
+
+bool IsBlankOrComment(const std::string& text) {
+    return text.find_first_not_of(" \t") == std::string::npos || text.front() == '#';
+}
+
+int LineNumber(std::size_t index) {
+    return static_cast<int>(index) + 1;
+}
+
+}  // namespace
+
+char MapSource::GlyphAt(int x, int y) const {
+    return rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
+}
+
+const Glyph& MapSource::At(int x, int y) const {
+    return legend[static_cast<unsigned char>(GlyphAt(x, y))];
+}
+
+SourcePlace MapSource::Place(int x, int y) const {
+    return {firstLine + y, x + 1};
+}
+
+MapSource ReadMapSource(const std::vector<std::string>& lines) {
+    MapSource map;
+    std::size_t i = 0;
+    for (; i < lines.size() && lines[i] != "field"; ++i) {
+        if (!IsBlankOrComment(lines[i]) && lines[i] != "legend") ReadLegendLine(lines[i], LineNumber(i), map);
+    }
+    map.firstLine = LineNumber(i) + 1;
+    for (std::string& row : map.rows) {
+        if (++i >= lines.size()) {
+            throw SourceError({LineNumber(std::min(i, lines.size())), 1}, "the field ends too early",
+                              "\"field\" and " + std::to_string(MapHeight) + " rows");
+        }
+        ReadFieldLine(lines[i], LineNumber(i), map, row);
+    }
+    for (++i; i < lines.size(); ++i) {
+        if (!IsBlankOrComment(lines[i]))
+            throw SourceError({LineNumber(i), 1}, "text after the field", "the end of the file");
+    }
+    return map;
+}

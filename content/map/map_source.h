@@ -1,0 +1,45 @@
+// The text source of a map: a legend that gives each glyph its terrain class and its way of choosing a tile,
+// and a field of 46 lines of 76 glyphs. The head of 49.txt tells the format.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "source_text.h"
+#include "terrain.h"
+
+/// How a glyph's cell chooses its tile.
+enum class Way {
+    Tile,   // always the same column
+    Pick,   // one of several columns, by the place of the cell
+    Join,   // a wall: joints 0 to 10
+    Line,   // a line with ends: joints 0 to 14
+    Axis,   // one of two columns: the line runs west-east or north-south
+    Banks,  // water: open columns, or a bank where land is near
+    Block,  // a drawing over several cells
+};
+
+struct Glyph {
+    bool defined = false;
+    Terrain terrain = Terrain::Surface;
+    Way way = Way::Tile;
+    std::vector<int> columns;
+    int width = 1, height = 1;   // of a Block, in cells
+    bool links = false;          // the lines of its class go on into it
+    bool steep = false;          // water beside it has no bank
+    std::vector<Terrain> joins;  // the classes that its line goes on into
+};
+
+struct MapSource {
+    std::array<Glyph, 128> legend;
+    std::array<std::string, MapHeight> rows;
+    int firstLine = 1;  // line of the file that holds row 0 of the field
+
+    char GlyphAt(int x, int y) const;
+    const Glyph& At(int x, int y) const;
+    SourcePlace Place(int x, int y) const;
+};
+
+/// Throws SourceError.
+MapSource ReadMapSource(const std::vector<std::string>& lines);

@@ -1,0 +1,73 @@
+#include "source_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <fstream>
+#include <iostream>
+
+SourceError::SourceError(SourcePlace at, const std::string& wrong, const std::string& expected)
+    : std::runtime_error(wrong + ", expected " + expected), place(at) {}
+
+std::vector<std::string> ReadSourceLines(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw std::runtime_error("can't open " + path);
+    std::vector<std::string> lines;
+    for (std::string text; std::getline(file, text);) {
+        if (!text.empty() && text.back() == '\r') text.pop_back();
+        lines.push_back(text);
+    }
+    return lines;
+}
+
+std::vector<SourceWord> SplitWords(std::string_view text, int line) {
+    constexpr std::string_view Blanks = " \t";
+    std::vector<SourceWord> words;
+    std::size_t begin = text.find_first_not_of(Blanks);
+    while (begin != std::string_view::npos) {
+        const std::size_t end = std::min(text.find_first_of(Blanks, begin), text.size());
+        const std::string_view word = text.substr(begin, end - begin);
+        if (word == "#") break;
+        words.push_back({std::string(word), {line, static_cast<int>(begin) + 1}});
+        begin = text.find_first_not_of(Blanks, end);
+    }
+    return words;
+}
+
+int NumberOf(const SourceWord& word, int low, int high, const std::string& name) {
+    int value = 0;
+    const char* const end = word.text.data() + word.text.size();
+    const auto [last, error] = std::from_chars(word.text.data(), end, value);
+    if (error != std::errc{} || last != end || value < low || value > high) {
+        throw SourceError(word.place, "\"" + word.text + "\" is no " + name,
+                          "a number from " + std::to_string(low) + " to " + std::to_string(high));
+    }
+    return value;
+}
+
+std::string JoinWords(const std::vector<std::string>& list) {
+    std::string text;
+    for (const std::string& word : list)
+        text += (text.empty() ? "" : ", ") + word;
+    return text;
+}
+
+int IndexOf(const SourceWord& word, const std::vector<std::string>& list, const std::string& name) {
+    const auto found = std::find(list.begin(), list.end(), word.text);
+    if (found == list.end()) {
+        throw SourceError(word.place, "\"" + word.text + "\" is no " + name, "one of " + JoinWords(list));
+    }
+    return static_cast<int>(found - list.begin());
+}
+
+int RunCompiler(const std::string& source, const std::function<void()>& work) {
+    try {
+        work();
+        return 0;
+    } catch (const SourceError& error) {
+        std::cerr << source << ':' << error.place.line << ':' << error.place.column << ": " << error.what()
+                  << '\n';
+    } catch (const std::exception& error) {
+        std::cerr << source << ": " << error.what() << '\n';
+    }
+    return 1;
+}

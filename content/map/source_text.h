@@ -1,0 +1,46 @@
+// What the compilers of text sources share: reading a source by lines and words, and the one way in which
+// they refuse it: "file:line:column: what is wrong, expected ...". Lines and columns count from 1.
+#pragma once
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct SourcePlace {
+    int line = 1;
+    int column = 1;
+};
+
+class SourceError : public std::runtime_error {
+  public:
+    SourceError(SourcePlace at, const std::string& wrong, const std::string& expected);
+
+    SourcePlace place;
+};
+
+struct SourceWord {
+    std::string text;
+    SourcePlace place;
+};
+
+/// The lines of a text file without their ends (LF or CR LF). Throws std::runtime_error when it can't be
+/// read.
+std::vector<std::string> ReadSourceLines(const std::string& path);
+
+/// The words of a line, parted by blanks or tabs. Nothing after a word "#" counts.
+std::vector<SourceWord> SplitWords(std::string_view text, int line);
+
+/// The text of the word as a plain decimal number from low to high. `name` says what the number is.
+int NumberOf(const SourceWord& word, int low, int high, const std::string& name);
+
+/// The place of `key` in a list of words, or a SourceError that lists them all.
+int IndexOf(const SourceWord& word, const std::vector<std::string>& list, const std::string& name);
+
+/// The words with ", " between them, for messages.
+std::string JoinWords(const std::vector<std::string>& list);
+
+/// Runs a compiler over `source` and returns the exit code of its program: 0, or 1 after one message on
+/// standard error.
+int RunCompiler(const std::string& source, const std::function<void()>& work);

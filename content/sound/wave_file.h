@@ -1,0 +1,8 @@
+#pragma once
+
+#include <filesystem>
+
+#include "signal.h"
+
+/// Writes a signal as a 16-bit mono PCM file of SampleRate; makes its folder. Throws std::runtime_error.
+void WriteWave(const std::filesystem::path& path, const Signal& signal);

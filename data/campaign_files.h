@@ -1,0 +1,23 @@
+// The campaign's files: the roster (read only), the vehicle store (read, and rewritten at the mission's end),
+// the things lying on a map (read only) and the dossier's small table of facings.
+#pragma once
+
+#include <string>
+
+/// Reads "\dat\save.dat" into the units 60 to 79 and teamLast[3]. Throws RunTimeError with file and record.
+void LoadRoster();
+
+/// Reads "\dat\apc.dat" into storeItems. Throws RunTimeError with file and record.
+void LoadStore();
+
+/// Rewrites "\dat\apc.dat" from storeItems. At any moment the file is the old or the new one, whole. Throws
+/// RunTimeError (FileWrite) and leaves the old one.
+void SaveStore();
+
+/// Reads "\map\<name>g.map" into groundItems and marks the cells that hold things. Throws RunTimeError with
+/// file and record.
+void LoadGroundItems(const std::string& name);
+
+/// What the dossier shows for a facing, 0 to 7: the fourth value of its row in "\dat\ori.dat". Throws
+/// RunTimeError.
+std::string FacingText(int facing);

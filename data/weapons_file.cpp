@@ -1,0 +1,179 @@
+#include "data/weapons_file.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "platform/files.h"
+
+namespace {
+
+constexpr std::size_t ColumnCount = 20;
+constexpr int TabPasses = 6;  // so up to 64 tabs in a row part two columns
+
+// The columns by what they hold; those that are read differently have a name.
+enum Column : std::size_t {
+    KindColumn = 1,
+    NameColumn = 2,
+    SoundColumn = 3,
+    ModesColumn = 10,
+    CountryColumn = 17,
+    TitleColumn = 18,
+    FullNameColumn = 19
+};
+
+struct NumberColumn {
+    std::size_t column;
+    i16 WeaponInfo::*field;
+    const char* name;
+};
+
+// Read only for what can be used as a weapon, kinds "m" and "w".
+constexpr NumberColumn WeaponNumbers[] = {
+    {4, &WeaponInfo::power, "power"}, {5, &WeaponInfo::accur, "accur"}, {6, &WeaponInfo::time, "time"},
+    {7, &WeaponInfo::range, "range"}, {8, &WeaponInfo::durab, "durab"}, {9, &WeaponInfo::param9, "9"},
+};
+
+constexpr NumberColumn AllNumbers[] = {
+    {13, &WeaponInfo::param13, "13"},
+    {14, &WeaponInfo::param14, "14"},
+    {15, &WeaponInfo::unitCount, "long"},
+    {16, &WeaponInfo::param16, "16"},
+};
+
+// A character and the column of the file's line that it came from, 1 for the first.
+struct Placed {
+    char character;
+    int column;
+};
+
+using PlacedText = std::vector<Placed>;
+
+// One tab for every pair of tabs.
+PlacedText HalveTabs(const PlacedText& line) {
+    PlacedText halved;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        halved.push_back(line[i]);
+        if (line[i].character == '\t' && i + 1 < line.size() && line[i + 1].character == '\t') ++i;
+    }
+    return halved;
+}
+
+// One line of the file, split into its columns.
+class Row {
+  public:
+    Row(const TextReader& reader, int atLine, const std::string& text) : file(reader), line(atLine) {
+        PlacedText placed;
+        for (const char character : text)
+            placed.push_back({character == '_' ? '0' : character, static_cast<int>(placed.size()) + 1});
+        for (int pass = 0; pass < TabPasses; ++pass)
+            placed = HalveTabs(placed);
+        Split(placed);
+        if (columns.size() < ColumnCount)
+            file.RefuseAt(line, static_cast<int>(text.size()) + 1,
+                          "expected 20 columns, found " + std::to_string(columns.size()));
+    }
+
+    const std::string& Text(std::size_t column) const { return columns[column].text; }
+
+    // A text column in which "0" is the mark for nothing.
+    std::string TextOr(std::size_t column, const std::string& nothing) const {
+        return Text(column) == "0" ? nothing : Text(column);
+    }
+
+    i16 Number(std::size_t column, const char* name) const {
+        const std::string& text = Text(column);
+        int value = 0;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+        const bool whole = error == std::errc() && end == text.data() + text.size();
+        if (!whole || value < -32768 || value > 32767)
+            Refuse(column, "expected a whole number in the column \"" + std::string(name) + "\"");
+        return value;
+    }
+
+    void ReadModes(Array<i16, 0, 6>& modes) const {
+        const std::string& text = Text(ModesColumn);
+        const bool digits =
+            std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+        if (!digits || text.size() != 7) Refuse(ModesColumn, "expected seven digits in the column \"modes\"");
+        for (int i = 0; i < 7; ++i)
+            modes[i] = text[static_cast<std::size_t>(i)] - '0';
+    }
+
+  private:
+    struct ColumnText {
+        std::string text;
+        int start;
+    };
+
+    void Split(const PlacedText& placed) {
+        columns.push_back({"", 1});
+        for (const Placed& next : placed) {
+            if (next.character == '\t')
+                columns.push_back({"", next.column + 1});
+            else
+                StartOrAppend(columns.back(), next);
+        }
+    }
+
+    static void StartOrAppend(ColumnText& column, const Placed& next) {
+        if (column.text.empty()) column.start = next.column;
+        column.text.push_back(next.character);
+    }
+
+    [[noreturn]] void Refuse(std::size_t column, const std::string& expected) const {
+        file.RefuseAt(line, columns[column].start, expected + ", found \"" + Text(column) + "\"");
+    }
+
+    const TextReader& file;
+    int line;
+    std::vector<ColumnText> columns;
+};
+
+WeaponInfo ReadRow(const Row& row) {
+    WeaponInfo weapon;
+    weapon.kind = row.Text(KindColumn);
+    weapon.name = row.Text(NameColumn);
+    if (weapon.kind == "m" || weapon.kind == "w") {
+        weapon.sound = row.TextOr(SoundColumn, "");
+        for (const NumberColumn& number : WeaponNumbers)
+            weapon.*number.field = row.Number(number.column, number.name);
+        row.ReadModes(weapon.modes);
+    }
+    weapon.weaponClass = row.TextOr(11, "");
+    weapon.ammoSecond = row.TextOr(12, "");
+    for (const NumberColumn& number : AllNumbers)
+        weapon.*number.field = row.Number(number.column, number.name);
+    weapon.country = row.TextOr(CountryColumn, "void");
+    weapon.title = row.TextOr(TitleColumn, "");
+    weapon.fullName = row.TextOr(FullNameColumn, weapon.title);
+    return weapon;
+}
+
+}  // namespace
+
+void ReadWeapons() {
+    TextReader file("\\dat\\weapons.dat");
+    weaponTable.clear();
+    while (!file.AtEnd()) {
+        const int line = file.Line();
+        const std::string text = file.ReadLine();
+        if (!text.empty() && text[0] != '#') weaponTable.push_back(ReadRow(Row(file, line, text)));
+    }
+    file.CheckLastLineEnd();
+    if (WeaponIndex("hand") < 0) file.Refuse("expected a row named \"hand\", found none");
+}
+
+const WeaponInfo& WeaponInfoByName(std::string_view key) {
+    static const WeaponInfo none;
+    const int index = WeaponIndex(key);
+    return index < 0 ? none : weaponTable[static_cast<std::size_t>(index)];
+}
+
+int WeaponIndex(std::string_view key) {
+    for (std::size_t i = 0; i < weaponTable.size(); ++i)
+        if (weaponTable[i].name == key) return static_cast<int>(i);
+    return -1;
+}

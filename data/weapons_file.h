@@ -1,0 +1,17 @@
+// The weapons file: one line a row, columns parted by tabs. Everything that can be held, worn, thrown or
+// loaded has a row here.
+#pragma once
+
+#include <string_view>
+
+#include "state/state.h"
+
+/// Reads "\dat\weapons.dat" into weaponTable. Throws RunTimeError with line and column for a row with too few
+/// columns, a column that isn't the number it should be, or when no row is named "hand".
+void ReadWeapons();
+
+/// The first row with this key; an empty row when there is none.
+const WeaponInfo& WeaponInfoByName(std::string_view key);
+
+/// Its index, -1 when there is none.
+int WeaponIndex(std::string_view key);

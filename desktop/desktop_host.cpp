@@ -1,0 +1,139 @@
+#include "desktop/desktop_host.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <thread>
+#include <utility>
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace {
+
+using std::chrono::steady_clock;
+
+constexpr const char* GameName = "Sarnoth III";
+constexpr std::chrono::seconds QuietTime(10);  // an open sound device costs processor time also in silence
+
+void ShowBox(QMessageBox::Icon icon, const std::string& text) {
+    QMessageBox box(icon, QString::fromUtf8(GameName), QString::fromStdString(text), QMessageBox::Ok,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+// Handles events until `end`, but for the last part of a millisecond, which is below what a timer counts.
+void HandleEventsUntil(steady_clock::time_point end) {
+    QTimer alarm;
+    alarm.setTimerType(Qt::PreciseTimer);
+    alarm.setSingleShot(true);
+    for (;;) {
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - steady_clock::now());
+        if (left.count() <= 0) return;
+        alarm.start(left);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
+
+}  // namespace
+
+DesktopHost::DesktopHost(Form& mainForm, const std::vector<Form*>& otherForms, EventSink dispatchRoutine)
+    : dispatch(std::move(dispatchRoutine)),
+      mainWindow(mainForm, nullptr, [this](const InputEvent& event) { Receive(event); }),
+      forms(otherForms) {
+    quiet.setSingleShot(true);
+    quiet.setInterval(QuietTime);
+    QObject::connect(&quiet, &QTimer::timeout, &quiet, [this] { CloseQuietDevice(); });
+    InstallHost(this);
+}
+
+DesktopHost::~DesktopHost() { InstallHost(nullptr); }
+
+void DesktopHost::Enter(const std::function<void()>& piece) {
+    try {
+        piece();
+    } catch (const std::exception& error) {
+        Fail(error.what());
+    }
+    Sync();
+}
+
+void DesktopHost::Receive(const InputEvent& event) {
+    Enter([&] { dispatch(event); });
+    if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name) EndProcess(EXIT_SUCCESS);
+}
+
+FormWindow& DesktopHost::WindowOf(Form& form) {
+    if (&form == &mainWindow.Shown()) return mainWindow;
+    for (FormWindow* window : otherWindows)
+        if (&window->Shown() == &form) return *window;
+    otherWindows.push_back(new FormWindow(form, &mainWindow, [this](const InputEvent& event) { Receive(event); }));
+    return *otherWindows.back();
+}
+
+void DesktopHost::Sync() {
+    mainWindow.Sync();
+    for (Form* form : forms)
+        if (form->Visible) WindowOf(*form);
+    for (FormWindow* window : otherWindows)
+        window->Sync();
+}
+
+void DesktopHost::Refresh(Control& control) {
+    FormWindow& window = WindowOf(*control.form);
+    window.Sync();
+    window.PaintNow();
+}
+
+void DesktopHost::PumpEvents() {
+    Sync();
+    QCoreApplication::processEvents();
+}
+
+void DesktopHost::Wait(std::chrono::nanoseconds time, bool pump) {
+    const auto end = steady_clock::now() + time;
+    if (pump) {
+        PumpEvents();
+        HandleEventsUntil(end);
+    }
+    std::this_thread::sleep_until(end);
+}
+
+void DesktopHost::ShowModal(Form& form) {
+    WindowOf(form).setWindowModality(Qt::WindowModal);
+    Sync();
+    while (form.Visible)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    Sync();
+}
+
+void DesktopHost::ShowMessage(const std::string& text) {
+    Sync();
+    ShowBox(QMessageBox::Information, text);
+}
+
+void DesktopHost::PlaySound(const SoundRequest& sound) {
+    soundDevice.Play(sound);
+    quiet.start();
+}
+
+void DesktopHost::CloseQuietDevice() {
+    if (soundDevice.Playing())
+        quiet.start();
+    else
+        soundDevice.Close();
+}
+
+void DesktopHost::EndProcess(int exitCode) {
+    soundDevice.Close();
+    std::fflush(nullptr);
+    std::_Exit(exitCode);
+}
+
+void DesktopHost::Fail(const std::string& text) {
+    std::fprintf(stderr, "%s: %s\n", GameName, text.c_str());
+    ShowBox(QMessageBox::Critical, text);
+    EndProcess(EXIT_FAILURE);
+}

@@ -1,0 +1,48 @@
+// The host of the desktop program: shows the forms as windows, lets their events into the game, and answers what the
+// game asks of the machine.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <QTimer>
+
+#include "desktop/form_window.h"
+#include "desktop/sound_device.h"
+#include "platform/host.h"
+
+class DesktopHost final : public Host {
+  public:
+    /// `mainForm` is the window whose close button ends the program; `otherForms` are shown when they turn visible.
+    /// Events go to `dispatchRoutine`. Installs itself for as long as it lives.
+    DesktopHost(Form& mainForm, const std::vector<Form*>& otherForms, EventSink dispatchRoutine);
+    ~DesktopHost() override;
+
+    /// Runs a piece of the game and shows what it has changed. This is the one place where the game is entered: an
+    /// error is shown in a box and on standard error, and the process ends with exit code 1.
+    void Enter(const std::function<void()>& piece);
+
+    /// The window of a form; made at its first use.
+    FormWindow& WindowOf(Form& form);
+
+    void Refresh(Control& control) override;
+    void PumpEvents() override;
+    void Wait(std::chrono::nanoseconds time, bool pump) override;
+    void ShowModal(Form& form) override;
+    void ShowMessage(const std::string& text) override;
+    void PlaySound(const SoundRequest& sound) override;
+    [[noreturn]] void EndProcess(int exitCode) override;
+
+  private:
+    void Receive(const InputEvent& event);
+    void Sync();
+    [[noreturn]] void Fail(const std::string& text);
+    void CloseQuietDevice();
+
+    const EventSink dispatch;
+    FormWindow mainWindow;
+    std::vector<FormWindow*> otherWindows;  // the main window owns them
+    std::vector<Form*> forms;               // all but the main one
+    SoundDevice soundDevice;
+    QTimer quiet;  // runs out when no sound was asked for in a while
+};

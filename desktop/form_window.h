@@ -1,0 +1,60 @@
+// One window of the game: a real widget for every control of a form, and the form's keys and close button as events.
+#pragma once
+
+#include <vector>
+
+#include <QWidget>
+
+#include "desktop/control_view.h"
+
+class QAction;
+class QMenuBar;
+
+class FormWindow : public QWidget {
+  public:
+    /// A window for `shown`, not on the screen until Sync finds the form visible. With an `owner` it stands before
+    /// the owner, in its middle. `to` takes all its events.
+    FormWindow(Form& shown, QWidget* owner, EventSink to);
+
+    Form& Shown() const { return form; }
+
+    /// Brings the window and all its widgets in line with their records.
+    void Sync();
+
+    /// Paints at once what Sync has found changed. No event is handled, but that the first time after the window came
+    /// on the screen this waits for the window system to show it.
+    void PaintNow();
+
+    /// The widget of one of the form's controls, nullptr for a menu entry.
+    QWidget* WidgetOf(const Control& control) const;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    /// The close button only asks: what comes of it is for the game and the host.
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    struct MenuEntry {
+        MenuItem* item;
+        QAction* action;
+    };
+
+    void Build();
+    void AddMenuEntry(MenuItem& item);
+    void SyncMenu();
+    void SyncFrame();
+    void SyncVisible();
+    void SendKey(EventKind kind, const QKeyEvent& key) const;
+    void AwaitExposure();
+
+    Form& form;
+    const EventSink sink;
+    QWidget* client;           // the inside, below the menu
+    QMenuBar* menu = nullptr;  // only where the form has menu entries
+    std::vector<MenuEntry> menuEntries;
+    std::vector<ControlView*> views;  // in the order of the form's controls
+    std::string shownCaption;
+    Colour shownColour = 0;
+    bool justShown = false;
+};

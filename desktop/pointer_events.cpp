@@ -1,0 +1,47 @@
+#include "desktop/pointer_events.h"
+
+#include "desktop/key_codes.h"
+
+namespace {
+
+// 1 left, 2 right, 4 middle, added up.
+int ButtonCode(Qt::MouseButtons buttons) {
+    int code = 0;
+    if (buttons & Qt::LeftButton) code += 1;
+    if (buttons & Qt::RightButton) code += 2;
+    if (buttons & Qt::MiddleButton) code += 4;
+    return code;
+}
+
+}  // namespace
+
+PointerEvents::PointerEvents(QWidget& target, const Control& ofControl, const EventSink& to)
+    : QObject(&target), widget(target), control(ofControl), sink(to) {
+    widget.setMouseTracking(true);
+    widget.installEventFilter(this);
+}
+
+bool PointerEvents::eventFilter(QObject* /*watched*/, QEvent* event) {
+    const auto mouse = [event]() -> const QMouseEvent& { return static_cast<const QMouseEvent&>(*event); };
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick: Send(EventKind::MouseDown, ButtonCode(mouse().button()), mouse()); return true;
+        case QEvent::MouseMove: Send(EventKind::MouseMove, ButtonCode(mouse().buttons()), mouse()); return true;
+        case QEvent::MouseButtonRelease: Release(mouse()); return true;
+        default: return false;
+    }
+}
+
+void PointerEvents::Send(EventKind kind, int code, const QMouseEvent& mouse) const {
+    InputEvent event = EventOf(control, kind, code);
+    event.shift = ShiftState(mouse.modifiers());
+    event.x = static_cast<float>(mouse.position().x());
+    event.y = static_cast<float>(mouse.position().y());
+    sink(event);
+}
+
+void PointerEvents::Release(const QMouseEvent& mouse) const {
+    Send(EventKind::MouseUp, ButtonCode(mouse.button()), mouse);
+    const bool inside = widget.rect().contains(mouse.position().toPoint());
+    if (mouse.button() == Qt::LeftButton && inside) Send(EventKind::Click, ButtonCode(mouse.button()), mouse);
+}

@@ -1,0 +1,34 @@
+// Sounds on the machine's sound device, up to four at once. Where there is no device nothing is heard and nobody is
+// troubled.
+#pragma once
+
+#include <vector>
+
+#include "platform/host.h"
+
+class SoundDevice {
+  public:
+    SoundDevice();
+    ~SoundDevice();
+    SoundDevice(const SoundDevice&) = delete;
+    SoundDevice& operator=(const SoundDevice&) = delete;
+
+    /// Starts a sound and returns. Opens the device if need be. Throws RunTimeError (BadData) for a file that isn't a
+    /// sound, as long as there is a device.
+    void Play(const SoundRequest& sound);
+
+    bool Playing() const;
+
+    /// Cuts what plays and gives the device back until the next Play.
+    void Close();
+
+  private:
+    enum class State { Closed, Open, Missing };
+
+    struct Slot;
+
+    bool Open();
+
+    State state = State::Closed;
+    std::vector<Slot> slots;  // by the request's slot
+};

@@ -1,0 +1,218 @@
+#include "platform/files.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+
+#include "platform/code_page.h"
+
+namespace {
+
+std::filesystem::path programFolder = ".";
+
+[[noreturn]] void ThrowBadData(const std::string& place, const std::string& problem) {
+    throw RunTimeError(Fault::BadData, place + ": " + problem);
+}
+
+[[noreturn]] void ThrowNotWritten(std::string_view name) {
+    throw RunTimeError(Fault::FileWrite, ShownName(name) + ": " + std::strerror(errno));
+}
+
+// A file descriptor that closes itself.
+class OpenFile {
+  public:
+    OpenFile(const std::filesystem::path& path, int flags) : descriptor(::open(path.c_str(), flags, 0644)) {}
+    ~OpenFile() { Close(); }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    bool Good() const { return descriptor >= 0; }
+    bool Write(std::string_view content) const {
+        while (!content.empty()) {
+            const ssize_t written = ::write(descriptor, content.data(), content.size());
+            if (written < 0 && errno == EINTR) continue;
+            if (written < 0) return false;
+            content.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return true;
+    }
+    bool Flush() const { return ::fsync(descriptor) == 0; }
+    bool Close() {
+        const int closing = descriptor;
+        descriptor = -1;
+        return closing < 0 || ::close(closing) == 0;
+    }
+
+  private:
+    int descriptor;
+};
+
+bool WriteAside(const std::filesystem::path& aside, std::string_view content) {
+    OpenFile file(aside, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
+    return file.Good() && file.Write(content) && file.Flush() && file.Close();
+}
+
+}  // namespace
+
+void SetProgramFolder(const std::filesystem::path& folder) {
+    programFolder = folder;
+}
+
+std::string ShownName(std::string_view name) {
+    std::string shown(name);
+    std::replace(shown.begin(), shown.end(), '\\', '/');
+    shown.erase(0, shown.find_first_not_of('/'));
+    return shown;
+}
+
+std::filesystem::path ProgramPath(std::string_view name) {
+    return programFolder / ShownName(name);
+}
+
+bool FileExists(std::string_view name) {
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(ProgramPath(name), ignored);
+}
+
+std::string ReadWholeFile(std::string_view name) {
+    if (!FileExists(name)) throw RunTimeError(Fault::FileMissing, ShownName(name));
+    std::ifstream file(ProgramPath(name), std::ios::binary);
+    std::string content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    if (!file) throw RunTimeError(Fault::FileMissing, ShownName(name) + ": it can't be read");
+    return content;
+}
+
+void ReplaceFile(std::string_view name, std::string_view content) {
+    const std::filesystem::path path = ProgramPath(name);
+    std::filesystem::path aside = path;
+    aside += ".new";
+    if (!WriteAside(aside, content) || ::rename(aside.c_str(), path.c_str()) != 0) {
+        const int reason = errno;
+        ::unlink(aside.c_str());
+        errno = reason;
+        ThrowNotWritten(name);
+    }
+    // The new name itself reaches the disk with its folder; where a folder can't be flushed the file is whole
+    // anyway.
+    const OpenFile folder(path.parent_path(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder.Good()) folder.Flush();
+}
+
+TextReader::TextReader(std::string_view fileName)
+    : name(ShownName(fileName)), content(ReadWholeFile(fileName)) {}
+
+bool TextReader::AtLineEnd() const {
+    return AtEnd() || content[position] == '\n' || content.compare(position, 2, "\r\n") == 0;
+}
+
+int TextReader::ReadCharacter(std::string_view expected) {
+    if (AtLineEnd())
+        Refuse("expected " + std::string(expected) + ", found the end of the " + (AtEnd() ? "file" : "line"));
+    ++column;
+    return static_cast<unsigned char>(content[position++]);
+}
+
+void TextReader::ReadLineEnd(std::string_view expected) {
+    if (AtEnd()) return;
+    if (!AtLineEnd()) Refuse("expected " + std::string(expected));
+    position += content[position] == '\r' ? 2 : 1;
+    ++line;
+    column = 1;
+}
+
+std::string TextReader::ReadLine() {
+    const std::size_t start = position;
+    while (!AtLineEnd()) {
+        ++position;
+        ++column;
+    }
+    std::string text = content.substr(start, position - start);
+    ReadLineEnd("the end of the line");
+    return text;
+}
+
+void TextReader::CheckLastLineEnd() const {
+    if (column > 1) Refuse("expected the end of the line, found the end of the file");
+}
+
+void TextReader::Refuse(const std::string& problem) const {
+    RefuseAt(line, column, problem);
+}
+
+void TextReader::RefuseAt(int atLine, int atColumn, const std::string& problem) const {
+    ThrowBadData(name + ":" + std::to_string(atLine) + ":" + std::to_string(atColumn), problem);
+}
+
+int Record::ReadInt16(std::size_t offset) const {
+    return static_cast<std::int16_t>(static_cast<std::uint16_t>(At(offset) | At(offset + 1) << 8));
+}
+
+std::string Record::ReadText(std::size_t offset, std::size_t length) const {
+    std::string text;
+    for (std::size_t i = offset; i < offset + length && At(i) != 0; ++i) {
+        if (At(i) < ' ') Refuse(i, "expected a text, found the code " + std::to_string(At(i)));
+        text.push_back(static_cast<char>(At(i)));
+    }
+    return FromCodePage(text);
+}
+
+void Record::WriteInt16(std::size_t offset, int value) {
+    WriteByte(offset, value & 0xFF);
+    WriteByte(offset + 1, value >> 8 & 0xFF);
+}
+
+void Record::WriteText(std::size_t offset, std::size_t length, std::string_view text) {
+    std::string field = ToCodePage(text);
+    field.resize(length, ' ');
+    std::copy(field.begin(), field.end(), bytes.begin() + static_cast<std::ptrdiff_t>(offset));
+}
+
+void Record::Refuse(std::size_t offset, const std::string& problem, Fault fault) const {
+    throw RunTimeError(fault, place + ", byte " + std::to_string(offset) + ": " + problem);
+}
+
+RecordReader::RecordReader(std::string_view fileName, std::size_t recordLength)
+    : name(ShownName(fileName)), content(ReadWholeFile(fileName)), length(recordLength) {}
+
+Record RecordReader::Read(int number) const {
+    const std::string place = name + ": record " + std::to_string(number);
+    Record record(length, place);
+    const std::size_t start = static_cast<std::size_t>(number - 1) * length;
+    if (start >= content.size()) return record;
+    if (content.size() - start < length)
+        ThrowBadData(place, "expected " + std::to_string(length) + " bytes, found " +
+                                std::to_string(content.size() - start));
+    std::copy_n(content.begin() + static_cast<std::ptrdiff_t>(start), length, record.Bytes().begin());
+    return record;
+}
+
+Record RecordReader::ReadCounted(int number, const std::string& why) const {
+    if (static_cast<std::size_t>(number) * length > content.size() + length - 1)
+        ThrowBadData(name + ": record " + std::to_string(number),
+                     "expected " + why + ", found the end of the file");
+    return Read(number);
+}
+
+std::string CommaReader::ReadValue(std::string_view expected) {
+    if (text.AtEnd()) text.Refuse("expected " + std::string(expected) + ", found the end of the file");
+    std::string value;
+    bool quoted = false;
+    bool ended = false;
+    while (!ended && !text.AtLineEnd()) {
+        const char next = static_cast<char>(text.ReadCharacter(expected));
+        ended = next == ',' && !quoted;
+        if (next == '"')
+            quoted = !quoted;
+        else if (!ended)
+            value.push_back(next);
+    }
+    if (!ended) text.ReadLineEnd("the end of the line");
+    value.erase(value.find_last_not_of(' ') + 1);
+    value.erase(0, value.find_first_not_of(' '));
+    return value;
+}

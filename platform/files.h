@@ -1,0 +1,131 @@
+// Files under the program's folder. They are named as the game names them, with either slash, as
+// "\dat\weapons.dat". Every reader reports trouble as RunTimeError with the file, the place in it and what
+// was expected there.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/run_time_error.h"
+
+/// The folder that "\dat\", "\map\", "\pic\" and "\wav\" lie in; the working folder until it is set.
+void SetProgramFolder(const std::filesystem::path& folder);
+std::filesystem::path ProgramPath(std::string_view name);
+
+/// A file's name as messages show it: relative, with forward slashes, as "dat/weapons.dat".
+std::string ShownName(std::string_view name);
+
+bool FileExists(std::string_view name);
+
+/// The whole content. Throws FileMissing.
+std::string ReadWholeFile(std::string_view name);
+
+/// Puts `content` in the place of the file's old content so that at any moment, a full disk, a power cut or a
+/// kill included, the file is either the old one or the new one, whole. Throws FileWrite and leaves the old
+/// one.
+void ReplaceFile(std::string_view name, std::string_view content);
+
+/// Reads a text character by character and knows where it is. CR LF and LF both end a line.
+class TextReader {
+  public:
+    explicit TextReader(std::string_view fileName);
+
+    bool AtEnd() const { return position == content.size(); }
+    bool AtLineEnd() const;
+
+    /// The next character's code, 0 to 255. Throws BadData at a line's end or the file's, saying that
+    /// `expected` should stand there.
+    int ReadCharacter(std::string_view expected);
+
+    /// Goes past the line's end that must stand here. At the end of the file it does nothing.
+    void ReadLineEnd(std::string_view expected);
+
+    /// The rest of the line, without its end, which is passed.
+    std::string ReadLine();
+
+    /// At the end of the file: throws BadData unless its last line was ended, so that a file cut short is noticed.
+    void CheckLastLineEnd() const;
+
+    /// 1 for the first line.
+    int Line() const { return line; }
+
+    /// A BadData error at this place.
+    [[noreturn]] void Refuse(const std::string& problem) const;
+    /// The same at `column`, 1 for the first character, of `atLine`.
+    [[noreturn]] void RefuseAt(int atLine, int column, const std::string& problem) const;
+
+  private:
+    std::string name;
+    std::string content;
+    std::size_t position = 0;
+    int line = 1;
+    int column = 1;
+};
+
+/// One record of a file of fixed-length records: bytes with fields at offsets, little-endian, no padding.
+class Record {
+  public:
+    /// A record of `length` zeros; `shownPlace` names it in messages, as "dat/save.dat: record 3".
+    Record(std::size_t length, std::string shownPlace) : bytes(length, 0), place(std::move(shownPlace)) {}
+
+    int ReadByte(std::size_t offset) const { return At(offset); }
+    int ReadInt16(std::size_t offset) const;
+    /// `length` characters of 8-bit text as UTF-8, trailing blanks kept. Throws BadData on a control
+    /// character, but zeros, which an empty record holds, end the text.
+    std::string ReadText(std::size_t offset, std::size_t length) const;
+
+    void WriteByte(std::size_t offset, int value) { At(offset) = static_cast<std::uint8_t>(value); }
+    void WriteInt16(std::size_t offset, int value);
+    /// `text` in the 8-bit code, cut to `length` characters or filled with blanks.
+    void WriteText(std::size_t offset, std::size_t length, std::string_view text);
+
+    std::span<std::uint8_t> Bytes() { return bytes; }
+    std::span<const std::uint8_t> Bytes() const { return bytes; }
+
+    /// An error about the field at `offset`.
+    [[noreturn]] void Refuse(std::size_t offset, const std::string& problem,
+                             Fault fault = Fault::BadData) const;
+
+  private:
+    std::uint8_t& At(std::size_t offset) { return bytes.at(offset); }
+    std::uint8_t At(std::size_t offset) const { return bytes.at(offset); }
+
+    std::vector<std::uint8_t> bytes;
+    std::string place;
+};
+
+/// Reads records by number, counted from 1.
+class RecordReader {
+  public:
+    RecordReader(std::string_view fileName, std::size_t recordLength);
+
+    /// A record that lies wholly beyond the end of the file comes back empty, all zeros. Throws BadData when
+    /// the file ends within it.
+    Record Read(int number) const;
+
+    /// Like Read, but a record beyond the end is BadData too: `why` says who counts on it.
+    Record ReadCounted(int number, const std::string& why) const;
+
+  private:
+    std::string name;
+    std::string content;
+    std::size_t length;
+};
+
+/// Reads values that are separated by commas or line ends. A value may stand in double quotes.
+class CommaReader {
+  public:
+    explicit CommaReader(std::string_view fileName) : text(fileName) {}
+
+    /// The next value without the blanks around it. Throws BadData at the end of the file, saying that
+    /// `expected` should stand there.
+    std::string ReadValue(std::string_view expected);
+
+  private:
+    TextReader text;
+};

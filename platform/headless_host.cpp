@@ -1,0 +1,49 @@
+#include "platform/headless_host.h"
+
+HeadlessHost::HeadlessHost(DispatchRoutine routine) : dispatch(routine) {
+    InstallHost(this);
+}
+
+HeadlessHost::~HeadlessHost() {
+    InstallHost(nullptr);
+}
+
+void HeadlessHost::Queue(const InputEvent& event, int atPump) {
+    queue.push_back({event, atPump});
+}
+
+void HeadlessHost::Refresh(Control& /*control*/) {
+    ++refreshes;
+}
+
+void HeadlessHost::PumpEvents() {
+    ++pumps;
+    while (!queue.empty() && queue.front().atPump <= pumps) {
+        const InputEvent event = queue.front().event;
+        queue.pop_front();
+        dispatch(event);
+    }
+}
+
+void HeadlessHost::Wait(std::chrono::nanoseconds time, bool pump) {
+    waited += time;
+    if (pump) PumpEvents();
+}
+
+void HeadlessHost::ShowModal(Form& form) {
+    while (form.Visible && !queue.empty())
+        PumpEvents();
+    form.Visible = false;
+}
+
+void HeadlessHost::ShowMessage(const std::string& text) {
+    messages.push_back(text);
+}
+
+void HeadlessHost::PlaySound(const SoundRequest& sound) {
+    sounds.push_back(sound);
+}
+
+void HeadlessHost::EndProcess(int exitCode) {
+    throw ProcessEnded{exitCode};
+}

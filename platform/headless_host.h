@@ -1,0 +1,50 @@
+// A host without a screen, for tests and tools: it plays queued events at the pumps, keeps what it was asked
+// to show and play, and takes no time for waits.
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "platform/host.h"
+#include "platform/input_event.h"
+
+/// Thrown where the process would end.
+struct ProcessEnded {
+    int exitCode;
+};
+
+class HeadlessHost : public Host {
+  public:
+    using DispatchRoutine = void (*)(const InputEvent&);
+
+    /// Queued events go to `routine`. Installs itself for as long as it lives.
+    explicit HeadlessHost(DispatchRoutine routine);
+    ~HeadlessHost() override;
+
+    /// `event` waits until the next pump, or until pump number `atPump` (1 is the first).
+    void Queue(const InputEvent& event, int atPump = 0);
+
+    void Refresh(Control& control) override;
+    void PumpEvents() override;
+    void Wait(std::chrono::nanoseconds time, bool pump) override;
+    void ShowModal(Form& form) override;
+    void ShowMessage(const std::string& text) override;
+    void PlaySound(const SoundRequest& sound) override;
+    [[noreturn]] void EndProcess(int exitCode) override;
+
+    std::vector<std::string> messages;
+    std::vector<SoundRequest> sounds;
+    std::chrono::nanoseconds waited{0};  // what all waits together would have taken
+    int refreshes = 0;
+    int pumps = 0;
+
+  private:
+    struct Waiting {
+        InputEvent event;
+        int atPump;
+    };
+
+    DispatchRoutine dispatch;
+    std::deque<Waiting> queue;
+};

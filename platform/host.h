@@ -1,0 +1,52 @@
+// The few things that the game asks of the machine at run time. The desktop program answers on real windows;
+// the headless host answers for tests and tools. Nothing else in the library knows which one it is talking
+// to.
+#pragma once
+
+#include <chrono>
+#include <string>
+
+#include "platform/controls.h"
+
+/// One sound to be played once. Levels are in hundredths of a decibel.
+struct SoundRequest {
+    std::string fileName;  // as "\wav\click.wav"; it exists
+    int slot = 1;          // 1 to 4: a sound that still plays in this slot is cut
+    int volume = 0;        // 0 or below: added to both sides
+    int pan = 0;           // above 0 the left side is lowered by it, below 0 the right side by its amount
+    int frequency = 0;     // samples a second at which the file is played, whatever it says itself
+};
+
+class Host {
+  public:
+    Host() = default;
+    virtual ~Host() = default;
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+
+    /// Shows the changes of `control` and of its window now.
+    virtual void Refresh(Control& control) = 0;
+
+    /// Lets the events that wait be handled; each may run a whole order before this returns.
+    virtual void PumpEvents() = 0;
+
+    /// Waits by the clock. With `pump` events are handled meanwhile, at least once.
+    virtual void Wait(std::chrono::nanoseconds time, bool pump) = 0;
+
+    /// Shows a form over the others and returns when it has been hidden again.
+    virtual void ShowModal(Form& form) = 0;
+
+    /// Shows `text` in a box and returns when it has been read.
+    virtual void ShowMessage(const std::string& text) = 0;
+
+    virtual void PlaySound(const SoundRequest& sound) = 0;
+
+    /// Ends the process at once; nothing of the game runs any more.
+    [[noreturn]] virtual void EndProcess(int exitCode) = 0;
+};
+
+/// The host of this process; one must have been installed.
+Host& TheHost();
+
+/// Makes `host` the host of this process, nullptr for none. It must outlive its use.
+void InstallHost(Host* host);

@@ -1,0 +1,36 @@
+// What a person does to a window, as plain data. Every event enters the game through Dispatch.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+enum class EventKind {
+    KeyDown,
+    KeyUp,
+    MouseDown,
+    MouseMove,
+    MouseUp,
+    Click,         // a button, menu entry or image was clicked
+    Choose,        // an entry of a list was chosen: `code` is its index
+    Scroll,        // a scroll bar's thumb moves: `code` is the value under it
+    Change,        // a scroll bar came to rest: `code` is its value
+    CloseRequest,  // the window's close button
+};
+
+struct InputEvent {
+    EventKind kind = EventKind::KeyDown;
+    std::string control;  // "frmField", "frmField.area", "frmField.imgStance"
+    int index = -1;       // place in a control array, -1 for a control on its own
+    int code = 0;         // key code; mouse button, 1 left, 2 right, 4 middle (0 for none); index or value
+    int shift = 0;        // 1 Shift, 2 Ctrl, 4 Alt, added up
+    float x = 0;          // pixels within the control
+    float y = 0;
+
+    bool operator==(const InputEvent&) const = default;
+};
+
+/// One line of text, as "MouseDown frmField.area -1 1 0 150.5 90".
+std::string EventText(const InputEvent& event);
+
+/// The event that EventText made into `line`. Throws RunTimeError (BadData) for anything else.
+InputEvent EventFromText(std::string_view line);

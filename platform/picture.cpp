@@ -1,0 +1,53 @@
+#include "platform/picture.h"
+
+#include <algorithm>
+#include <utility>
+
+Rectangle Common(const Rectangle& a, const Rectangle& b) {
+    const int left = std::max(a.left, b.left);
+    const int top = std::max(a.top, b.top);
+    const int right = std::min(a.left + a.width, b.left + b.width);
+    const int bottom = std::min(a.top + a.height, b.top + b.height);
+    if (right <= left || bottom <= top) return {};
+    return {left, top, right - left, bottom - top};
+}
+
+Rectangle Around(const Rectangle& a, const Rectangle& b) {
+    if (a.Empty()) return b;
+    if (b.Empty()) return a;
+    const int left = std::min(a.left, b.left);
+    const int top = std::min(a.top, b.top);
+    const int right = std::max(a.left + a.width, b.left + b.width);
+    const int bottom = std::max(a.top + a.height, b.top + b.height);
+    return {left, top, right - left, bottom - top};
+}
+
+Picture::Picture(int columns, int rows, Colour fill)
+    : width(columns),
+      height(rows),
+      pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), fill),
+      changed(Bounds()) {}
+
+Colour Picture::Pixel(int x, int y) const {
+    if (x < 0 || y < 0 || x >= width || y >= height) return 0;
+    return Row(y)[x];
+}
+
+void Picture::SetPixel(int x, int y, Colour colour) {
+    if (x < 0 || y < 0 || x >= width || y >= height) return;
+    Row(y)[x] = colour;
+    MarkChanged({x, y, 1, 1});
+}
+
+void Picture::Fill(Colour colour) {
+    std::fill(pixels.begin(), pixels.end(), colour);
+    MarkChanged(Bounds());
+}
+
+Rectangle Picture::TakeChanged() {
+    return std::exchange(changed, Rectangle{});
+}
+
+bool Picture::SameAs(const Picture& other) const {
+    return width == other.width && height == other.height && pixels == other.pixels;
+}

@@ -1,0 +1,12 @@
+// Picture files: BMP of 8 and 24 bits, GIF with transparency, JPEG.
+#pragma once
+
+#include <string_view>
+
+#include "platform/picture.h"
+
+/// The picture in `content`; `name` stands for it in messages. Throws RunTimeError (BadData).
+Picture DecodePicture(std::string_view content, std::string_view name);
+
+/// The picture of a file under the program's folder, named as "\pic\weapon.gif". Throws RunTimeError.
+PictureRef ReadPictureFile(std::string_view name);

@@ -1,0 +1,45 @@
+# Shared by ./play and ./check: installs missing packages, configures and builds.
+
+# What each purpose needs, by the distribution's names.
+packages_play="cmake ninja-build g++ ccache pkg-config qt6-base-dev libsdl2-mixer-dev libstb-dev libgif-dev fonts-dejavu-core"
+packages_check="$packages_play libgtest-dev libbenchmark-dev"
+packages_lint="clang-format clang-tidy"
+
+# need PURPOSE...: installs what is missing, as root or through sudo; without either it says what and stops.
+need() {
+    local wanted="" missing="" package
+    for purpose in "$@"; do
+        local list="packages_$purpose"
+        wanted="$wanted ${!list}"
+    done
+    # One question for all: only a package that is wholly installed answers "ii".
+    local installed
+    installed=" $(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' $wanted 2>/dev/null | sed -n 's/^ii //p' | tr '\n' ' ') "
+    for package in $wanted; do
+        case "$installed" in *" $package "*) ;; *) missing="$missing $package" ;; esac
+    done
+    [ -n "$missing" ] || return 0
+    local as_root=""
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "These packages are missing:$missing" >&2
+            echo "Install them as root: apt-get install --no-install-recommends$missing" >&2
+            exit 1
+        fi
+        as_root=sudo
+    fi
+    echo "Installing:$missing"
+    $as_root apt-get update -qq
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null
+}
+
+# build PRESET TARGET...: quiet when there is nothing to do.
+build() {
+    local preset=$1
+    shift
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        cmake --preset "$preset" >"/tmp/sarnoth-configure.$$" 2>&1 || { cat "/tmp/sarnoth-configure.$$"; exit 1; }
+        rm -f "/tmp/sarnoth-configure.$$"
+    fi
+    cmake --build "build/$preset" --target "$@" -- --quiet
+}

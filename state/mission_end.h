@@ -1,0 +1,12 @@
+// The end of a mission: its verdict, and the end of the process.
+#pragma once
+
+/// Writes the vehicle store, names the outcome in a message box and ends the process. Does not return.
+void EndGame();
+
+/// The first team with no one alive, -1 for none. Writes the roll of the teams that it looks through to the
+/// log.
+int TeamEliminated();
+
+/// Copies the squad onto the roster's places.
+void SaveRosterBack();

@@ -1,0 +1,133 @@
+#include "state/turns.h"
+
+#include <string>
+
+#include "state/mission_end.h"
+#include "state/state.h"
+#include "view/field_form.h"
+#include "view/log.h"
+#include "view/painting.h"
+
+namespace {
+
+constexpr int TeamsWithTurns = 2;
+constexpr int TimeToAct = 4;  // what the cheapest command costs
+
+// Health at or above these is...
+constexpr int HealthActive = 31;
+constexpr int HealthWounded = 16;
+constexpr int HealthAlive = 1;
+
+void PassToNextTeam() {
+    do {
+        ++curTeam;
+        if (curTeam == TeamsWithTurns) curTeam = 0;
+    } while (teamLast[curTeam] == -1);
+}
+
+// ODDITY: energy that passes twice the strength jumps to three times it; a rested soldier suddenly has
+// plenty.
+void Refill(Unit& unit) {
+    unit.time = unit.agility * 2;
+    unit.energy = unit.strength / 2.0 + unit.energy;
+    if (unit.energy > unit.strength * 2) unit.energy = unit.strength * 3;
+}
+
+// The health step of a wounded or immobile unit.
+// ODDITY: it comes at each pass of the selection, so often that a soldier may heal several points in one
+// turn.
+void PassInvalid(const char* report, int healthStep) {
+    AddToLog(LogName(curUnit) + report, 1);
+    UnitTable[curUnit].health += healthStep;
+    CheckStatus();
+}
+
+// How many of the team have been passed over in one selection.
+struct Passed {
+    int done = 0;
+    int dead = 0;
+};
+
+// Steps past the current unit. At the squad's end the count of the dead starts again, so that only a team
+// that is dead to the last member loses; at any other team's end the turn passes on, and play goes on with
+// the unit then current.
+void StepSelection(Passed& passed) {
+    ++curUnit;
+    if (curUnit != FirstOf(curTeam) + teamLast[curTeam] + 1) return;
+    if (curTeam == SquadTeam) {
+        curUnit = 0;
+        passed.dead = 0;
+    } else {
+        NewTurn();
+    }
+}
+
+// What a unit that can act does first. True when the game now waits for the player.
+bool BeginAct(const Unit& unit) {
+    CheckStatus();
+    return unit.team == SquadTeam;
+}
+
+}  // namespace
+
+void NewTurn() {
+    PassToNextTeam();
+    AddToLog("New turn for team #" + std::to_string(curTeam), 1);
+    for (int i = 0; i <= teamLast[curTeam]; ++i)
+        Refill(UnitTable[FirstOf(curTeam) + i]);
+    curUnit = FirstOf(curTeam) - 1;
+    if (curTeam == EnemyTeam) ClearSightings();
+    SelectNextUnit();
+}
+
+void SelectNextUnit() {
+    walkOn = 0;
+    Passed passed;
+    for (;;) {
+        const int members = teamLast[curTeam] + 1;
+        if (passed.done == members) return NewTurn();
+        if (passed.dead == members) return EndGame();
+        StepSelection(passed);
+        const Unit& unit = UnitTable[curUnit];
+        if (unit.status == Dead) {
+            AddToLog(LogName(curUnit) + " is dead. Selecting the next one.", 1);
+            ++passed.dead;
+            continue;
+        }
+        if (unit.status == Immobile) {
+            PassInvalid(" is immobile and now -1", -1);
+        } else if (unit.status == Wounded) {
+            PassInvalid(" is wounded and now +1", +1);
+        } else if (unit.time < TimeToAct) {
+            AddToLog("0 time for " + LogName(curUnit), 1);
+        } else if (BeginAct(unit)) {
+            return;
+        }
+        ++passed.done;
+    }
+}
+
+void CheckStatus() {
+    Unit& unit = UnitTable[curUnit];
+    if (unit.health >= HealthActive) unit.status = Active;
+    if (unit.health < HealthActive) {
+        unit.status = Wounded;
+        unit.wasWounded = True;
+    }
+    if (unit.health < HealthWounded) unit.status = Immobile;
+    if (unit.health < HealthAlive) {
+        unit.health = 0;
+        unit.status = Dead;
+    }
+}
+
+void ClearSightings() {
+    for (int i = 0; i <= teamLast[SquadTeam]; ++i) {
+        for (int j = 0; j <= teamLast[EnemyTeam]; ++j) {
+            if (UnitTable[i].seen[j] != 1) continue;
+            UnitTable[i].seen[j] = 0;
+            const Unit& enemy = UnitTable[FirstOf(EnemyTeam) + j];
+            PaintCell(enemy.cellX, enemy.cellY, frmField.area.canvas);
+        }
+    }
+}

@@ -1,0 +1,17 @@
+// The turn engine: the teams take turns, and within a turn the selection walks from unit to unit. These
+// routines call one another and go on after the inner call has returned.
+#pragma once
+
+/// The next team's turn: refills its units and selects the first that can act.
+void NewTurn();
+
+/// Moves curUnit to the next unit that can act. A soldier of the player waits then for orders; the computer's
+/// units act one after the other in here. Ends the turn when nobody is left, the mission when everybody is
+/// dead.
+void SelectNextUnit();
+
+/// Derives the current unit's status from its health.
+void CheckStatus();
+
+/// Hides every enemy again until a soldier sees it.
+void ClearSightings();

@@ -1,0 +1,138 @@
+#include <ctime>
+#include <thread>
+
+#include <QMessageBox>
+
+#include "platform/run_time_error.h"
+#include "test_form.h"
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+using testing::ExitedWithCode;
+
+using DesktopDeathTest = DesktopTest;
+
+void PressLater(QWidget& widget) {
+    QCoreApplication::postEvent(&widget, new QKeyEvent(QEvent::KeyPress, Qt::Key_M, Qt::NoModifier));
+}
+
+// Answers the next box and keeps what it said.
+struct BoxReader {
+    BoxReader() {
+        QTimer::singleShot(20, [this] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr) return;
+            title = box->windowTitle();
+            text = box->text();
+            box->accept();
+        });
+    }
+    QString title;
+    QString text;
+};
+
+TEST_F(DesktopTest, RefreshPaintsAtOnceAndLetsNoEventIn) {
+    PaintCounter board(*window.WidgetOf(form.picBoard));
+    PressLater(window);
+    form.picBoard.canvas.SetPixel(100, 100, Rgb(255, 0, 0));
+    host.Refresh(form.picBoard);
+    EXPECT_EQ(board.paints, 1);
+    EXPECT_EQ(board.last, QRect(100, 100, 1, 1));
+    EXPECT_EQ(EventsOf("frmTest"), "");
+    host.PumpEvents();
+    EXPECT_EQ(EventsOf("frmTest"), "KeyDown frmTest -1 77 0 0 0\n");
+}
+
+TEST_F(DesktopTest, AWaitTakesItsTimeAndOnlyWithPumpingLetsEventsIn) {
+    for (const bool pump : {false, true}) {
+        PressLater(window);
+        const auto begin = steady_clock::now();
+        host.Wait(std::chrono::microseconds(30'500), pump);
+        EXPECT_GE(steady_clock::now() - begin, std::chrono::microseconds(30'500));
+        EXPECT_EQ(events.size(), pump ? 2U : 0U);
+    }
+}
+
+TEST_F(DesktopTest, AnEventChangesWhatIsShown) {
+    answer = [this](const InputEvent&) { form.Caption = "changed"; };
+    QTest::keyClick(&window, Qt::Key_M);
+    EXPECT_EQ(window.windowTitle(), "changed");
+}
+
+TEST_F(DesktopTest, WaitingUsesNoProcessorTime) {
+    host.Wait(milliseconds(100), true);
+    const std::clock_t begin = std::clock();
+    host.Wait(milliseconds(400), true);
+    host.Wait(milliseconds(100), false);
+    EXPECT_LT(std::clock() - begin, CLOCKS_PER_SEC / 20);
+}
+
+TEST_F(DesktopTest, AFormIsShownAndHiddenWithItsRecord) {
+    dialog.Visible = true;
+    host.PumpEvents();
+    FormWindow& second = host.WindowOf(dialog);
+    EXPECT_TRUE(second.isVisible());
+    const QPoint offset = second.frameGeometry().center() - window.frameGeometry().center();
+    EXPECT_LE(offset.manhattanLength(), 8) << "but for its frame it stands in the main window's middle";
+    dialog.Visible = false;
+    host.Refresh(dialog);
+    EXPECT_FALSE(second.isVisible());
+}
+
+TEST_F(DesktopTest, AModalFormHoldsTheGameUntilItIsHidden) {
+    answer = [this](const InputEvent& event) {
+        if (event.control == "frmDialog") dialog.Visible = false;
+    };
+    QTimer::singleShot(20, [this] {
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, {100, 100});
+        EXPECT_TRUE(events.empty()) << "the window beneath is blocked";
+        QTest::keyPress(&host.WindowOf(dialog), Qt::Key_Return);
+    });
+    dialog.Visible = true;
+    host.ShowModal(dialog);
+    EXPECT_FALSE(host.WindowOf(dialog).isVisible());
+    EXPECT_EQ(EventsOf("frmDialog"), "KeyDown frmDialog -1 13 0 0 0\n");
+}
+
+TEST_F(DesktopTest, TheCloseButtonOfAnotherWindowOnlyAsks) {
+    dialog.Visible = true;
+    host.PumpEvents();
+    host.WindowOf(dialog).close();
+    EXPECT_EQ(EventsOf("frmDialog"), "CloseRequest frmDialog -1 0 0 0 0\n");
+    EXPECT_TRUE(host.WindowOf(dialog).isVisible());
+}
+
+TEST_F(DesktopTest, AMessageIsPlainTextUnderTheGamesName) {
+    const BoxReader reader;
+    host.ShowMessage("You <lost>");
+    EXPECT_EQ(reader.title, "Sarnoth III");
+    EXPECT_EQ(reader.text, "You <lost>");
+}
+
+TEST_F(DesktopDeathTest, AnErrorIsShownAndPrintedAndEndsTheProcess) {
+    const auto fail = [this] {
+        answer = [](const InputEvent&) { throw RunTimeError(Fault::BadData, "dat/weapons.dat: line 3"); };
+        // Without the box nobody answers and the process goes on.
+        QTimer::singleShot(20, [] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->accept(); });
+        QTest::mouseClick(window.WidgetOf(form.cmdGo), Qt::LeftButton);
+    };
+    EXPECT_EXIT(fail(), ExitedWithCode(1), "^Sarnoth III: Run-time error 4: Bad data: dat/weapons.dat: line 3\n$");
+}
+
+TEST_F(DesktopDeathTest, TheCloseButtonTellsTheGameAndEndsTheProcessAlsoInAWait) {
+    answer = [](const InputEvent& event) { std::fprintf(stderr, "%s", EventText(event).c_str()); };
+    const auto closeInWait = [this] {
+        QTimer::singleShot(10, [this] { window.close(); });
+        host.Wait(std::chrono::seconds(20), true);
+    };
+    EXPECT_EXIT(window.close(), ExitedWithCode(0), "^CloseRequest frmTest -1 0 0 0 0$");
+    EXPECT_EXIT(closeInWait(), ExitedWithCode(0), "^CloseRequest frmTest -1 0 0 0 0$");
+}
+
+TEST_F(DesktopDeathTest, TheProcessEndsWithTheCodeThatTheGameNames) {
+    EXPECT_EXIT(host.EndProcess(3), ExitedWithCode(3), "^$");
+}
+
+}  // namespace

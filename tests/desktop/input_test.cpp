@@ -1,0 +1,166 @@
+#include <algorithm>
+
+#include <QAbstractItemView>
+#include <QMenuBar>
+
+#include "desktop/control_widgets.h"
+#include "desktop/key_codes.h"
+#include "test_form.h"
+
+namespace {
+
+void Wheel(QWidget& widget, int turn) {
+    QWheelEvent event({5, 5}, widget.mapToGlobal(QPointF(5, 5)), {}, {0, turn}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &event);
+}
+
+void Key(QWidget& widget, QEvent::Type type, bool repeated) {
+    QKeyEvent event(type, Qt::Key_Left, Qt::ShiftModifier, QString(), repeated);
+    QApplication::sendEvent(&widget, &event);
+}
+
+struct KeyCase {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    unsigned scanCode;
+    int code;
+};
+
+TEST(KeyCodeTest, KeysHaveTheCodesOfTheCommandTables) {
+    constexpr KeyCase Cases[] = {
+        {Qt::Key_Return, Qt::NoModifier, 36, 13},      {Qt::Key_Enter, Qt::KeypadModifier, 104, 13},
+        {Qt::Key_Escape, Qt::NoModifier, 9, 27},       {Qt::Key_Space, Qt::NoModifier, 65, 32},
+        {Qt::Key_PageUp, Qt::NoModifier, 112, 33},     {Qt::Key_Down, Qt::NoModifier, 116, 40},
+        {Qt::Key_M, Qt::NoModifier, 58, 77},           {Qt::Key_7, Qt::NoModifier, 16, 55},
+        {Qt::Key_7, Qt::KeypadModifier, 79, 103},      {Qt::Key_Home, Qt::KeypadModifier, 79, 36},
+        {Qt::Key_Clear, Qt::KeypadModifier, 84, 12},   {Qt::Key_BracketLeft, Qt::NoModifier, 34, 219},
+        {Qt::Key_BracketRight, Qt::NoModifier, 35, 221},
+        {Qt::Key_BraceRight, Qt::ShiftModifier, 35, 221},  // with Shift
+        {0x042C, Qt::NoModifier, 58, 77},                  // M on a Cyrillic keyboard
+        {Qt::Key_F2, Qt::NoModifier, 68, 113},         {Qt::Key_VolumeUp, Qt::NoModifier, 123, 0},
+    };
+    for (const KeyCase& row : Cases) {
+        const QKeyEvent event(QEvent::KeyPress, row.key, row.modifiers, row.scanCode, 0, 0);
+        EXPECT_EQ(KeyCode(event), row.code) << std::hex << row.key;
+    }
+}
+
+TEST_F(DesktopTest, AHeldKeyRepeatsAndIsReleasedOnce) {
+    Key(window, QEvent::KeyPress, false);
+    Key(window, QEvent::KeyRelease, true);
+    Key(window, QEvent::KeyPress, true);
+    Key(window, QEvent::KeyRelease, false);
+    EXPECT_EQ(EventsOf("frmTest"),
+              "KeyDown frmTest -1 37 1 0 0\n"
+              "KeyDown frmTest -1 37 1 0 0\n"
+              "KeyUp frmTest -1 37 1 0 0\n");
+}
+
+TEST_F(DesktopTest, KeysReachTheWindowAfterClicksOnControls) {
+    QTest::mouseClick(window.WidgetOf(form.cmdGo), Qt::LeftButton);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Space);
+    EXPECT_EQ(EventsOf("frmTest.cmdGo"), "Click frmTest.cmdGo -1 0 0 0 0\n");
+    EXPECT_EQ(EventsOf("frmTest"), "KeyDown frmTest -1 32 0 0 0\nKeyUp frmTest -1 32 0 0 0\n");
+}
+
+TEST_F(DesktopTest, AClickOnACanvasComesInItsOwnPixels) {
+    form.picBoard.Left = -100;
+    host.PumpEvents();
+    QWidget* const board = window.WidgetOf(form.picBoard);
+    const QPoint inWindow = board->mapTo(&window, QPoint(150, 90));
+    EXPECT_EQ(window.WidgetOf(form)->mapFrom(&window, inWindow), QPoint(50, 50));
+    QTest::mouseClick(window.windowHandle(), Qt::RightButton, Qt::ControlModifier, inWindow);
+    EXPECT_EQ(EventsOf("frmTest.picBoard"),
+              "MouseMove frmTest.picBoard -1 0 2 150 90\n"
+              "MouseDown frmTest.picBoard -1 2 2 150 90\n"
+              "MouseUp frmTest.picBoard -1 2 2 150 90\n");
+}
+
+TEST_F(DesktopTest, AnImageIsClickedByItsIndex) {
+    form.imgStance[1].Left = 300;
+    host.PumpEvents();
+    QTest::mouseClick(window.WidgetOf(form.imgStance[1]), Qt::LeftButton, Qt::NoModifier, {3, 4});
+    EXPECT_EQ(EventsOf("frmTest.imgStance"),
+              "MouseDown frmTest.imgStance 1 1 0 3 4\n"
+              "MouseUp frmTest.imgStance 1 1 0 3 4\n"
+              "Click frmTest.imgStance 1 1 0 3 4\n");
+    EXPECT_EQ(EventsOf("frmTest.picSlate"), "") << "what lies beneath isn't clicked too";
+}
+
+TEST_F(DesktopTest, ADisabledImageLeavesTheMouseToItsParent) {
+    form.imgStance[1].Enabled = form.imgStance[0].Enabled = false;
+    host.PumpEvents();
+    const QPoint spot = window.WidgetOf(form.picSlate)->mapTo(&window, QPoint(255, 55));
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, spot);
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, spot);
+    EXPECT_EQ(EventsOf("frmTest.imgStance"), "");
+    EXPECT_NE(EventsOf("frmTest.picSlate").find("MouseDown frmTest.picSlate -1 1 0 255 55"), std::string::npos);
+}
+
+TEST_F(DesktopTest, TheSecondPressOfADoubleClickIsAPress) {
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, {100, 100});
+    const auto presses = std::count_if(events.begin(), events.end(),
+                                       [](const InputEvent& event) { return event.kind == EventKind::MouseDown; });
+    EXPECT_EQ(presses, 2);
+}
+
+TEST_F(DesktopTest, AMenuEntryIsClickedAndReachedByItsLetter) {
+    auto* const menu = window.findChild<QMenuBar*>();
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(menu->actions().front()).center());
+    EXPECT_EQ(EventsOf("frmTest.mnuGo"), "Click frmTest.mnuGo -1 0 0 0 0\n");
+    window.activateWindow();
+    QTest::keyClick(window.windowHandle(), Qt::Key_G, Qt::AltModifier);
+    EXPECT_EQ(EventsOf("frmTest.mnuGo"), "Click frmTest.mnuGo -1 0 0 0 0\nClick frmTest.mnuGo -1 0 0 0 0\n");
+}
+
+TEST_F(DesktopTest, ADraggedThumbSnapsToWhatTheGameMakesOfIt) {
+    answer = [this](const InputEvent& event) {
+        if (event.kind == EventKind::Scroll) form.HScroll.Value = event.code - event.code % 20;
+    };
+    auto& bar = WidgetOf<QScrollBar>(form.HScroll);
+    QTest::mousePress(&bar, Qt::LeftButton, Qt::NoModifier, {30, 8});
+    QMouseEvent move(QEvent::MouseMove, QPointF(40, 8), bar.mapToGlobal(QPointF(40, 8)), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&bar, &move);
+    ASSERT_EQ(events.size(), 1U);
+    EXPECT_EQ(events[0].kind, EventKind::Scroll);
+    EXPECT_NE(events[0].code % 20, 0) << "the drag should end between two steps";
+    EXPECT_EQ(bar.value(), form.HScroll.Value);
+    QTest::mouseRelease(&bar, Qt::LeftButton, Qt::NoModifier, {40, 8});
+    ASSERT_EQ(events.size(), 2U);
+    EXPECT_EQ(EventText(events[1]), "Change frmTest.HScroll -1 " + std::to_string(form.HScroll.Value) + " 0 0 0");
+}
+
+TEST_F(DesktopTest, ArrowsAndWheelMoveABarInWholeSteps) {
+    answer = [this](const InputEvent& event) {
+        if (event.kind == EventKind::Change) form.VScroll.Value = event.code;
+    };
+    auto& bar = WidgetOf<QScrollBar>(form.VScroll);
+    QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, {8, bar.height() - 4});
+    Wheel(bar, -50);
+    Wheel(bar, -70);
+    EXPECT_EQ(EventsOf("frmTest.VScroll"), "Change frmTest.VScroll -1 20 0 0 0\nChange frmTest.VScroll -1 80 0 0 0\n");
+}
+
+TEST_F(DesktopTest, ARowOfAListIsChosenAndTheWheelChoosesNothing) {
+    form.comboMode.List = {"Aimed", "Snap", "Burst"};
+    form.comboMode.ListIndex = 0;
+    answer = [this](const InputEvent& event) {
+        if (event.kind == EventKind::Choose) form.comboMode.ListIndex = event.code;
+    };
+    host.PumpEvents();
+    auto& modes = WidgetOf<ComboWidget>(form.comboMode);
+    Wheel(modes, -120);
+    EXPECT_EQ(modes.currentIndex(), 0);
+    QTest::mouseClick(&modes, Qt::LeftButton);
+    QWidget* const rows = modes.view()->viewport();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(rows->window()));
+    const QPoint row = modes.view()->visualRect(modes.model()->index(2, 0)).center();
+    QTest::mouseMove(rows, row);
+    QTest::mouseClick(rows, Qt::LeftButton, Qt::NoModifier, row);
+    EXPECT_EQ(EventsOf("frmTest.comboMode"), "Choose frmTest.comboMode -1 2 0 0 0\n");
+    EXPECT_EQ(modes.currentIndex(), 2);
+}
+
+}  // namespace

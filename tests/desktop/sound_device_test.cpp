@@ -1,0 +1,191 @@
+// What is heard, measured on a sound device that writes a file.
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <numbers>
+#include <string>
+#include <thread>
+
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "desktop/sound_device.h"
+#include "platform/files.h"
+#include "platform/run_time_error.h"
+
+namespace {
+
+constexpr int FileRate = 22050;
+constexpr int PlayedRate = 45000;
+constexpr int DeviceRate = 44100;
+constexpr int Period = 50;        // samples of the file: 900 Hz when played
+constexpr int Amplitude = 12000;
+
+void Append(std::string& bytes, std::uint32_t value, int size) {
+    for (int i = 0; i < size; ++i)
+        bytes += static_cast<char>(value >> (8 * i) & 0xFF);
+}
+
+// A sine, 16 bits, one channel.
+std::string SineWave(int samples) {
+    const auto dataSize = static_cast<std::uint32_t>(samples) * 2;
+    std::string bytes = "RIFF";
+    Append(bytes, 36 + dataSize, 4);
+    bytes += "WAVEfmt ";
+    Append(bytes, 16, 4);
+    Append(bytes, 1, 2);  // plain samples
+    Append(bytes, 1, 2);  // channels
+    Append(bytes, FileRate, 4);
+    Append(bytes, FileRate * 2, 4);
+    Append(bytes, 2, 2);
+    Append(bytes, 16, 2);
+    bytes += "data";
+    Append(bytes, dataSize, 4);
+    for (int i = 0; i < samples; ++i) {
+        const double angle = 2 * std::numbers::pi * i / Period;
+        Append(bytes, static_cast<std::uint32_t>(std::lround(Amplitude * std::sin(angle))), 2);
+    }
+    return bytes;
+}
+
+struct Heard {
+    double left = 0;   // root mean square over the sound's length
+    double right = 0;
+    double seconds = 0;
+    double hertz = 0;
+};
+
+class SoundDeviceTest : public testing::Test {
+  protected:
+    SoundDeviceTest() {
+        std::filesystem::create_directories(folder / "wav");
+        setenv("SDL_AUDIODRIVER", "disk", 1);
+        setenv("SDL_DISKAUDIOFILE", raw.c_str(), 1);
+        setenv("SDL_DISKAUDIODELAY", "0", 1);
+        SetProgramFolder(folder);
+    }
+    ~SoundDeviceTest() override {
+        SetProgramFolder(".");
+        std::filesystem::remove_all(folder);
+    }
+
+    SoundRequest Sound(const std::string& name, const std::string& content) const {
+        std::ofstream(folder / "wav" / (name + ".wav"), std::ios::binary) << content;
+        SoundRequest sound;
+        sound.fileName = "\\wav\\" + name + ".wav";
+        sound.frequency = PlayedRate;
+        return sound;
+    }
+
+    Heard Hear() {
+        for (int i = 0; i < 1000 && device.Playing(); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        device.Close();
+        std::ifstream file(raw, std::ios::binary);
+        const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+        return Measure(reinterpret_cast<const std::int16_t*>(bytes.data()), bytes.size() / 4);
+    }
+
+    static Heard Measure(const std::int16_t* samples, std::size_t frames) {
+        std::size_t first = frames;
+        std::size_t last = 0;
+        int rises = 0;
+        Heard heard;
+        for (std::size_t i = 0; i < frames; ++i) {
+            const double left = samples[2 * i];
+            const double right = samples[2 * i + 1];
+            if (left == 0 && right == 0) continue;
+            first = std::min(first, i);
+            last = i;
+            heard.left += left * left;
+            heard.right += right * right;
+            if (i > 0 && samples[2 * i] > 0 && samples[2 * i - 2] <= 0) ++rises;
+        }
+        const auto length = static_cast<double>(last - first + 1);
+        heard.left = std::sqrt(heard.left / length);
+        heard.right = std::sqrt(heard.right / length);
+        heard.seconds = length / DeviceRate;
+        heard.hertz = rises / heard.seconds;
+        return heard;
+    }
+
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / ("sarnoth_sound_" + std::to_string(getpid()));
+    const std::filesystem::path raw = folder / "heard.raw";
+    SoundDevice device;
+};
+
+double Decibel(double rootMeanSquare) { return 20 * std::log10(rootMeanSquare * std::numbers::sqrt2 / Amplitude); }
+
+TEST_F(SoundDeviceTest, EachSideHasTheLevelThatVolumeAndPanAskFor) {
+    struct LevelCase {
+        int volume, pan;
+        double left, right;  // decibels
+    };
+    constexpr LevelCase Cases[] = {
+        {0, 0, 0, 0},
+        {-500, 0, -5, -5},
+        {-500, 500, -10, -5},
+        {-1000, -1000, -10, -20},
+        {-2000, 2000, -40, -20},
+    };
+    SoundRequest sound = Sound("sine", SineWave(PlayedRate / 5));
+    for (const LevelCase& row : Cases) {
+        sound.volume = row.volume;
+        sound.pan = row.pan;
+        device.Play(sound);
+        const Heard heard = Hear();
+        EXPECT_NEAR(Decibel(heard.left), row.left, 0.5) << row.volume << " " << row.pan;
+        EXPECT_NEAR(Decibel(heard.right), row.right, 0.5) << row.volume << " " << row.pan;
+    }
+}
+
+TEST_F(SoundDeviceTest, TheRateIsTheRequestsAndNotTheFiles) {
+    device.Play(Sound("sine", SineWave(PlayedRate / 2)));
+    const Heard heard = Hear();
+    EXPECT_NEAR(heard.hertz, 900, 9);
+    EXPECT_NEAR(heard.seconds, 0.5, 0.01);
+}
+
+TEST_F(SoundDeviceTest, ANewSoundCutsTheOldOneOfItsSlotAlone) {
+    const SoundRequest longSound = Sound("long", SineWave(PlayedRate * 20));
+    SoundRequest shortSound = Sound("short", SineWave(PlayedRate / 10));
+    for (const int slot : {1, 2}) {
+        shortSound.slot = slot;
+        device.Play(longSound);
+        device.Play(shortSound);
+        const Heard heard = Hear();
+        if (slot == longSound.slot)
+            EXPECT_LT(heard.seconds, 15);
+        else
+            EXPECT_NEAR(heard.seconds, 20, 0.1);
+    }
+}
+
+TEST_F(SoundDeviceTest, ABrokenFileIsNamed) {
+    try {
+        device.Play(Sound("broken", "no sound at all"));
+        FAIL() << "expected a run-time error";
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.Number(), Fault::BadData);
+        EXPECT_NE(error.About().find("wav/broken.wav"), std::string::npos) << error.About();
+    }
+}
+
+using SoundDeviceDeathTest = SoundDeviceTest;
+
+TEST_F(SoundDeviceDeathTest, WithoutADeviceNothingHappensAndNothingIsPrinted) {
+    const auto play = [this] {
+        setenv("SDL_AUDIODRIVER", "alsa", 1);
+        setenv("AUDIODEV", "no-such-device", 1);
+        device.Play(Sound("sine", SineWave(1000)));
+        std::_Exit(device.Playing() ? 2 : 0);
+    };
+    EXPECT_EXIT(play(), testing::ExitedWithCode(0), "^$");
+}
+
+}  // namespace

@@ -1,0 +1,110 @@
+// A small window with a control of every kind, and the desktop host around it: events are kept, and answered by
+// whatever the test wants.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <QtTest>
+
+#include <gtest/gtest.h>
+
+#include "desktop/desktop_host.h"
+
+struct TestForm : Form {
+    TestForm() {
+        name = "frmTest";
+        Caption = "Test";
+        Width = 400;
+        Height = 300;
+        // clang-format off
+        Put(mnuGo,     "mnuGo",     *this,      0,   0,   0,   0);
+        Put(picBoard,  "picBoard",  *this,    -50, -40, 300, 240);
+        Put(imgMark,   "imgMark",   picBoard, 100,  80,  20,  20);
+        Put(shpFrame,  "shpFrame",  picBoard, 130,  80,  20,  10);
+        Put(picSlate,  "picSlate",  *this,      0, 200, 400, 100);
+        Put(Line1,     "Line1",     picSlate, 300,  10,  50,   0);
+        Put(HScroll,   "HScroll",   picSlate,   0,   0, 200,  17);
+        Put(VScroll,   "VScroll",   *this,    380,   0,  17, 180);
+        Put(cmbLog,    "cmbLog",    picSlate,   0,  20, 200,  21);
+        Put(comboMode, "comboMode", picSlate,   0,  45, 200,  21);
+        Put(cmdGo,     "cmdGo",     picSlate,   0,  70, 100,  25);
+        PutArray(imgStance, "imgStance", picSlate, 250, 50, 32, 25);
+        // clang-format on
+        mnuGo.Caption = "&Go";
+        picBoard.canvas = Picture(300, 240);
+        picBoard.canvas.Fill(Rgb(10, 20, 30));
+        picSlate.BackColor = Rgb(90, 80, 70);
+        shpFrame.BorderColor = Line1.BorderColor = Rgb(255, 255, 0);
+        for (ScrollBar* bar : {&HScroll, &VScroll}) {
+            bar->Max = 760;
+            bar->SmallChange = 20;
+            bar->LargeChange = 760;
+        }
+        cmdGo.Caption = "Go";
+    }
+
+    MenuItem mnuGo;
+    PictureBox picBoard;
+    ImageControl imgMark;
+    Shape shpFrame;
+    PictureBox picSlate;
+    Shape Line1{ControlKind::Line};
+    ScrollBar HScroll{ControlKind::HScrollBar};
+    ScrollBar VScroll{ControlKind::VScrollBar};
+    ComboBox cmbLog{ControlKind::Combo};
+    ComboBox comboMode{ControlKind::List};
+    Button cmdGo;
+    Array<ImageControl, 0, 1> imgStance;
+};
+
+class DesktopTest : public testing::Test {
+  protected:
+    DesktopTest() { dialog.name = "frmDialog"; dialog.Width = dialog.Height = 100; dialog.Visible = false; }
+
+    void SetUp() override {
+        host.PumpEvents();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        events.clear();
+    }
+
+    template <typename Kind>
+    Kind& WidgetOf(const Control& control) {
+        return dynamic_cast<Kind&>(*window.WidgetOf(control));
+    }
+
+    /// The events of one control, one a line.
+    std::string EventsOf(const std::string& control) const {
+        std::string lines;
+        for (const InputEvent& event : events)
+            if (event.control == control) lines += EventText(event) + "\n";
+        return lines;
+    }
+
+    TestForm form;
+    Form dialog;
+    std::vector<InputEvent> events;
+    std::function<void(const InputEvent&)> answer = [](const InputEvent&) {};
+    DesktopHost host{form, {&dialog}, [this](const InputEvent& event) {
+                         events.push_back(event);
+                         answer(event);
+                     }};
+    FormWindow& window = host.WindowOf(form);
+};
+
+/// Counts what a widget paints.
+class PaintCounter : public QObject {
+  public:
+    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+    int paints = 0;
+    QRect last;
+
+  protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            ++paints;
+            last = static_cast<QPaintEvent*>(event)->rect();
+        }
+        return false;
+    }
+};

@@ -1,0 +1,144 @@
+// Pictures: block copies clipped at both ends, masks, scaling, the changed rectangle, decoding.
+#include "platform/picture.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/blit.h"
+#include "platform/picture_file.h"
+#include "platform/run_time_error.h"
+
+namespace {
+
+constexpr Colour Black = Rgb(0, 0, 0);
+constexpr Colour White = Rgb(255, 255, 255);
+constexpr Colour Red = Rgb(200, 10, 20);
+
+// A picture as text: "." black, "#" white, "r" red, "?" any other.
+std::string Drawn(const Picture& picture) {
+    std::string text;
+    for (int y = 0; y < picture.Height(); ++y) {
+        for (int x = 0; x < picture.Width(); ++x) {
+            const Colour c = picture.Pixel(x, y);
+            text += c == Black ? '.' : c == White ? '#' : c == Red ? 'r' : '?';
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+TEST(BitBlt, CopiesAreClippedAtBothPictures) {
+    struct Case {
+        const char* what;
+        int x, y, sourceX, sourceY;
+        const char* drawn;
+    };
+    constexpr Case Cases[] = {
+        {"inside", 1, 1, 0, 0, "....\n.##.\n.##.\n....\n"},
+        {"over the target's left top", -1, -1, 0, 0, "#...\n....\n....\n....\n"},
+        {"over the target's right bottom", 3, 3, 0, 0, "....\n....\n....\n...#\n"},
+        {"from outside the source", 1, 1, 1, 1, "....\n.#..\n....\n....\n"},
+        {"from before the source", 0, 0, -1, -1, "....\n.#..\n....\n....\n"},
+        {"far away", 100, 0, 0, 0, "....\n....\n....\n....\n"},
+    };
+    const Picture source(2, 2, White);
+    for (const Case& c : Cases) {
+        Picture target(4, 4);
+        BitBlt(target, c.x, c.y, 2, 2, source, c.sourceX, c.sourceY, RasterOp::SRCCOPY);
+        EXPECT_EQ(Drawn(target), c.drawn) << c.what;
+    }
+}
+
+TEST(BitBlt, MaskThenSpriteDrawsOnlyWhereTheMaskIsBlack) {
+    Picture mask(2, 1, White);
+    mask.SetPixel(0, 0, Black);
+    Picture sprite(2, 1, Black);
+    sprite.SetPixel(0, 0, Red);
+    Picture target(2, 1, White);
+    BitBlt(target, 0, 0, 2, 1, mask, 0, 0, RasterOp::SRCAND);
+    BitBlt(target, 0, 0, 2, 1, sprite, 0, 0, RasterOp::SRCINVERT);
+    EXPECT_EQ(Drawn(target), "r#\n");
+}
+
+TEST(StretchBlt, EachPixelIsTheAverageOfThoseItCovers) {
+    Picture source(4, 2, Black);
+    source.SetPixel(0, 0, White);
+    source.SetPixel(1, 1, White);  // half of the left square is white
+    Picture target(2, 1, Red);
+    StretchBlt(target, {0, 0, 2, 1}, source, source.Bounds());
+    EXPECT_EQ(target.Pixel(0, 0), Rgb(128, 128, 128));  // 2 * 255 / 4 = 127.5, upward
+    EXPECT_EQ(target.Pixel(1, 0), Black);
+    EXPECT_THROW(StretchBlt(target, {0, 0, 1, 1}, source, {2, 0, 4, 2}), RunTimeError);
+}
+
+TEST(StretchBlt, EnlargingRepeatsPixels) {
+    Picture source(2, 1, Black);
+    source.SetPixel(1, 0, White);
+    Picture target(4, 2, Red);
+    StretchBlt(target, {0, 0, 4, 2}, source, source.Bounds());
+    EXPECT_EQ(Drawn(target), "..##\n..##\n");
+}
+
+TEST(Picture, TheChangedRectangleHoldsAllThatWasDrawnSinceItWasTaken) {
+    Picture picture(100, 50);
+    EXPECT_EQ(picture.TakeChanged(), picture.Bounds()) << "a new picture is all new";
+    EXPECT_TRUE(picture.TakeChanged().Empty());
+    picture.SetPixel(10, 5, White);
+    BitBlt(picture, 90, 40, 20, 20, Picture(20, 20), 0, 0, RasterOp::SRCCOPY);
+    EXPECT_EQ(picture.TakeChanged(), (Rectangle{10, 5, 90, 45}));
+    picture.SetPixel(100, 5, White);
+    EXPECT_TRUE(picture.TakeChanged().Empty()) << "a pixel outside changes nothing";
+    EXPECT_EQ(picture.Pixel(-1, 0), 0U);
+}
+
+// Two by one pixels, 24 bits: blue, then red. Written out by hand from the file format.
+std::string TinyBitmap() {
+    std::string file = "BM";
+    const auto put32 = [&file](unsigned value) {
+        for (int shift = 0; shift < 32; shift += 8)
+            file.push_back(static_cast<char>(value >> shift & 0xFF));
+    };
+    put32(62);          // file size
+    put32(0);
+    put32(54);          // offset of the pixels
+    put32(40);          // header size
+    put32(2);           // width
+    put32(1);           // height
+    put32(24 << 16 | 1);  // one plane, 24 bits
+    for (int i = 0; i < 6; ++i)
+        put32(0);
+    file += std::string("\xFF\x00\x00\x00\x00\xFF\x00\x00", 8);
+    return file;
+}
+
+TEST(PictureFiles, ABitmapDecodesToItsPixels) {
+    const Picture picture = DecodePicture(TinyBitmap(), "tiny.bmp");
+    ASSERT_EQ(picture.Bounds(), (Rectangle{0, 0, 2, 1}));
+    EXPECT_EQ(picture.Pixel(0, 0), Rgb(0, 0, 255));
+    EXPECT_EQ(picture.Pixel(1, 0), Rgb(255, 0, 0));
+}
+
+TEST(PictureFiles, ATransparentGifPixelHasNoColour) {
+    // One by two pixels, palette black and white, index 0 transparent: codes clear, 0, 1, end in 3 bits each.
+    constexpr char Gif[] =
+        "GIF89a\x01\x00\x02\x00\x80\x00\x00\x00\x00\x00\xFF\xFF\xFF"
+        "\x21\xF9\x04\x01\x00\x00\x00\x00"
+        "\x2C\x00\x00\x00\x00\x01\x00\x02\x00\x00"
+        "\x02\x02\x44\x0A\x00;";
+    const Picture picture = DecodePicture({Gif, sizeof Gif - 1}, "tiny.gif");
+    ASSERT_EQ(picture.Bounds(), (Rectangle{0, 0, 1, 2}));
+    EXPECT_EQ(picture.Pixel(0, 0), 0U);
+    EXPECT_EQ(picture.Pixel(0, 1), White);
+}
+
+TEST(PictureFiles, WhatIsNoPictureIsNamed) {
+    try {
+        DecodePicture("MZ, no picture", "\\pic\\x.gif");
+        FAIL();
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(std::string(error.what()).find("Run-time error 4: Bad data: pic/x.gif: expected a picture"), 0U);
+    }
+}
+
+}  // namespace

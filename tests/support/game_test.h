@@ -1,0 +1,54 @@
+// What tests of the rules stand on: a program folder of their own, a headless host and a game put to its start.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "platform/headless_host.h"
+#include "platform/run_time_error.h"
+
+/// A temporary copy of the built game's data, with its pictures and sounds linked in; removed with the object.
+class ProgramFolder {
+  public:
+    ProgramFolder();
+    ~ProgramFolder();
+    ProgramFolder(const ProgramFolder&) = delete;
+    ProgramFolder& operator=(const ProgramFolder&) = delete;
+
+    const std::filesystem::path& Path() const { return path; }
+
+    /// Content of a file, named as "dat/apc.dat".
+    std::string Read(const std::string& name) const;
+    void Write(const std::string& name, const std::string& content) const;
+    void Remove(const std::string& name) const;
+
+  private:
+    std::filesystem::path path;
+};
+
+class GameTest : public testing::Test {
+  protected:
+    GameTest();
+
+    /// Starts the game as a player does, with a seed of the test's.
+    void StartGame(unsigned seed = 1);
+
+    /// All lines of the log from line `first` on, each with a line feed.
+    std::string Log(std::size_t first = 0) const;
+
+    ProgramFolder folder;
+    HeadlessHost host;
+};
+
+/// The text of the RunTimeError that `action` ends with; empty when it ends well.
+template <typename Action>
+std::string ErrorOf(Action action) {
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        return error.what();
+    }
+    return "";
+}

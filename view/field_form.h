@@ -1,0 +1,54 @@
+// The main window and the progress window as records: which controls they hold, where, and the values that
+// belong to the window rather than to the game.
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/numbers.h"
+
+constexpr int UnitPlaces = 40;  // units that are ever drawn: the squad and the computer's team
+
+struct FieldForm : Form {
+    FieldForm();
+
+    MenuItem mnuInfo;
+    MenuItem mnuExit;
+
+    PictureBox picSlateU;
+    ImageControl imgMarkH;
+    PictureBox picSlateL;
+    PictureBox picSlateR;
+    ScrollBar VScrollArea{ControlKind::VScrollBar};
+    ImageControl imgMarkV;
+    PictureBox picSlateD;
+    PictureBox area;  // the field, moved behind its window
+    Shape shpSelect;
+    ImageControl imgBlowup;
+    ImageControl imgCover;
+
+    ScrollBar HScrollArea{ControlKind::HScrollBar};
+    ComboBox cmbLog{ControlKind::Combo};
+    PictureBox picAreaMap;
+    Array<PictureBox, 0, UnitPlaces - 1> picAreaMapUnit;
+    Button cmdNextTurn;
+
+    PictureBox picForest;                         // sheet of tree tops, never shown
+    Array<Picture, 0, UnitPlaces - 1> picBuffer;  // the pixels of area under each unit
+
+  private:
+    void PutTopLevel();
+    void PutPanel();
+};
+
+struct ProgressForm : Form {
+    ProgressForm();
+
+    ImageControl imgProgress;
+    Shape Shape1;
+    PictureBox imgProgress1;  // the bar
+};
+
+extern FieldForm frmField;
+extern ProgressForm frmProgress;
+
+/// Puts the windows back to what they are at program start.
+void ResetForms();

@@ -1,0 +1,70 @@
+#include "view/painting.h"
+
+#include "combat/things.h"
+#include "platform/blit.h"
+#include "state/state.h"
+#include "view/field_form.h"
+#include "view/mini_map.h"
+#include "view/stored_pictures.h"
+#include "view/unit_painting.h"
+
+namespace {
+
+constexpr int SpritesInRow = 32;
+constexpr int MaskBelow = 160;  // pixels from a sprite to its mask
+
+// ODDITY: the background saved is that under the current unit, whoever stands on the repainted cell; for
+// another unit it is merely renewed from what stands there. Charges and piles have no background.
+void SaveCurrentBackground(const Picture& target) {
+    if (curUnit >= ChargeBase) return;
+    const Unit& unit = UnitTable[curUnit];
+    BitBlt(frmField.picBuffer[curUnit], 0, 0, CellSize, CellSize, target, unit.pixelX, unit.pixelY,
+           RasterOp::SRCCOPY);
+}
+
+}  // namespace
+
+void PaintCell(int x, int y, Picture& target, int tileX, int tileY) {
+    const Cell& cell = cellGrid[y][x];
+    const bool ownTile = tileX == -1 || tileY == -1;
+    const int column = ownTile ? static_cast<int>(cell.tileX) : tileX;
+    const int row = ownTile ? static_cast<int>(cell.tileY) : tileY;
+    const int left = x * CellSize;
+    const int top = y * CellSize;
+    BitBlt(target, left, top, CellSize, CellSize, StoredPicture("picMap.bmp"), column * CellSize,
+           row * CellSize, RasterOp::SRCCOPY);
+    MiniMapCell(frmField, x, y);
+    if (CountAt(x, y, ChargeBase) > 0) PaintSprite(ChargeSprite, left, top);
+    if (CountAt(x, y, PileBase) > 0) PaintSprite(PileSprite, left, top);
+    if (fieldBusy == True || cell.occupant < 0) return;
+    SaveCurrentBackground(target);
+    PaintUnitAtCell(x, y);
+}
+
+void PaintUnitAtCell(int x, int y) {
+    const int occupant = cellGrid[y][x].occupant;
+    if (occupant < 0) return;
+    const i16 keptUnit = curUnit;
+    const i16 keptTeam = curTeam;
+    curUnit = occupant;
+    PaintUnit(0, 0);
+    curUnit = keptUnit;
+    curTeam = keptTeam;
+}
+
+void PaintSprite(int sprite, int pixelX, int pixelY) {
+    const int sourceX = sprite % SpritesInRow * CellSize;
+    const int sourceY = sprite / SpritesInRow * CellSize;
+    PaintMasked(frmField.area.canvas, pixelX, pixelY, StoredPicture("picSprites.bmp"), sourceX, sourceY,
+                sourceX, sourceY + MaskBelow);
+}
+
+void PaintMasked(Picture& target, int pixelX, int pixelY, const Picture& sheet, int spriteX, int spriteY,
+                 int maskX, int maskY) {
+    BitBlt(target, pixelX, pixelY, CellSize, CellSize, sheet, maskX, maskY, RasterOp::SRCAND);
+    BitBlt(target, pixelX, pixelY, CellSize, CellSize, sheet, spriteX, spriteY, RasterOp::SRCINVERT);
+}
+
+void MiniMapCell(FieldForm& form, int x, int y) {
+    if (fieldBusy != True) picStretchSquare(form, x, y);
+}
