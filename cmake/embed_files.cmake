@@ -1,6 +1,7 @@
-# Writes OUTPUT, a C++ source that embeds every picture of FOLDER and lists them for EmbeddedFiles().
+# Writes OUTPUT, a C++ source that embeds the stored pictures of FOLDER, and those loose ones that a window also shows
+# before anything is loaded, and lists them for EmbeddedFiles().
 # Run as: cmake -DOUTPUT=<file.cpp> -DFOLDER=<folder> -P embed_files.cmake
-file(GLOB FILES ${FOLDER}/*.bmp ${FOLDER}/*.gif)
+file(GLOB FILES ${FOLDER}/stored/*.bmp ${FOLDER}/stored/*.gif ${FOLDER}/pic/stance?off.gif)
 set(blobs "")
 set(rows "")
 set(number 0)

@@ -172,6 +172,13 @@ const WeaponInfo& WeaponInfoByName(std::string_view key) {
     return index < 0 ? none : weaponTable[static_cast<std::size_t>(index)];
 }
 
+std::string_view ItemClass(std::string_view key) {
+    const int index = WeaponIndex(key);
+    if (index < 0) return "";
+    const std::string& kind = weaponTable[static_cast<std::size_t>(index)].kind;
+    return kind == "m" || kind == "w" ? "Weapon" : "Thing";
+}
+
 int WeaponIndex(std::string_view key) {
     for (std::size_t i = 0; i < weaponTable.size(); ++i)
         if (weaponTable[i].name == key) return static_cast<int>(i);

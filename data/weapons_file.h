@@ -15,3 +15,6 @@ const WeaponInfo& WeaponInfoByName(std::string_view key);
 
 /// Its index, -1 when there is none.
 int WeaponIndex(std::string_view key);
+
+/// "Weapon" for a row of kind "m" or "w", "Thing" for any other row, empty when no row has this key.
+std::string_view ItemClass(std::string_view key);

@@ -10,7 +10,9 @@ namespace {
 
 // "imgEnemyCount" to "Enemy Count": without the kind's prefix, a blank before each further capital.
 QString InWords(const std::string& name) {
-    const auto isUpper = [](char character) { return std::isupper(static_cast<unsigned char>(character)) != 0; };
+    const auto isUpper = [](char character) {
+        return std::isupper(static_cast<unsigned char>(character)) != 0;
+    };
     auto from = std::find_if(name.begin(), name.end(), isUpper);
     if (from == name.end()) from = name.begin();
     QString words;
@@ -23,16 +25,21 @@ QString InWords(const std::string& name) {
 
 std::string CaptionOf(const Control& control) {
     switch (control.kind) {
-        case ControlKind::Form: return static_cast<const Form&>(control).Caption;
-        case ControlKind::Button: return static_cast<const Button&>(control).Caption;
-        case ControlKind::Menu: return static_cast<const MenuItem&>(control).Caption;
-        default: return "";
+        case ControlKind::Form:
+            return static_cast<const Form&>(control).Caption;
+        case ControlKind::Button:
+            return static_cast<const Button&>(control).Caption;
+        case ControlKind::Menu:
+            return static_cast<const MenuItem&>(control).Caption;
+        default:
+            return "";
     }
 }
 
 }  // namespace
 
-ControlView::ControlView(Control& shown, QWidget& by, const EventSink& to) : record(shown), widget(by), sink(to) {
+ControlView::ControlView(Control& shown, QWidget& by, const EventSink& to)
+    : record(shown), widget(by), sink(to) {
     widget.setObjectName(QString::fromStdString(record.name));
     widget.setAccessibleName(SpokenName(record));
     // Keys belong to the window, and a press that a widget doesn't want isn't for what lies beneath it.
@@ -57,7 +64,9 @@ QRect ControlView::Place() const {
     return {record.Left, record.Top, std::max(record.Width, 0), std::max(record.Height, 0)};
 }
 
-void ControlView::Send(EventKind kind, int code) const { sink(EventOf(record, kind, code)); }
+void ControlView::Send(EventKind kind, int code) const {
+    sink(EventOf(record, kind, code));
+}
 
 void ControlView::SyncTip() {
     if (record.ToolTipText == shownTip) return;

@@ -1,5 +1,5 @@
-// What the widgets of all kinds of controls have in common: each shows one record, is brought in line with it by
-// Sync, and sends what a person does to it to the window's sink.
+// What the widgets of all kinds of controls have in common: each shows one record, is brought in line with it
+// by Sync, and sends what a person does to it to the window's sink.
 #pragma once
 
 #include <functional>
@@ -20,8 +20,8 @@ class ControlView {
     ControlView(const ControlView&) = delete;
     ControlView& operator=(const ControlView&) = delete;
 
-    /// Brings the widget in line with its record. What hasn't changed isn't painted again; what has is painted with
-    /// the window's next paint.
+    /// Brings the widget in line with its record. What hasn't changed isn't painted again; what has is
+    /// painted with the window's next paint.
     void Sync();
 
     const Control& Shown() const { return record; }

@@ -25,9 +25,9 @@ ScrollBarWidget::ScrollBarWidget(ScrollBar& shown, QWidget& parent, const EventS
     setContextMenuPolicy(Qt::NoContextMenu);
     connect(this, &QScrollBar::sliderMoved, this, [this](int under) { Send(EventKind::Scroll, under); });
     connect(this, &QScrollBar::sliderReleased, this, [this] { Send(EventKind::Change, value()); });
-    connect(this, &QScrollBar::valueChanged, this, [this](int now) {
-        if (!isSliderDown()) Send(EventKind::Change, now);
-    });
+    // Not while the thumb is dragged: the bar has then taken the record's value before it could report its
+    // own.
+    connect(this, &QScrollBar::valueChanged, this, [this](int now) { Send(EventKind::Change, now); });
 }
 
 void ScrollBarWidget::SyncContent() {
@@ -60,7 +60,9 @@ void EntryModel::Sync() {
     }
 }
 
-int EntryModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows; }
+int EntryModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows;
+}
 
 QVariant EntryModel::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row());
@@ -87,7 +89,6 @@ void ComboWidget::SyncContent() {
     const std::string& text = row < 0 ? combo.Text : combo.List[static_cast<std::size_t>(row)];
     if (shownText != text) {
         shownText = text;
-        setPlaceholderText(QString::fromStdString(shownText));
         update();
     }
     if (shownBack != combo.BackColor || shownFore != combo.ForeColor) SyncColours();
@@ -105,7 +106,7 @@ void ComboWidget::SyncColours() {
     shownFore = combo.ForeColor;
     QPalette colours = palette();
     colours.setColor(QPalette::Base, QColor(shownBack));
-    for (const QPalette::ColorRole role : {QPalette::ButtonText, QPalette::Text, QPalette::PlaceholderText})
+    for (const QPalette::ColorRole role : {QPalette::ButtonText, QPalette::Text})
         colours.setColor(role, QColor(shownFore));
     setPalette(colours);
     view()->setPalette(colours);
@@ -115,7 +116,7 @@ void ComboWidget::paintEvent(QPaintEvent* /*event*/) {
     QStylePainter painter(this);
     QStyleOptionComboBox box;
     initStyleOption(&box);
-    if (currentIndex() < 0) box.currentText = placeholderText();
+    box.currentText = QString::fromStdString(shownText);
     painter.fillRect(rect(), QColor(shownBack));
     box.editable = true;  // a frame and an arrow, without a face between them
     painter.drawComplexControl(QStyle::CC_ComboBox, box);
@@ -123,7 +124,9 @@ void ComboWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.drawControl(QStyle::CE_ComboBoxLabel, box);
 }
 
-void ComboWidget::wheelEvent(QWheelEvent* event) { event->accept(); }
+void ComboWidget::wheelEvent(QWheelEvent* event) {
+    event->accept();
+}
 
 ButtonWidget::ButtonWidget(Button& shown, QWidget& parent, const EventSink& to)
     : QPushButton(&parent), ControlView(shown, *this, to), button(shown) {
@@ -139,15 +142,22 @@ void ButtonWidget::SyncContent() {
 
 ControlView* MakeControlView(Control& control, QWidget& parent, const EventSink& to) {
     switch (control.kind) {
-        case ControlKind::PictureBox: return new CanvasWidget(static_cast<PictureBox&>(control), parent, to);
-        case ControlKind::Image: return new ImageWidget(static_cast<ImageControl&>(control), parent, to);
+        case ControlKind::PictureBox:
+            return new CanvasWidget(static_cast<PictureBox&>(control), parent, to);
+        case ControlKind::Image:
+            return new ImageWidget(static_cast<ImageControl&>(control), parent, to);
         case ControlKind::HScrollBar:
-        case ControlKind::VScrollBar: return new ScrollBarWidget(static_cast<ScrollBar&>(control), parent, to);
+        case ControlKind::VScrollBar:
+            return new ScrollBarWidget(static_cast<ScrollBar&>(control), parent, to);
         case ControlKind::Combo:
-        case ControlKind::List: return new ComboWidget(static_cast<ComboBox&>(control), parent, to);
-        case ControlKind::Button: return new ButtonWidget(static_cast<Button&>(control), parent, to);
+        case ControlKind::List:
+            return new ComboWidget(static_cast<ComboBox&>(control), parent, to);
+        case ControlKind::Button:
+            return new ButtonWidget(static_cast<Button&>(control), parent, to);
         case ControlKind::Shape:
-        case ControlKind::Line: return new OutlineWidget(static_cast<Shape&>(control), parent, to);
-        default: return nullptr;
+        case ControlKind::Line:
+            return new OutlineWidget(static_cast<Shape&>(control), parent, to);
+        default:
+            return nullptr;
     }
 }

@@ -1,5 +1,5 @@
-// The native controls: scroll bars, lists and buttons. They show what their records say: what a person does to one is
-// sent as an event, and the widget then takes what the game has made of it.
+// The native controls: scroll bars, lists and buttons. They show what their records say: what a person does
+// to one is sent as an event, and the widget then takes what the game has made of it.
 #pragma once
 
 #include <QAbstractListModel>

@@ -49,7 +49,9 @@ DesktopHost::DesktopHost(Form& mainForm, const std::vector<Form*>& otherForms, E
     InstallHost(this);
 }
 
-DesktopHost::~DesktopHost() { InstallHost(nullptr); }
+DesktopHost::~DesktopHost() {
+    InstallHost(nullptr);
+}
 
 void DesktopHost::Enter(const std::function<void()>& piece) {
     try {
@@ -62,14 +64,16 @@ void DesktopHost::Enter(const std::function<void()>& piece) {
 
 void DesktopHost::Receive(const InputEvent& event) {
     Enter([&] { dispatch(event); });
-    if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name) EndProcess(EXIT_SUCCESS);
+    if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name)
+        EndProcess(EXIT_SUCCESS);
 }
 
 FormWindow& DesktopHost::WindowOf(Form& form) {
     if (&form == &mainWindow.Shown()) return mainWindow;
     for (FormWindow* window : otherWindows)
         if (&window->Shown() == &form) return *window;
-    otherWindows.push_back(new FormWindow(form, &mainWindow, [this](const InputEvent& event) { Receive(event); }));
+    otherWindows.push_back(
+        new FormWindow(form, &mainWindow, [this](const InputEvent& event) { Receive(event); }));
     return *otherWindows.back();
 }
 

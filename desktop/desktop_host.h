@@ -1,5 +1,5 @@
-// The host of the desktop program: shows the forms as windows, lets their events into the game, and answers what the
-// game asks of the machine.
+// The host of the desktop program: shows the forms as windows, lets their events into the game, and answers
+// what the game asks of the machine.
 #pragma once
 
 #include <functional>
@@ -13,13 +13,13 @@
 
 class DesktopHost final : public Host {
   public:
-    /// `mainForm` is the window whose close button ends the program; `otherForms` are shown when they turn visible.
-    /// Events go to `dispatchRoutine`. Installs itself for as long as it lives.
+    /// `mainForm` is the window whose close button ends the program; `otherForms` are shown when they turn
+    /// visible. Events go to `dispatchRoutine`. Installs itself for as long as it lives.
     DesktopHost(Form& mainForm, const std::vector<Form*>& otherForms, EventSink dispatchRoutine);
     ~DesktopHost() override;
 
-    /// Runs a piece of the game and shows what it has changed. This is the one place where the game is entered: an
-    /// error is shown in a box and on standard error, and the process ends with exit code 1.
+    /// Runs a piece of the game and shows what it has changed. This is the one place where the game is
+    /// entered: an error is shown in a box and on standard error, and the process ends with exit code 1.
     void Enter(const std::function<void()>& piece);
 
     /// The window of a form; made at its first use.

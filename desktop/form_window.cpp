@@ -128,7 +128,9 @@ void FormWindow::AwaitExposure() {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
 }
 
-void FormWindow::keyPressEvent(QKeyEvent* event) { SendKey(EventKind::KeyDown, *event); }
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    SendKey(EventKind::KeyDown, *event);
+}
 
 void FormWindow::keyReleaseEvent(QKeyEvent* event) {
     // A held key only repeats its press.

@@ -1,4 +1,5 @@
-// One window of the game: a real widget for every control of a form, and the form's keys and close button as events.
+// One window of the game: a real widget for every control of a form, and the form's keys and close button as
+// events.
 #pragma once
 
 #include <vector>
@@ -12,8 +13,8 @@ class QMenuBar;
 
 class FormWindow : public QWidget {
   public:
-    /// A window for `shown`, not on the screen until Sync finds the form visible. With an `owner` it stands before
-    /// the owner, in its middle. `to` takes all its events.
+    /// A window for `shown`, not on the screen until Sync finds the form visible. With an `owner` it stands
+    /// before the owner, in its middle. `to` takes all its events.
     FormWindow(Form& shown, QWidget* owner, EventSink to);
 
     Form& Shown() const { return form; }
@@ -21,8 +22,8 @@ class FormWindow : public QWidget {
     /// Brings the window and all its widgets in line with their records.
     void Sync();
 
-    /// Paints at once what Sync has found changed. No event is handled, but that the first time after the window came
-    /// on the screen this waits for the window system to show it.
+    /// Paints at once what Sync has found changed. No event is handled, but that the first time after the
+    /// window came on the screen this waits for the window system to show it.
     void PaintNow();
 
     /// The widget of one of the form's controls, nullptr for a menu entry.

@@ -98,7 +98,8 @@ int CodeOnKeypad(int key) {
     return Find(KeypadSigns, key);
 }
 
-// By its place: what a key means that another alphabet, or Shift, gives another sign. The signs are their own keys.
+// By its place: what a key means that another alphabet, or Shift, gives another sign. The signs are their own
+// keys.
 int CodeOfPlace(unsigned scanCode) {
     for (const KeyboardRow& row : Keyboard)
         if (scanCode >= row.scanCode && scanCode - row.scanCode < row.keys.size())

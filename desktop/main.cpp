@@ -17,7 +17,8 @@
 namespace {
 
 void PrintNoDisplay() {
-    const RunTimeError error(Fault::NoDisplay, "start the game from a desktop, or set DISPLAY or WAYLAND_DISPLAY");
+    const RunTimeError error(Fault::NoDisplay,
+                             "start the game from a desktop, or set DISPLAY or WAYLAND_DISPLAY");
     std::fprintf(stderr, "Sarnoth III: %s\n", error.what());
 }
 
@@ -55,6 +56,9 @@ int main(int /*count*/, char** arguments) {
 
     DesktopHost host(frmField, {&frmProgress}, Dispatch);
     // Within the event loop, so that the game can wait, and show boxes, from its first moment.
-    QTimer::singleShot(0, &application, [&host] { host.Enter([] { Main(); }); });
+    QTimer begin;
+    begin.setSingleShot(true);
+    begin.callOnTimeout([&host] { host.Enter([] { Main(); }); });
+    begin.start();
     return QApplication::exec();
 }

@@ -11,7 +11,8 @@ namespace {
 // The picture's own pixels, not a copy: for as long as the picture stays as it is.
 QImage Wrapped(const Picture& picture, QImage::Format format) {
     const auto* bytes = reinterpret_cast<const uchar*>(picture.Row(0));
-    return {bytes, picture.Width(), picture.Height(), static_cast<qsizetype>(sizeof(Colour)) * picture.Width(), format};
+    return {bytes, picture.Width(), picture.Height(),
+            static_cast<qsizetype>(sizeof(Colour)) * picture.Width(), format};
 }
 
 QRect Rect(const Rectangle& rectangle) {

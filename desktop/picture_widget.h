@@ -1,5 +1,5 @@
-// The widgets that show pixels: canvases that the game draws into, loaded pictures, and outlines. The game content is
-// copied to the screen as it is.
+// The widgets that show pixels: canvases that the game draws into, loaded pictures, and outlines. The game
+// content is copied to the screen as it is.
 #pragma once
 
 #include <QWidget>
@@ -21,7 +21,8 @@ class CanvasWidget : public QWidget, public ControlView {
     Colour shownColour;
 };
 
-/// An image: its picture from the left top corner, cut at the control's size, what lies beneath seen through it.
+/// An image: its picture from the left top corner, cut at the control's size, what lies beneath seen through
+/// it.
 class ImageWidget : public QWidget, public ControlView {
   public:
     ImageWidget(ImageControl& shown, QWidget& parent, const EventSink& to);

@@ -25,10 +25,17 @@ bool PointerEvents::eventFilter(QObject* /*watched*/, QEvent* event) {
     const auto mouse = [event]() -> const QMouseEvent& { return static_cast<const QMouseEvent&>(*event); };
     switch (event->type()) {
         case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonDblClick: Send(EventKind::MouseDown, ButtonCode(mouse().button()), mouse()); return true;
-        case QEvent::MouseMove: Send(EventKind::MouseMove, ButtonCode(mouse().buttons()), mouse()); return true;
-        case QEvent::MouseButtonRelease: Release(mouse()); return true;
-        default: return false;
+        case QEvent::MouseButtonDblClick:
+            Send(EventKind::MouseDown, ButtonCode(mouse().button()), mouse());
+            return true;
+        case QEvent::MouseMove:
+            Send(EventKind::MouseMove, ButtonCode(mouse().buttons()), mouse());
+            return true;
+        case QEvent::MouseButtonRelease:
+            Release(mouse());
+            return true;
+        default:
+            return false;
     }
 }
 

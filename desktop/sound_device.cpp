@@ -50,10 +50,13 @@ class QuietStandardError {
 };
 
 [[noreturn]] void Refuse(const SoundRequest& sound) {
-    throw RunTimeError(Fault::BadData, ShownName(sound.fileName) + ": expected a WAV sound: " + SDL_GetError());
+    throw RunTimeError(Fault::BadData,
+                       ShownName(sound.fileName) + ": expected a WAV sound: " + SDL_GetError());
 }
 
-double FromHundredthsOfDecibel(int level) { return std::pow(10.0, level / 2000.0); }
+double FromHundredthsOfDecibel(int level) {
+    return std::pow(10.0, level / 2000.0);
+}
 
 void ApplyGains(Samples& samples, const SoundRequest& sound) {
     const double common = FromHundredthsOfDecibel(sound.volume);
@@ -101,7 +104,9 @@ struct SoundDevice::Slot {
 
 SoundDevice::SoundDevice() : slots(SlotCount) {}
 
-SoundDevice::~SoundDevice() { Close(); }
+SoundDevice::~SoundDevice() {
+    Close();
+}
 
 void SoundDevice::Play(const SoundRequest& sound) {
     if (!Open()) return;
@@ -115,7 +120,9 @@ void SoundDevice::Play(const SoundRequest& sound) {
     Mix_PlayChannel(sound.slot, &slot.chunk, 0);
 }
 
-bool SoundDevice::Playing() const { return state == State::Open && Mix_Playing(-1) > 0; }
+bool SoundDevice::Playing() const {
+    return state == State::Open && Mix_Playing(-1) > 0;
+}
 
 bool SoundDevice::Open() {
     if (state != State::Closed) return state == State::Open;

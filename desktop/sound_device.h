@@ -1,5 +1,5 @@
-// Sounds on the machine's sound device, up to four at once. Where there is no device nothing is heard and nobody is
-// troubled.
+// Sounds on the machine's sound device, up to four at once. Where there is no device nothing is heard and
+// nobody is troubled.
 #pragma once
 
 #include <vector>
@@ -13,8 +13,8 @@ class SoundDevice {
     SoundDevice(const SoundDevice&) = delete;
     SoundDevice& operator=(const SoundDevice&) = delete;
 
-    /// Starts a sound and returns. Opens the device if need be. Throws RunTimeError (BadData) for a file that isn't a
-    /// sound, as long as there is a device.
+    /// Starts a sound and returns. Opens the device if need be. Throws RunTimeError (BadData) for a file that
+    /// isn't a sound, as long as there is a device.
     void Play(const SoundRequest& sound);
 
     bool Playing() const;

@@ -6,9 +6,11 @@ enum Block { BlocksNothing, BlocksStep, BlocksView };
 
 }  // namespace
 
-bool InField(int x, int y) {
-    return x >= 0 && x < FieldWidth && y >= 0 && y < FieldHeight;
+FacingWay WayOf(int facing) {
+    return facing >= 0 && facing < FacingCount ? FacingWays[static_cast<std::size_t>(facing)] : FacingWay{0, 0, 0};
 }
+
+bool InField(int x, int y) { return x >= 0 && x < FieldWidth && y >= 0 && y < FieldHeight; }
 
 bool CellOpen(std::string_view kind, int x, int y) {
     if (!InField(x, y)) return false;
@@ -20,4 +22,16 @@ bool CellOpen(std::string_view kind, int x, int y) {
 
 bool CellFreeToStep(int x, int y) {
     return InField(x, y) && cellGrid[y][x].occupant < 0 && CellOpen("step", x, y);
+}
+
+bool IsStoreTile(int x, int y) {
+    const Cell& cell = cellGrid[y][x];
+    return cell.tileY == Various && cell.tileX >= FirstStoreTile && cell.tileX <= LastStoreTile;
+}
+
+bool FacingStoreTile(int unit) {
+    const FacingWay way = WayOf(UnitTable[unit].facing);
+    const int x = UnitTable[unit].cellX + way.dx;
+    const int y = UnitTable[unit].cellY + way.dy;
+    return InField(x, y) && IsStoreTile(x, y);
 }

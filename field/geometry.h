@@ -1,16 +1,41 @@
-// The geometry of the field: what lies inside it, what can be entered or seen through, how a facing maps to
-// an offset. Pure rules over the map and the units.
+// The geometry of the field: what lies inside it, what can be entered or seen through, how a facing maps to an offset.
+// Pure rules over the map and the units.
 #pragma once
 
+#include <array>
 #include <string_view>
 
 #include "platform/rounding.h"
 #include "state/state.h"
 
+/// The way a facing leads: one cell's offset, and its angle in steps of 45 degrees clockwise from east on the screen.
+struct FacingWay {
+    int dx;
+    int dy;
+    int angleStep;
+};
+
+inline constexpr int FacingCount = 8;
+
+// clang-format off
+/// By facing.
+inline constexpr std::array<FacingWay, FacingCount> FacingWays = {{
+    { 1,  0, 0},  // east
+    {-1,  0, 4},  // west
+    { 0, -1, 6},  // north
+    { 0,  1, 2},  // south
+    { 1, -1, 7},  // north-east
+    { 1,  1, 1},  // south-east
+    {-1,  1, 3},  // south-west
+    {-1, -1, 5},  // north-west
+}};
+// clang-format on
+
+/// The offset of a facing; (0, 0) for anything else than 0 to 7.
+FacingWay WayOf(int facing);
+
 /// The cell of a pixel coordinate of the field.
-constexpr int CellOfPixel(int pixel) {
-    return FloorDivide(pixel, CellSize);
-}
+constexpr int CellOfPixel(int pixel) { return FloorDivide(pixel, CellSize); }
 
 /// Whether (x, y) is a cell of the field proper. Any coordinates may be asked for, here and below.
 bool InField(int x, int y);
@@ -20,3 +45,12 @@ bool CellOpen(std::string_view kind, int x, int y);
 
 /// Whether a unit can step on the cell: in the field, nobody there, open to a step.
 bool CellFreeToStep(int x, int y);
+
+/// The team that a unit's index belongs to.
+constexpr int TeamOfUnit(int unit) { return FloorDivide(unit, TeamStride); }
+
+/// Whether the cell is one of the eight tiles of the squad's vehicle.
+bool IsStoreTile(int x, int y);
+
+/// Whether the unit looks at a tile of the vehicle right ahead, so that its store can be opened.
+bool FacingStoreTile(int unit);

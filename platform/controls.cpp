@@ -14,6 +14,12 @@ void Form::Put(Control& control, const char* controlName, Control& in, int left,
     controls.push_back(&control);
 }
 
+Control* Form::Find(std::string_view controlName, int place) const {
+    for (Control* control : controls)
+        if (control->name == controlName && control->index == place) return control;
+    return nullptr;
+}
+
 void LoadPicture(ImageControl& image, const std::string& fileName) {
     image.Picture = fileName.empty() ? nullptr : ReadPictureFile(fileName);
     image.PictureName = fileName;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/arrays.h"
@@ -100,6 +101,9 @@ struct Form : Control {
     std::string Caption;
     Colour BackColor = Rgb(212, 208, 200);
     std::vector<Control*> controls;
+
+    /// The control of this name and place in its array, -1 for one on its own; nullptr when there is none.
+    Control* Find(std::string_view controlName, int place = -1) const;
 
   protected:
     /// Gives `control` its name and place and makes it one of this form's.

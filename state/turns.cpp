@@ -1,17 +1,21 @@
 #include "state/turns.h"
 
+#include <algorithm>
 #include <string>
 
+#include "combat/actions.h"
+#include "combat/things.h"
+#include "field/sightings.h"
 #include "state/mission_end.h"
 #include "state/state.h"
 #include "view/field_form.h"
 #include "view/log.h"
 #include "view/painting.h"
+#include "view/panel.h"
 
 namespace {
 
 constexpr int TeamsWithTurns = 2;
-constexpr int TimeToAct = 4;  // what the cheapest command costs
 
 // Health at or above these is...
 constexpr int HealthActive = 31;
@@ -62,10 +66,37 @@ void StepSelection(Passed& passed) {
     }
 }
 
+// Takes the current unit's weapon in its hand and chooses the fire mode that it had.
+void TakeUpWeapon(Unit& unit) {
+    const int kept = unit.fireMode;
+    RefreshHand();
+    const bool offered = kept < static_cast<int>(frmField.comboMode.List.size());
+    ChooseMode(offered ? kept : 0);
+}
+
 // What a unit that can act does first. True when the game now waits for the player.
-bool BeginAct(const Unit& unit) {
+bool BeginAct(Unit& unit) {
     CheckStatus();
+    TakeUpWeapon(unit);
+    ShowStance(unit.stance);
+    ShowStatus("");
+    if (unit.team == SquadTeam) ScrollToUnit(curUnit);
+    EnemyCounter("clear");
+    UnitLookEnemies();
     return unit.team == SquadTeam;
+}
+
+void SpendAll(i16 Unit::*purse, const char* what) {
+    UnitTable[curUnit].*purse = 0;
+    ShowStatus(what);
+    SelectNextUnit();
+}
+
+void Grant(i16 Unit::*purse, const char* what) {
+    constexpr int Granted = 200;
+    constexpr int Limit = 800;
+    UnitTable[curUnit].*purse = std::min(UnitTable[curUnit].*purse + Granted, Limit);
+    ShowStatus(what);
 }
 
 }  // namespace
@@ -82,13 +113,14 @@ void NewTurn() {
 
 void SelectNextUnit() {
     walkOn = 0;
+    ++game.orders;
     Passed passed;
     for (;;) {
         const int members = teamLast[curTeam] + 1;
         if (passed.done == members) return NewTurn();
         if (passed.dead == members) return EndGame();
         StepSelection(passed);
-        const Unit& unit = UnitTable[curUnit];
+        Unit& unit = UnitTable[curUnit];
         if (unit.status == Dead) {
             AddToLog(LogName(curUnit) + " is dead. Selecting the next one.", 1);
             ++passed.dead;
@@ -119,7 +151,16 @@ void CheckStatus() {
         unit.health = 0;
         unit.status = Dead;
     }
+    ShowStatus("health");
 }
+
+void TimeSpendAll() { SpendAll(&Unit::time, "time"); }
+
+void TimeGrant() { Grant(&Unit::time, "time"); }
+
+void EnergySpendAll() { SpendAll(&Unit::energy, "energy"); }
+
+void EnergyGrant() { Grant(&Unit::energy, "energy"); }
 
 void ClearSightings() {
     for (int i = 0; i <= teamLast[SquadTeam]; ++i) {

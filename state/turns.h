@@ -10,6 +10,16 @@ void NewTurn();
 /// dead.
 void SelectNextUnit();
 
+/// The current unit gives up its turn: its time is gone, and the next one is selected.
+void TimeSpendAll();
+
+/// The current unit gets 200 time more, 800 in all at most.
+void TimeGrant();
+
+/// The same two for energy.
+void EnergySpendAll();
+void EnergyGrant();
+
 /// Derives the current unit's status from its health.
 void CheckStatus();
 

@@ -1,6 +1,7 @@
 #include "view/field_form.h"
 
 #include <memory>
+#include <string>
 
 #include "state/state.h"
 #include "view/stored_pictures.h"
@@ -30,6 +31,8 @@ FieldForm::FieldForm() {
     Visible = false;
     PutTopLevel();
     PutPanel();
+    PutBars();
+    PutStances();
     for (Picture& buffer : picBuffer)
         buffer = Picture(CellSize, CellSize);
 }
@@ -76,6 +79,11 @@ void FieldForm::PutPanel() {
     Put(cmbLog,       "cmbLog",        picSlateD,    16,   8,  425,  21);
     Put(picAreaMap,   "picAreaMap",    picSlateD,    16,  40,  152,  92);
     PutArray(picAreaMapUnit, "picAreaMapUnit", picAreaMap, 104, 8, 2, 2);
+    Put(imgEnemyCount, "imgEnemyCount", picSlateD,  448,   8,   25,  19);
+    Put(picBarWeapon, "picBarWeapon",  picSlateD,   656,  31,  117,  42);
+    PutArray(imgInv,  "imgInv",        picBarWeapon,  0,   0,  117,  42);
+    Put(imgFlag,      "imgFlag",       picBarWeapon, 96,   2,   18,  12);
+    Put(comboMode,    "comboMode",     picSlateD,   656,  80,  121,  21);
     Put(cmdNextTurn,  "cmdNextTurn",   picSlateD,   656, 120,  123,  25);
     // clang-format on
     Stretch(HScrollArea, 760);
@@ -85,8 +93,53 @@ void FieldForm::PutPanel() {
     picAreaMap.canvas = Picture(picAreaMap.Width, picAreaMap.Height, FieldGreen);
     for (PictureBox& dot : picAreaMapUnit)
         dot.Visible = false;  // until its unit is first drawn
+    imgEnemyCount.Visible = false;
+    imgEnemyCount.Tag = "0";
+    imgInv[0].Tag = "base-large";
+    imgFlag.Picture = StoredImage("imgFlag.gif");
     cmdNextTurn.Caption = "End Turn";
+    picBarWeapon.canvas = StoredPicture("picBarWeapon.bmp");
     picSlateD.canvas = StoredPicture("picSlateD.bmp");
+}
+
+void FieldForm::PutBars() {
+    constexpr int BarCount = 4;
+    constexpr int DigitsOfBar = 3;
+    Put(imgBars, "imgBars", picSlateD, 423, 75, 210, 31);
+    imgBars.Picture = StoredImage("imgBars.gif");
+    imgBars.Tag = "off";
+    for (int bar = 0; bar < BarCount; ++bar) {
+        Put(imgBar[bar], "imgBar", picSlateD, 472, 77 + 8 * bar, 0, 3);
+        imgBar[bar].Picture = StoredImage("imgBar" + std::to_string(bar) + ".bmp");
+    }
+    for (int digit = 0; digit < BarCount * DigitsOfBar; ++digit)
+        Put(imgBar[BarCount + digit], "imgBar", picSlateD, 614 + 5 * (digit % DigitsOfBar),
+            76 + 8 * (digit / DigitsOfBar), 5, 6);
+    for (int i = 0; i <= imgBar.Upper; ++i)
+        imgBar[i].index = i;
+    // clang-format off
+    //  control       name            in          left  top  width height
+    Put(imgBarWunder, "imgBarWunder", picSlateD,   776,  31,    5,  42);
+    Put(imgBarWcolor, "imgBarWcolor", picSlateD,   777,  72,    3,   0);
+    Put(imgBarWcover, "imgBarWcover", picSlateD,   777,  32,    3,  40);
+    // clang-format on
+    imgBarWunder.Picture = StoredImage("imgBarWunder.bmp");
+    imgBarWcover.Picture = StoredImage("imgBarWcover.bmp");
+}
+
+void FieldForm::PutStances() {
+    static constexpr const char* Tips[] = {"prone", "crouch", "stand", "run"};
+    for (int stance = 0; stance <= imgStance.Upper; ++stance) {
+        ImageControl& image = imgStance[stance];
+        Put(image, "imgStance", picSlateD, 471 + 35 * stance, 48, 32, 25);
+        image.index = stance;
+        image.Picture = StoredImage("stance" + std::to_string(stance) + "off.gif");
+        image.ToolTipText = Tips[stance];
+    }
+    Put(imgStop, "imgStop", picSlateD, 616, 48, 32, 25);
+    imgStop.Picture = StoredImage("stance4off.gif");
+    imgStop.Tag = "off";
+    imgStop.ToolTipText = "stop for fire";
 }
 
 ProgressForm::ProgressForm() {

@@ -29,14 +29,31 @@ struct FieldForm : Form {
     ComboBox cmbLog{ControlKind::Combo};
     PictureBox picAreaMap;
     Array<PictureBox, 0, UnitPlaces - 1> picAreaMapUnit;
+    ImageControl imgBars;
+    Array<ImageControl, 0, 15> imgBar;  // 0 to 3 the bars, then three digits for each
+    ImageControl imgBarWunder;
+    ImageControl imgBarWcolor;
+    ImageControl imgBarWcover;
+    Array<ImageControl, 0, 3> imgStance;
+    ImageControl imgStop;
+    ImageControl imgEnemyCount;
+    PictureBox picBarWeapon;
+    Array<ImageControl, 0, 0> imgInv;
+    ImageControl imgFlag;
+    ComboBox comboMode{ControlKind::List};
     Button cmdNextTurn;
 
     PictureBox picForest;                         // sheet of tree tops, never shown
     Array<Picture, 0, UnitPlaces - 1> picBuffer;  // the pixels of area under each unit
 
+    i16 enemyCount;     // distinct enemies that the current unit has sighted since the last "clear"
+    i16 lastSeenEnemy;  // the place that a click on the counter showed last
+
   private:
     void PutTopLevel();
     void PutPanel();
+    void PutBars();
+    void PutStances();
 };
 
 struct ProgressForm : Form {

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "platform/host.h"
+#include "state/operation.h"
 #include "state/state.h"
 #include "view/field_form.h"
 
@@ -50,7 +51,13 @@ void Delay(int n, std::string_view mode) {
     for (const DelayMode& entry : Modes) {
         if (entry.word != mode || n <= 0) continue;
         const Picoseconds time(std::int64_t{n} * n * entry.passes * entry.passTime);
-        TheHost().Wait(std::chrono::duration_cast<std::chrono::nanoseconds>(time), entry.pumps);
+        const auto wait = [&] {
+            TheHost().Wait(std::chrono::duration_cast<std::chrono::nanoseconds>(time), entry.pumps);
+        };
+        if (entry.pumps)
+            PumpKeepingUnit(wait);
+        else
+            wait();
     }
 }
 

@@ -9,7 +9,8 @@
 namespace art {
 namespace {
 
-constexpr std::array<std::array<int, 4>, 4> Pattern{{{0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}}};
+constexpr std::array<std::array<int, 4>, 4> Pattern{
+    {{0, 8, 2, 10}, {12, 4, 14, 6}, {3, 11, 1, 9}, {15, 7, 13, 5}}};
 constexpr int AlphaHalf = 128;
 
 double Threshold(int x, int y) {

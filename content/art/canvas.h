@@ -17,7 +17,8 @@ QImage Settle(const QImage& picture, double dither = GroundDither);
 // Copies a picture onto another, see-through pixels leave what is there.
 void Place(QImage& target, int x, int y, const QImage& picture);
 
-// A picture and its mask for the pair of raster operations: black where it is see-through, the mask white there.
+// A picture and its mask for the pair of raster operations: black where it is see-through, the mask white
+// there.
 struct Masked {
     QImage picture;
     QImage mask;

@@ -11,16 +11,16 @@ namespace {
 // Casting joints every ten pixels and a rim along the edges.
 void DressConcrete(Relief& relief, QPointF outward, const WallMake& make) {
     const double half = make.width / 2;
-    relief.Stain(AlongArm(outward, half - 1.2, 18, -half + 1.3, half - 1.3), Colour(Ink::Cement), 0.55);
+    relief.Stain(AlongArm(outward, -half + 1.8, 18, -half + 1.8, half - 1.8), Colour(Ink::Concrete), 0.9);
     relief.Stain(AlongArm(outward, 9.7, 10.3, -half, half), Colour(Ink::Slate), 0.8);
     relief.Stain(AlongArm(outward, 6.2, 7.2, -1.6, -0.6), Colour(Ink::Slate), 0.6);
 }
 
 const WallMake ConcreteWall{
-    .top = {.colour = Colour(Ink::Concrete), .height = 5, .round = 0.8f, .grain = 0.06f, .bump = 0.08f},
+    .top = {.colour = Colour(Ink::Chalk), .height = 5, .round = 0.8f, .grain = 0.06f, .bump = 0.08f},
     .width = 9,
-    .footing = {Ink::Ash, Ink::Concrete, 1.67f, 0.6f, 0.3f, 501},
-    .apron = 16,
+    .footing = {Ink::Slate, Ink::Cement, 1.67f, 0.7f, 0.4f, 501},
+    .apron = 18.5,
     .dress = DressConcrete,
 };
 
@@ -40,15 +40,18 @@ void Rubble(Relief& relief, int count, float largest, std::uint32_t seed) {
         const auto radius = static_cast<double>(dice.Roll(0.7f, largest));
         relief.Lay(Star(x, y, radius, radius * 0.8, 3, static_cast<double>(dice.Roll(0, 3))),
                    {.colour = Between(Ink::Cement, Ink::Chalk, static_cast<double>(dice.Roll(0, 0.9f))),
-                    .height = static_cast<float>(radius) * 0.7f, .round = 0.5f, .grain = 0.1f});
+                    .height = static_cast<float>(radius) * 0.7f,
+                    .round = 0.5f,
+                    .grain = 0.1f});
     }
 }
 
 // A passage: worn threshold, crumbs where the wall was. It reads in both directions.
 void Opening(Relief& relief) {
     GrassGround(relief);
-    LoosePatch(relief, Rect(1, 1, 18, 18, 5), {Ink::Ash, Ink::Concrete, 1.67f, 0.6f, 0.3f, 501}, 0, 1.3f);
-    relief.Lay(Rect(4.5, 4.5, 11, 11, 0.5), {.colour = Colour(Ink::Cement), .height = 0.35f, .round = 0.4f, .grain = 0.1f});
+    LoosePatch(relief, Rect(1, 1, 18, 18, 5), {Ink::Slate, Ink::Cement, 1.67f, 0.7f, 0.4f, 501}, 0, 1.3f);
+    relief.Lay(Rect(4.5, 4.5, 11, 11, 0.5),
+               {.colour = Colour(Ink::Cement), .height = 0.35f, .round = 0.4f, .grain = 0.1f});
     for (double at = 6.5; at < 15; at += 2.4) {
         relief.StainLine(Trace({{5.2, at}, {14.8, at}}), 0.5, Colour(Ink::Slate), 0.6);
     }
@@ -60,7 +63,8 @@ void Opening(Relief& relief) {
 
 void Barrier(Relief& relief, bool westEast) {
     GrassGround(relief);
-    LoosePatch(relief, Along(westEast, -8, 28, -6, 6), {Ink::Ash, Ink::Concrete, 1.67f, 0.6f, 0.3f, 501}, 0, 1.3f);
+    LoosePatch(relief, Along(westEast, -8, 28, -6, 6), {Ink::Slate, Ink::Cement, 1.67f, 0.7f, 0.4f, 501}, 0,
+               1.3f);
     relief.Lay(Along(westEast, 0.6, 19, -3.2, 3.2),
                {.colour = Colour(Ink::Concrete), .height = 1, .round = 0.6f, .grain = 0.06f});
     relief.Lay(Along(westEast, 0.6, 19, -1.5, 1.5),
@@ -72,20 +76,25 @@ void Barrier(Relief& relief, bool westEast) {
 
 void Pillar(Relief& relief) {
     SlabFloor(relief);
-    relief.Lay(Rect(4, 4, 10.6, 10.6, 0.4), {.colour = Colour(Ink::Cement), .height = 1.2f, .round = 0.6f, .grain = 0.06f});
-    relief.Lay(Ellipse(9.3, 9.3, 4.3, 4.3), {.colour = Colour(Ink::Chalk), .height = 5, .base = 1, .round = 1.6f, .grain = 0.06f});
+    relief.Lay(Rect(4, 4, 10.6, 10.6, 0.4),
+               {.colour = Colour(Ink::Cement), .height = 1.2f, .round = 0.6f, .grain = 0.06f});
+    relief.Lay(Ellipse(9.3, 9.3, 4.3, 4.3),
+               {.colour = Colour(Ink::Chalk), .height = 5, .base = 1, .round = 1.6f, .grain = 0.06f});
     relief.Stain(Ellipse(9.3, 9.3, 2.4, 2.4), Colour(Ink::Concrete), 0.7);
 }
 
 void Generator(Relief& relief) {
     SlabFloor(relief);
-    relief.Lay(Rect(1.4, 2.6, 15.4, 12.4, 0.8), {.colour = Colour(Ink::Steel), .height = 3.6f, .round = 1, .grain = 0.06f});
+    relief.Lay(Rect(1.4, 2.6, 15.4, 12.4, 0.8),
+               {.colour = Colour(Ink::Steel), .height = 3.6f, .round = 1, .grain = 0.06f});
     for (double x = 2.8; x < 8.6; x += 1.4) {
         relief.Stain(Rect(x, 4, 0.7, 9.6), Colour(Ink::Engraving), 0.85);
     }
-    relief.Lay(Ellipse(12.6, 6.6, 2.7, 2.7), {.colour = Colour(Ink::Sheen), .height = 1.3f, .base = 3.6f, .round = 1});
+    relief.Lay(Ellipse(12.6, 6.6, 2.7, 2.7),
+               {.colour = Colour(Ink::Sheen), .height = 1.3f, .base = 3.6f, .round = 1});
     relief.Stain(Ellipse(12.6, 6.6, 1.4, 1.4), Colour(Ink::Iron));
-    relief.Lay(Rect(10, 10.6, 5.4, 3, 0.3), {.colour = Colour(Ink::Gold), .height = 0.7f, .base = 3.6f, .round = 0.3f});
+    relief.Lay(Rect(10, 10.6, 5.4, 3, 0.3),
+               {.colour = Colour(Ink::Gold), .height = 0.7f, .base = 3.6f, .round = 0.3f});
     relief.StainLine(Trace({{11.4, 13.2}, {13, 11}}), 0.8, Colour(Ink::Iron));
     relief.StainLine(Trace({{13.4, 13.2}, {15, 11}}), 0.8, Colour(Ink::Iron));
 }
@@ -93,7 +102,8 @@ void Generator(Relief& relief) {
 void Drain(Relief& relief) {
     SlabFloor(relief);
     relief.Lay(Rect(6, 6, 8, 8, 0.5), {.colour = Colour(Ink::Slate), .height = 0.4f, .round = 0.4f});
-    for (double x = 7.2; x < 13; x += 1.6) relief.Lay(Rect(x, 7, 0.8, 6), {.colour = Colour(Ink::Soot), .height = -0.8f});
+    for (double x = 7.2; x < 13; x += 1.6)
+        relief.Lay(Rect(x, 7, 0.8, 6), {.colour = Colour(Ink::Soot), .height = -0.8f});
 }
 
 void YellowLine(Relief& relief) {
@@ -105,8 +115,9 @@ void YellowLine(Relief& relief) {
 
 void Cracked(Relief& relief) {
     SlabFloor(relief);
-    for (const QPainterPath& crack : {Trace({{2, 5}, {6, 7.2}, {8, 10}, {12.6, 11}, {14, 14.6}, {18, 16.6}}),
-                                      Trace({{8, 10}, {6.6, 14}, {7.6, 18}}), Trace({{12.6, 11}, {15.4, 8}, {15, 3}})}) {
+    for (const QPainterPath& crack :
+         {Trace({{2, 5}, {6, 7.2}, {8, 10}, {12.6, 11}, {14, 14.6}, {18, 16.6}}),
+          Trace({{8, 10}, {6.6, 14}, {7.6, 18}}), Trace({{12.6, 11}, {15.4, 8}, {15, 3}})}) {
         relief.LayLine(crack, 0.8, {.colour = Colour(Ink::Slate), .height = -0.8f});
     }
     Tuft(relief, 8, 11, 1.3f, Ink::Moss, Ink::Sprout, 531);

@@ -11,7 +11,9 @@ constexpr int DigitWidth = 5;
 constexpr int DigitHeight = 6;
 constexpr int StripTick = 10;
 
-QRgb Rgb(Ink ink) { return Inks[static_cast<std::size_t>(ink)].colour; }
+QRgb Rgb(Ink ink) {
+    return Inks[static_cast<std::size_t>(ink)].colour;
+}
 
 }  // namespace
 
@@ -19,7 +21,8 @@ QImage BarDigits() {
     QImage picture = Sheet(10 * DigitWidth, BarCount * DigitHeight, Rgb(Ink::Engraving));
     for (int bar = 0; bar < BarCount; ++bar) {
         for (int digit = 0; digit < 10; ++digit) {
-            Print(picture, digit * DigitWidth, bar * DigitHeight, std::to_string(digit), Rgb(Bars[static_cast<std::size_t>(bar)].light));
+            Print(picture, digit * DigitWidth, bar * DigitHeight, std::to_string(digit),
+                  Rgb(Bars[static_cast<std::size_t>(bar)].light));
         }
     }
     return picture;
@@ -46,7 +49,8 @@ QImage DurabilityFill(std::size_t band) {
     }};
     QImage picture = Sheet(3, 40);
     for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < 3; ++x) picture.setPixel(x, y, Rgb(Looks[band][static_cast<std::size_t>(x)]));
+        for (int x = 0; x < 3; ++x)
+            picture.setPixel(x, y, Rgb(Looks[band][static_cast<std::size_t>(x)]));
     }
     return picture;
 }
@@ -54,7 +58,8 @@ QImage DurabilityFill(std::size_t band) {
 QImage DurabilityCover() {
     QImage picture = Sheet(3, 40);
     for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < 3; ++x) picture.setPixel(x, y, Rgb((x + y) % 4 < 2 ? Ink::Slate : Ink::Iron));
+        for (int x = 0; x < 3; ++x)
+            picture.setPixel(x, y, Rgb((x + y) % 4 < 2 ? Ink::Slate : Ink::Iron));
     }
     return picture;
 }

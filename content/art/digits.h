@@ -1,4 +1,5 @@
-// Read-outs of the panel: digits and strips of the four bars, the durability column, the number of sighted enemies.
+// Read-outs of the panel: digits and strips of the four bars, the durability column, the number of sighted
+// enemies.
 #pragma once
 
 #include <array>
@@ -25,14 +26,14 @@ inline constexpr std::array<BarLook, BarCount> Bars{{
     {"ACCUR.", Ink::Shallow, Ink::Cobalt, Ink::Navy},
 }};
 
-QImage BarDigits();          // 50 by 24: ten digits across, a row a bar
-QImage BarStrip(int bar);    // 135 by 3
+QImage BarDigits();        // 50 by 24: ten digits across, a row a bar
+QImage BarStrip(int bar);  // 135 by 3
 
 // The durability bands by the least percentage that they show.
 inline constexpr std::array<int, 4> DurabilityBands{0, 25, 50, 75};
 QImage DurabilityFill(std::size_t band);  // 3 by 40
 QImage DurabilityCover();                 // 3 by 40
 
-QImage EnemyCounter(int count);           // 25 by 19
+QImage EnemyCounter(int count);  // 25 by 19
 
 }  // namespace art

@@ -53,14 +53,27 @@ struct Capital {
 
 const std::vector<Capital>& Capitals() {
     static const std::vector<Capital> table = {
-        {'S', 4, {{{4, 0.9}, {3, 0}, {1, 0}, {0, 1}, {0, 2}, {1, 3}, {3, 3}, {4, 4}, {4, 5}, {3, 6}, {1, 6}, {0, 5.1}}}},
-        {'A', 4, {{{0, 6}, {0, 2}, {2, 0}, {4, 2}, {4, 6}}, {{0, 4}, {4, 4}}}},
-        {'R', 4, {{{0, 6}, {0, 0}, {3, 0}, {4, 1}, {4, 2}, {3, 3}, {0, 3}}, {{2, 3}, {4, 6}}}},
-        {'N', 4, {{{0, 6}, {0, 0}, {4, 6}, {4, 0}}}},
+        {'S',
+         4,
+         {{{4, 0.9},
+           {3, 0},
+           {1, 0},
+           {0, 1},
+           {0, 2},
+           {1, 3},
+           {3, 3},
+           {4, 4},
+           {4, 5},
+           {3, 6},
+           {1, 6},
+           {0, 5.1}}}},
+        {'A', 4, {{{0, 6.6}, {0, 2}, {2, 0}, {4, 2}, {4, 6.6}}, {{0, 4}, {4, 4}}}},
+        {'R', 4, {{{0, 6.6}, {0, 0}, {3, 0}, {4, 1}, {4, 2}, {3, 3}, {0, 3}}, {{1.8, 3}, {4.1, 6.6}}}},
+        {'N', 4, {{{0, 6.6}, {0, -0.6}}, {{4, 6.6}, {4, -0.6}}, {{0.1, 0.4}, {3.9, 5.6}}}},
         {'O', 4, {{{1, 0}, {3, 0}, {4, 1}, {4, 5}, {3, 6}, {1, 6}, {0, 5}, {0, 1}, {1, 0}}}},
-        {'T', 4, {{{0, 0}, {4, 0}}, {{2, 0}, {2, 6}}}},
-        {'H', 4, {{{0, 0}, {0, 6}}, {{4, 0}, {4, 6}}, {{0, 3}, {4, 3}}}},
-        {'I', 0, {{{0, 0}, {0, 6}}}},
+        {'T', 4, {{{-0.4, 0}, {4.4, 0}}, {{2, 0}, {2, 6.6}}}},
+        {'H', 4, {{{0, -0.6}, {0, 6.6}}, {{4, -0.6}, {4, 6.6}}, {{0, 3}, {4, 3}}}},
+        {'I', 0, {{{0, -0.6}, {0, 6.6}}}},
         {' ', 1.5, {}},
     };
     return table;
@@ -87,13 +100,16 @@ void Print(QImage& target, int x, int y, std::string_view text, QRgb colour) {
     for (const char letter : text) {
         for (int i = 0; i < GlyphWidth * GlyphHeight; ++i) {
             const QPoint point(x + i % GlyphWidth, y + i / GlyphWidth);
-            if (GlyphPixel(letter, i % GlyphWidth, i / GlyphWidth) && target.rect().contains(point)) target.setPixel(point, colour);
+            if (GlyphPixel(letter, i % GlyphWidth, i / GlyphWidth) && target.rect().contains(point))
+                target.setPixel(point, colour);
         }
         x += GlyphWidth + 1;
     }
 }
 
-int PrintedWidth(std::string_view text) { return static_cast<int>(text.size()) * (GlyphWidth + 1) - 1; }
+int PrintedWidth(std::string_view text) {
+    return static_cast<int>(text.size()) * (GlyphWidth + 1) - 1;
+}
 
 QPainterPath Title(std::string_view text, double x, double y, double height, double gap) {
     const double pen = height * StrokeShare;
@@ -120,7 +136,8 @@ QPainterPath Title(std::string_view text, double x, double y, double height, dou
 double TitleWidth(std::string_view text, double height, double gap) {
     const double pen = height * StrokeShare;
     double width = -gap;
-    for (const char letter : text) width += CapitalOf(letter).width * (height - pen) / CapitalRows + pen + gap;
+    for (const char letter : text)
+        width += CapitalOf(letter).width * (height - pen) / CapitalRows + pen + gap;
     return width;
 }
 

@@ -19,8 +19,8 @@ int PrintedWidth(std::string_view text);
 // Whether the glyph has a pixel there.
 bool GlyphPixel(char letter, int x, int y);
 
-// Broad capitals as an outline, `height` pixels high, starting at a point, `gap` between letters. The letters are
-// those of the game's name.
+// Broad capitals as an outline, `height` pixels high, starting at a point, `gap` between letters. The letters
+// are those of the game's name.
 QPainterPath Title(std::string_view text, double x, double y, double height, double gap);
 
 double TitleWidth(std::string_view text, double height, double gap);

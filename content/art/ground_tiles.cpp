@@ -74,7 +74,8 @@ void WheelTracks(Relief& relief) {
     for (const double y : {6.0, 14.0}) {
         LoosePatch(relief, Rect(-8, y - 1.7, 36, 3.4), EarthGround, -0.9f, 0.7f);
         for (int x = -8; x < 28; x += 2) {
-            relief.StainLine(Trace({{static_cast<double>(x), y - 1.2}, {x + 0.9, y + 1.2}}), 0.7, Colour(Ink::Loam), 0.5);
+            relief.StainLine(Trace({{static_cast<double>(x), y - 1.2}, {x + 0.9, y + 1.2}}), 0.7,
+                             Colour(Ink::Loam), 0.5);
         }
     }
 }
@@ -83,21 +84,51 @@ using Drawing = void (*)(Relief&);
 
 constexpr Drawing Drawings[] = {
     [](Relief& r) { GrassGround(r); },
-    [](Relief& r) { GrassGround(r); Tufts(r, 101, Ink::Moss, Ink::Sprout); },
-    [](Relief& r) { GrassGround(r); Dots(r, 20, 0.85f, Ink::Meadow, Ink::Sprout, 103); },
-    [](Relief& r) { GrassGround(r); Flowers(r); },
-    [](Relief& r) { GrassGround(r); Tufts(r, 105, Ink::Stubble, Ink::Straw); },
-    [](Relief& r) { GrassGround(r); ScatterStones(r, 7, 0.6f, 1.3f, 2, Ink::Limestone, 107); },
-    [](Relief& r) { GrassGround(r); Dots(r, 7, 0.8f, Ink::Timber, Ink::Straw, 109); },
-    [](Relief& r) { GrassGround(r); WornPatch(r, DirtRoadGround, 111); },
+    [](Relief& r) {
+        GrassGround(r);
+        Tufts(r, 101, Ink::Moss, Ink::Sprout);
+    },
+    [](Relief& r) {
+        GrassGround(r);
+        Dots(r, 20, 0.85f, Ink::Meadow, Ink::Sprout, 103);
+    },
+    [](Relief& r) {
+        GrassGround(r);
+        Flowers(r);
+    },
+    [](Relief& r) {
+        GrassGround(r);
+        Tufts(r, 105, Ink::Stubble, Ink::Straw);
+    },
+    [](Relief& r) {
+        GrassGround(r);
+        ScatterStones(r, 7, 0.6f, 1.3f, 2, Ink::Limestone, 107);
+    },
+    [](Relief& r) {
+        GrassGround(r);
+        Dots(r, 7, 0.8f, Ink::Timber, Ink::Straw, 109);
+    },
+    [](Relief& r) {
+        GrassGround(r);
+        WornPatch(r, {Ink::Timber, Ink::Clay, 2, 0.5f, 0.4f, 59}, 111);
+    },
     [](Relief& r) { LooseGround(r, EarthGround); },
     [](Relief& r) { LooseGround(r, SandGround); },
     [](Relief& r) { LooseGround(r, GravelGround); },
     [](Relief& r) { LooseGround(r, MudGround); },
-    [](Relief& r) { LooseGround(r, EarthGround); Furrows(r, true); },
-    [](Relief& r) { LooseGround(r, EarthGround); Furrows(r, false); },
+    [](Relief& r) {
+        LooseGround(r, EarthGround);
+        Furrows(r, true);
+    },
+    [](Relief& r) {
+        LooseGround(r, EarthGround);
+        Furrows(r, false);
+    },
     [](Relief& r) { Grain(r); },
-    [](Relief& r) { GrassGround(r); WheelTracks(r); },
+    [](Relief& r) {
+        GrassGround(r);
+        WheelTracks(r);
+    },
 };
 
 }  // namespace

@@ -21,7 +21,8 @@ void Paint(Texel& texel, const QColor& colour, float light) {
 void PaintLoose(Texel& texel, const Loose& ground, float x, float y) {
     const float coarse = Fractal(x, y, ground.cell, Period, ground.seed);
     const float fine = Noise(x, y, 0.8f, Period, ground.seed + 3);
-    const float share = 0.5f + 0.5f * std::clamp(ground.contrast * (1.5f * coarse + 0.4f * fine), -1.0f, 1.0f);
+    const float share =
+        0.5f + 0.5f * std::clamp(ground.contrast * (1.5f * coarse + 0.4f * fine), -1.0f, 1.0f);
     Paint(texel, Between(ground.dark, ground.light, static_cast<double>(share)), 1);
     texel.height = ground.bump * (coarse + 0.3f * fine);
 }
@@ -33,7 +34,8 @@ struct WaterStop {
 
 // Colour of water by its distance from the shore, pixels.
 constexpr WaterStop WaterStops[] = {
-    {0, Ink::Foam}, {1, Ink::Shallow}, {5, Ink::Brook}, {8.5f, Ink::River}, {11.5f, Ink::Lake}, {14, Ink::Lake},
+    {0, Ink::Foam},     {1, Ink::Shallow},  {5, Ink::Brook},
+    {8.5f, Ink::River}, {11.5f, Ink::Lake}, {14, Ink::Lake},
 };
 
 QColor WaterColour(float depth) {
@@ -41,7 +43,8 @@ QColor WaterColour(float depth) {
         const WaterStop& from = WaterStops[i - 1];
         const WaterStop& to = WaterStops[i];
         if (depth < to.depth) {
-            return Between(from.ink, to.ink, static_cast<double>((depth - from.depth) / (to.depth - from.depth)));
+            return Between(from.ink, to.ink,
+                           static_cast<double>((depth - from.depth) / (to.depth - from.depth)));
         }
     }
     return Colour(Ink::Lake);
@@ -66,9 +69,9 @@ void LoosePatch(Relief& relief, const QPainterPath& path, const Loose& ground, f
 
 void GrassGround(Relief& relief) {
     relief.Each([](float x, float y, Texel& texel) {
-        const float patch = Noise(x, y, 5, Period, 3);
-        const float blades = Noise(x, y * 0.8f, 1, Period * 0.8f, 5) + 0.6f * Noise(x, y, 0.8f, Period, 9);
-        const float share = std::clamp(0.5f + 0.12f * patch + 0.26f * blades, 0.0f, 1.0f);
+        const float patch = Noise(x, y, 4, Period, 3);
+        const float blades = Noise(x, y, 1, Period, 5) + 0.6f * Noise(x, y, 0.8f, Period, 9);
+        const float share = std::clamp(0.5f + 0.07f * patch + 0.26f * blades, 0.0f, 1.0f);
         Paint(texel, Between(Ink::Meadow, Ink::Pasture, static_cast<double>(share)), 1);
         texel.height = 0.26f * blades;
     });
@@ -76,15 +79,17 @@ void GrassGround(Relief& relief) {
 
 void Tuft(Relief& relief, float x, float y, float reach, Ink dark, Ink light, std::uint32_t seed) {
     Dice dice(seed);
-    relief.Stain(Ellipse(static_cast<double>(x) + 0.5, static_cast<double>(y) + 0.6, static_cast<double>(reach) * 0.8,
-                         static_cast<double>(reach) * 0.55),
+    relief.Stain(Ellipse(static_cast<double>(x) + 0.5, static_cast<double>(y) + 0.6,
+                         static_cast<double>(reach) * 0.8, static_cast<double>(reach) * 0.55),
                  Colour(Ink::Fir), 0.6);
     for (int i = 0; i < 9; ++i) {
         const float lean = dice.Roll(-1, 1);
-        const QPointF foot(static_cast<double>(x + lean * reach * 0.35f), static_cast<double>(y + dice.Roll(0, 0.8f)));
+        const QPointF foot(static_cast<double>(x + lean * reach * 0.35f),
+                           static_cast<double>(y + dice.Roll(0, 0.8f)));
         const QPointF tip(static_cast<double>(x + lean * reach),
                           static_cast<double>(y - reach * (1.1f - 0.5f * std::abs(lean))));
-        relief.StainLine(Trace({foot, tip}), 0.9, Between(dark, light, static_cast<double>(dice.Roll(0, 1))), 0.95);
+        relief.StainLine(Trace({foot, tip}), 0.9, Between(dark, light, static_cast<double>(dice.Roll(0, 1))),
+                         0.95);
     }
 }
 
@@ -98,8 +103,9 @@ void BoardGround(Relief& relief, bool westEast, Ink dark, Ink light, std::uint32
         const float inBoard = wrapped - board * BoardWidth;
         const auto boardSeed = seed + static_cast<std::uint32_t>(board) * 17;
         const float tone = 0.5f + 0.4f * Noise(board * 3.1f, 1, 5, Period, boardSeed);
-        const float vein = Noise(along * 0.35f, across * 2, 0.9f, Period, boardSeed);
-        Paint(texel, Between(dark, light, static_cast<double>(std::clamp(tone + 0.25f * vein, 0.0f, 1.0f))), 1);
+        const float vein = Noise(along, across * 5, 2.5f, Period, boardSeed);
+        Paint(texel, Between(dark, light, static_cast<double>(std::clamp(tone + 0.25f * vein, 0.0f, 1.0f))),
+              1);
         const float butt = std::fmod(along + Period * 2 + board * 7.0f, Period);
         const bool gap = inBoard < 0.55f || butt < 0.5f;
         texel.height = gap ? -0.8f : 0.1f * vein;
@@ -113,7 +119,7 @@ void SlabFloor(Relief& relief) {
         const float across = std::fmod(x + Period * 2, Period);
         const float down = std::fmod(y + Period * 2, Period);
         if (across >= 0.7f && down >= 0.7f) return;
-        Paint(texel, Colour(Ink::Ash), 1);
+        Paint(texel, Colour(Ink::Slate), 1);
         texel.height = -0.7f;
     });
 }
@@ -133,15 +139,20 @@ void FlagFloor(Relief& relief) {
         for (int down = -20; down <= 20; down += 20) {
             for (const Flag& flag : Flags) {
                 relief.Lay(Rect(flag.x + across, flag.y + down, flag.width, flag.height, 1.2),
-                           {.colour = Colour(flag.ink), .height = 0.6f, .round = 0.7f, .grain = 0.1f, .bump = 0.15f,
-                            .seed = 67, .covers = false});
+                           {.colour = Colour(flag.ink),
+                            .height = 0.6f,
+                            .round = 0.7f,
+                            .grain = 0.1f,
+                            .bump = 0.15f,
+                            .seed = 67,
+                            .covers = false});
             }
         }
     }
 }
 
 void WaterTexel(Texel& texel, float x, float y, float depth) {
-    const float swell = Noise(x * 0.5f, y, 2, Period, 71) + 0.45f * Noise(x, y * 2, 2, Period * 2, 73);
+    const float swell = Noise(x, y * 2, 4, Period, 71) + 0.45f * Noise(x, y * 2, 2, Period, 73);
     const QColor colour = WaterColour(std::max(0.0f, depth + 0.5f * swell));
     const float crest = std::max(0.0f, swell - 0.25f);
     Paint(texel, colour, 1 + 0.05f * swell + 0.3f * crest);
@@ -166,8 +177,10 @@ void ScatterStones(Relief& relief, int count, float smallest, float largest, flo
         const auto x = static_cast<double>(dice.Roll(low, Period - low));
         const auto y = static_cast<double>(dice.Roll(low, Period - low));
         relief.Lay(Lump(x, y, static_cast<double>(radius), 0.25, seed + static_cast<std::uint32_t>(i)),
-                   {.colour = Between(colour, Ink::Chalk, static_cast<double>(dice.Roll(0, 0.35f))), .height = radius * 0.8f,
-                    .round = radius, .grain = 0.1f});
+                   {.colour = Between(colour, Ink::Chalk, static_cast<double>(dice.Roll(0, 0.35f))),
+                    .height = radius * 0.8f,
+                    .round = radius,
+                    .grain = 0.1f});
     }
 }
 

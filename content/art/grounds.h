@@ -1,5 +1,5 @@
-// What lies under everything else on a tile. Each routine covers the whole relief, margin included, with grain that
-// repeats from tile to tile.
+// What lies under everything else on a tile. Each routine covers the whole relief, margin included, with
+// grain that repeats from tile to tile.
 #pragma once
 
 #include <cstdint>
@@ -22,14 +22,15 @@ inline constexpr Loose EarthGround{Ink::Soil, Ink::Plank, 2.5f, 0.6f, 0.7f, 31};
 inline constexpr Loose SandGround{Ink::Clay, Ink::Shell, 2.5f, 0.45f, 0.35f, 37};
 inline constexpr Loose GravelGround{Ink::Fieldstone, Ink::Chalk, 1.67f, 0.7f, 0.75f, 41};
 inline constexpr Loose MudGround{Ink::Loam, Ink::Timber, 4, 0.75f, 1.0f, 43};
-inline constexpr Loose AsphaltGround{Ink::Asphalt, Ink::Ash, 1.25f, 0.3f, 0.15f, 47};
-inline constexpr Loose SlabGround{Ink::Cement, Ink::Chalk, 1.67f, 0.35f, 0.12f, 53};
+inline constexpr Loose AsphaltGround{Ink::Asphalt, Ink::Ash, 1.25f, 0.5f, 0.2f, 47};
+inline constexpr Loose SlabGround{Ink::Ash, Ink::Concrete, 1.67f, 0.5f, 0.2f, 53};
 inline constexpr Loose DirtRoadGround{Ink::Timber, Ink::Sand, 2, 0.5f, 0.4f, 59};
 
 void LooseGround(Relief& relief, const Loose& ground);
 
 // The same only where the path is, its edge ragged by about `ragged` pixels, at a height.
-void LoosePatch(Relief& relief, const QPainterPath& path, const Loose& ground, float height = 0, float ragged = 0.6f);
+void LoosePatch(Relief& relief, const QPainterPath& path, const Loose& ground, float height = 0,
+                float ragged = 0.6f);
 
 // Plain grass, the ground of surface 0.
 void GrassGround(Relief& relief);
@@ -56,6 +57,7 @@ void WaterTexel(Texel& texel, float x, float y, float depth);
 QPainterPath WholeTile();
 
 // Stones scattered on a tile, each at least `inset` pixels from its sides.
-void ScatterStones(Relief& relief, int count, float smallest, float largest, float inset, Ink colour, std::uint32_t seed);
+void ScatterStones(Relief& relief, int count, float smallest, float largest, float inset, Ink colour,
+                   std::uint32_t seed);
 
 }  // namespace art

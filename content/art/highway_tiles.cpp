@@ -53,7 +53,9 @@ void Deck(Relief& relief, bool westEast) {
     const QPainterPath line = JointLine({westEast, westEast, !westEast, !westEast}, false);
     MiddleLine(relief, line);
     for (const double at : {-9.4, 7.0}) {
-        relief.Lay(Along(westEast, -8, 28, at, at + 1.8), {.colour = Colour(Ink::Concrete), .height = 1.5f, .base = 3, .round = 0.7f, .grain = 0.06f});
+        relief.Lay(
+            Along(westEast, -8, 28, at, at + 1.8),
+            {.colour = Colour(Ink::Concrete), .height = 1.5f, .base = 3, .round = 0.7f, .grain = 0.06f});
         for (const double post : {1.0, 11.0}) {
             relief.Stain(Along(westEast, post, post + 1, at, at + 1.8), Colour(Ink::Slate), 0.7);
         }

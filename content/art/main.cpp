@@ -1,5 +1,5 @@
-// Draws every picture of the game into a folder: stored/ is built into the program, pic/ stands beside it, sheets/ is
-// for looking.
+// Draws every picture of the game into a folder: stored/ is built into the program, pic/ stands beside it,
+// sheets/ is for looking.
 #include <cstdlib>
 #include <iostream>
 #include <string>
@@ -9,6 +9,8 @@
 #include "contact_sheets.h"
 #include "digits.h"
 #include "emblem.h"
+#include "flags.h"
+#include "inventory_pictures.h"
 #include "mock_field.h"
 #include "overlays.h"
 #include "panel.h"
@@ -31,10 +33,12 @@ void WriteField(const PictureWriter& writer, const QImage& panel) {
     const QImage& grass = classes.front().tiles.front();
     writer.Write("stored/picMap.bmp", TileSheet(classes));
     writer.Write("stored/picForest.bmp", ForestSheet(tops));
-    for (std::size_t i = 0; i < tops.size(); ++i) writer.Write("pic/forest/" + TwoDigits(static_cast<int>(i)) + ".gif", tops[i]);
+    for (std::size_t i = 0; i < tops.size(); ++i)
+        writer.Write("pic/forest/" + TwoDigits(static_cast<int>(i)) + ".gif", tops[i]);
     for (std::size_t row = 0; row < classes.size(); ++row) {
         const std::string name = TwoDigits(static_cast<int>(row)) + " " + classes[row].name;
-        writer.Write("sheets/map_" + TwoDigits(static_cast<int>(row)) + ".png", ContactSheet(name, classes[row].tiles, 13, 4));
+        writer.Write("sheets/map_" + TwoDigits(static_cast<int>(row)) + ".png",
+                     ContactSheet(name, classes[row].tiles, 13, 4));
     }
     writer.Write("sheets/forest.png", ContactSheet("FOREST TOPS", tops, 11, 4, grass));
     writer.Write("sheets/in_place.png", MockWindow(classes, tops, panel));
@@ -45,10 +49,13 @@ void WritePeople(const PictureWriter& writer, const QImage& ground) {
     writer.Write("stored/picSprites.bmp", SpriteSheet());
     for (int team = 0; team < TeamCount; ++team) {
         std::vector<QImage> men;
-        for (int i = 0; i < StanceCount * FacingCount; ++i) men.push_back(Soldier(team, i / FacingCount, i % FacingCount));
-        writer.Write("sheets/people_" + std::to_string(team) + ".png", ContactSheet("TEAM " + std::to_string(team), men, FacingCount, 6, ground));
+        for (int i = 0; i < StanceCount * FacingCount; ++i)
+            men.push_back(Soldier(team, i / FacingCount, i % FacingCount));
+        writer.Write("sheets/people_" + std::to_string(team) + ".png",
+                     ContactSheet("TEAM " + std::to_string(team), men, FacingCount, 6, ground));
     }
-    const std::vector<QImage> sprites{SpritePicture(ChargeSprite), SpritePicture(PileSprite), SpritePicture(DeadSprite)};
+    const std::vector<QImage> sprites{SpritePicture(ChargeSprite), SpritePicture(PileSprite),
+                                      SpritePicture(DeadSprite)};
     writer.Write("sheets/sprites.png", ContactSheet("SPRITES 12-14", sprites, 3, 8, ground));
 }
 
@@ -76,7 +83,8 @@ void WriteFrames(const PictureWriter& writer) {
     writer.Write("stored/imgMarkH.gif", ColumnMark());
     writer.Write("stored/imgMarkV.gif", RowMark());
     writer.Write("stored/imgProgress.gif", progress);
-    for (const int size : {16, 32, 48, 128}) writer.Write("stored/icon" + std::to_string(size) + ".png", Icon(size));
+    for (const int size : {16, 32, 48, 128})
+        writer.Write("stored/icon" + std::to_string(size) + ".png", Icon(size));
     writer.Write("sheets/frames.png", ContactSheet("FRAMES", {upper, stripes, progress}, 1, 2));
     writer.Write("sheets/icons.png", ContactSheet("ICONS", {Icon(16), Icon(32), Icon(48), Icon(128)}, 4, 3));
 }
@@ -89,7 +97,8 @@ void WritePanel(const PictureWriter& writer, const PanelPictures& panel) {
     writer.Write("stored/imgBarWcover.bmp", DurabilityCover());
     writer.Write("stored/picBarDigits.bmp", BarDigits());
     writer.Write("pic/weapon.gif", panel.weaponBox);
-    for (int bar = 0; bar < BarCount; ++bar) writer.Write("stored/imgBar" + std::to_string(bar) + ".bmp", BarStrip(bar));
+    for (int bar = 0; bar < BarCount; ++bar)
+        writer.Write("stored/imgBar" + std::to_string(bar) + ".bmp", BarStrip(bar));
     for (std::size_t band = 0; band < DurabilityBands.size(); ++band) {
         writer.Write("pic/wea_" + std::to_string(DurabilityBands[band]) + ".gif", DurabilityFill(band));
     }
@@ -113,6 +122,34 @@ void WriteButtons(const PictureWriter& writer) {
     writer.Write("sheets/counter.png", ContactSheet("COUNTER", counters, 10, 4));
 }
 
+void WriteFlags(const PictureWriter& writer) {
+    std::vector<QImage> flags;
+    for (const std::string& name : FlagNames()) {
+        flags.push_back(Flag(name));
+        writer.Write("pic/flags/" + name + ".gif", flags.back());
+    }
+    flags.push_back(OwnFlag());
+    writer.Write("stored/imgFlag.gif", flags.back());
+    writer.Write("sheets/flags.png", ContactSheet("FLAGS", flags, 14, 4));
+}
+
+void WriteInventory(const PictureWriter& writer) {
+    std::vector<QImage> wide;
+    std::vector<QImage> small;
+    for (const NamedPicture& thing : InventoryPictures()) {
+        writer.Write("pic/inv/" + thing.name + ".gif", thing.picture);
+        (thing.picture.width() > thing.picture.height() ? wide : small).push_back(thing.picture);
+    }
+    std::vector<QImage> boards;
+    for (const NamedPicture& board : PackBoards()) {
+        writer.Write("pic/inv/" + board.name + ".bmp", board.picture);
+        boards.push_back(board.picture);
+    }
+    writer.Write("sheets/packs.png", ContactSheet("PACKS", boards, 4, 2));
+    writer.Write("sheets/inventory_wide.png", ContactSheet("WIDE THINGS", wide, 10, 2));
+    writer.Write("sheets/inventory_small.png", ContactSheet("SMALL THINGS", small, 14, 2));
+}
+
 void WriteAll(const PictureWriter& writer) {
     const QImage ground = SurfaceTiles().front();
     const PanelPictures panel = DrawPanel();
@@ -122,6 +159,8 @@ void WriteAll(const PictureWriter& writer) {
     WriteFrames(writer);
     WritePanel(writer, panel);
     WriteButtons(writer);
+    WriteFlags(writer);
+    WriteInventory(writer);
 }
 
 }  // namespace

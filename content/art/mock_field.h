@@ -9,6 +9,7 @@
 
 namespace art {
 
-QImage MockWindow(const std::vector<TileClass>& classes, const TileRow& tops, const QImage& panel);  // 799 by 636
+QImage MockWindow(const std::vector<TileClass>& classes, const TileRow& tops,
+                  const QImage& panel);  // 799 by 636
 
 }  // namespace art

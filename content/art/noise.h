@@ -1,4 +1,5 @@
-// Periodic noise for grain, and the one source of chance that drawing uses. Both give the same values on each run.
+// Periodic noise for grain, and the one source of chance that drawing uses. Both give the same values on each
+// run.
 #pragma once
 
 #include <cstdint>
@@ -6,8 +7,8 @@
 
 namespace art {
 
-// Smooth noise from -1 to 1 at a place in pixels. Its bumps are about `cell` wide and it repeats every `period` pixels
-// both ways, so that a tile filled with it joins with itself.
+// Smooth noise from -1 to 1 at a place in pixels. Its bumps are about `cell` wide and it repeats every
+// `period` pixels both ways, so that a tile filled with it joins with itself.
 float Noise(float x, float y, float cell, float period, std::uint32_t seed);
 
 // Noise of three sizes laid over each other, coarse to fine.

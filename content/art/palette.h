@@ -10,29 +10,76 @@ namespace art {
 
 enum class Ink : std::uint8_t {
     // foliage and grass, dark to light
-    Pine, Fir, Moss, Meadow, Grass, Pasture, Sprout,
+    Pine,
+    Fir,
+    Moss,
+    Meadow,
+    Grass,
+    Pasture,
+    Sprout,
     // dry growth
-    Stubble, Straw,
+    Stubble,
+    Straw,
     // earth, wood and sand, dark to light
-    Peat, Loam, Soil, Bark, Timber, Plank, Clay, Sand, Shell,
+    Peat,
+    Loam,
+    Soil,
+    Bark,
+    Timber,
+    Plank,
+    Clay,
+    Sand,
+    Shell,
     // concrete, iron, asphalt and bone, dark to light
-    Soot, Iron, Asphalt, Slate, Ash, Cement, Concrete, Chalk, Snow,
+    Soot,
+    Iron,
+    Asphalt,
+    Slate,
+    Ash,
+    Cement,
+    Concrete,
+    Chalk,
+    Snow,
     // masonry, warm greys
-    Cellar, Fieldstone, Limestone,
+    Cellar,
+    Fieldstone,
+    Limestone,
     // water and sky
-    Abyss, Lake, River, Brook, Shallow, Foam,
+    Abyss,
+    Lake,
+    River,
+    Brook,
+    Shallow,
+    Foam,
     // soldiers' cloth
-    Jacket, Olive, Khaki, Canvas,
+    Jacket,
+    Olive,
+    Khaki,
+    Canvas,
     // skin
-    Tan, Skin,
+    Tan,
+    Skin,
     // brick, blood and badges
-    Maroon, Brick, Scarlet,
+    Maroon,
+    Brick,
+    Crimson,
+    Scarlet,
     // selection, fire and brass
-    Amber, Gold, Glow,
+    Amber,
+    Gold,
+    Glow,
     // the panel's green steel, dark to light
-    Engraving, Armour, Plate, Steel, Edge, Sheen,
+    Engraving,
+    Armour,
+    Plate,
+    Steel,
+    Edge,
+    Sheen,
     // read-outs and cloth of flags
-    Signal, Cobalt, Navy,
+    Signal,
+    Emerald,
+    Cobalt,
+    Navy,
     Count
 };
 

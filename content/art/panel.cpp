@@ -17,7 +17,7 @@ namespace {
 constexpr int Width = 801;
 constexpr int Height = 200;
 constexpr int Fine = 3;
-constexpr double SteelDither = 0.03;
+constexpr double SteelDither = 0.018;
 
 constexpr QRect BarsFrame(423, 75, 210, 31);
 constexpr QRect WeaponBox(656, 31, 117, 42);
@@ -26,9 +26,9 @@ constexpr QRect DigitWindow(613, 75, 18, 31);
 
 // Where controls stand: each sits in a well of its own size.
 constexpr QRect Wells[] = {
-    {568, 0, 209, 17},  {16, 8, 425, 21},  {448, 8, 25, 19},   {16, 40, 152, 92},
-    {471, 48, 32, 25},  {506, 48, 32, 25}, {541, 48, 32, 25},  {576, 48, 32, 25},
-    {616, 48, 32, 25},  {656, 80, 121, 21}, {656, 120, 123, 25}, WeaponBox, DurabilityColumn,
+    {568, 0, 209, 17},   {16, 8, 425, 21},  {448, 8, 25, 19},  {16, 40, 152, 92}, {471, 48, 32, 25},
+    {506, 48, 32, 25},   {541, 48, 32, 25}, {576, 48, 32, 25}, {616, 48, 32, 25}, {656, 80, 121, 21},
+    {656, 120, 123, 25}, WeaponBox,         DurabilityColumn,
 };
 
 constexpr QRect Plates[] = {
@@ -40,9 +40,11 @@ constexpr int BarTops[] = {77, 85, 93, 101};
 
 void Bars4(Relief& relief) {
     for (const int top : BarTops) {
-        relief.Lay(Rect(BarLeft - 1, top - 1, BarLength + 2, 5), {.colour = Colour(Ink::Engraving), .height = -1, .base = 1.2f, .round = 0.5f, .grain = 0});
+        relief.Lay(Rect(BarLeft - 1, top - 1, BarLength + 2, 5),
+                   {.colour = Colour(Ink::Engraving), .height = -1, .base = 1.2f, .round = 0.5f, .grain = 0});
     }
-    relief.Lay(Rect(DigitWindow.x(), DigitWindow.y(), DigitWindow.width(), DigitWindow.height()), {.colour = Colour(Ink::Engraving), .height = -0.6f, .base = 1.2f, .round = 0.5f, .grain = 0});
+    relief.Lay(Rect(DigitWindow.x(), DigitWindow.y(), DigitWindow.width(), DigitWindow.height()),
+               {.colour = Colour(Ink::Engraving), .height = -0.6f, .base = 1.2f, .round = 0.5f, .grain = 0});
 }
 
 // The middle plate carries the name and the badge, with ribs on both sides.
@@ -53,7 +55,9 @@ void NamePlate(Relief& relief) {
             const double inner = MiddleX + side * 34;
             const double outer = MiddleX + side * (104 - i * 9);
             const double y = 50 + i * 8;
-            relief.LayLine(Trace({{inner, y}, {outer, y}}), 3, {.colour = Colour(Ink::Armour), .height = -1, .base = 1.6f, .round = 1, .grain = 0.05f});
+            relief.LayLine(
+                Trace({{inner, y}, {outer, y}}), 3,
+                {.colour = Colour(Ink::Armour), .height = -1, .base = 1.6f, .round = 1, .grain = 0.05f});
         }
     }
     LayBadge(relief, MiddleX, 68, 46, 1.6f);
@@ -69,18 +73,23 @@ void NamePlate(Relief& relief) {
 }
 
 void Rivets(Relief& relief) {
-    constexpr QPointF Places[] = {{9.5, 38.5}, {172.5, 38.5}, {9.5, 135.5}, {172.5, 135.5}, {426, 40}, {645, 40}, {426, 134},
-                                  {645, 134},  {785, 28},     {785, 144},   {657, 144.5 + 4}, {490, 17}, {556, 10}};
-    for (const QPointF& place : Places) LayRivet(relief, place.x(), place.y(), 1.7, 1.6f);
+    constexpr QPointF Places[] = {{9.5, 38.5}, {172.5, 38.5}, {9.5, 135.5}, {172.5, 135.5}, {426, 40},
+                                  {645, 40},   {426, 134},    {645, 134},   {785, 27},      {785, 144.5},
+                                  {657, 27},   {490, 17},     {556, 17}};
+    for (const QPointF& place : Places)
+        LayRivet(relief, place.x(), place.y(), 1.7, 1.6f);
 }
 
 // A row of slots below the bars and one between the log and the scroll bar: the machine breathes there.
 void Vents(Relief& relief) {
     for (int i = 0; i < 20; ++i) {
-        relief.LayLine(Trace({{440.0 + i * 10, 118}, {436.0 + i * 10, 128}}), 3.4, {.colour = Colour(Ink::Engraving), .height = -1.6f, .base = 1.6f, .round = 0.8f, .grain = 0.04f});
+        relief.LayLine(
+            Trace({{440.0 + i * 10, 118}, {436.0 + i * 10, 128}}), 3.4,
+            {.colour = Colour(Ink::Engraving), .height = -1.6f, .base = 1.6f, .round = 0.8f, .grain = 0.04f});
     }
     for (int i = 0; i < 8; ++i) {
-        relief.LayLine(Trace({{502.0 + i * 6, 8}, {502.0 + i * 6, 24}}), 2.2, {.colour = Colour(Ink::Engraving), .height = -1.2f, .round = 0.6f, .grain = 0.04f});
+        relief.LayLine(Trace({{502.0 + i * 6, 8}, {502.0 + i * 6, 24}}), 2.2,
+                       {.colour = Colour(Ink::Engraving), .height = -1.2f, .round = 0.6f, .grain = 0.04f});
     }
 }
 
@@ -89,7 +98,8 @@ void Letter(QImage& picture) {
     QPainter painter(&picture);
     const QColor floor = Colour(Ink::Engraving);
     painter.fillRect(DigitWindow.adjusted(1, 1, 0, -1), floor);
-    for (const int top : BarTops) painter.fillRect(BarLeft, top, BarLength, 3, floor);
+    for (const int top : BarTops)
+        painter.fillRect(BarLeft, top, BarLength, 3, floor);
     painter.end();
     for (std::size_t bar = 0; bar < BarCount; ++bar) {
         const int x = BarLeft - 5 - PrintedWidth(Bars[bar].label);
@@ -103,9 +113,12 @@ void Letter(QImage& picture) {
 PanelPictures DrawPanel() {
     Relief relief(Width, Height, 2, Fine, 1000);
     SteelGround(relief, Ink::Armour, Ink::Plate);
-    relief.Lay(Rect(-4, 158, Width + 8, 3), {.colour = Colour(Ink::Engraving), .height = -1.2f, .round = 0.8f});
-    for (const QRect& plate : Plates) LayPlate(relief, plate.x(), plate.y(), plate.width(), plate.height());
-    for (const QRect& well : Wells) LayWell(relief, well.x(), well.y(), well.width(), well.height());
+    relief.Lay(Rect(-4, 158, Width + 8, 3),
+               {.colour = Colour(Ink::Engraving), .height = -1.2f, .round = 0.8f});
+    for (const QRect& plate : Plates)
+        LayPlate(relief, plate.x(), plate.y(), plate.width(), plate.height());
+    for (const QRect& well : Wells)
+        LayWell(relief, well.x(), well.y(), well.width(), well.height());
     Bars4(relief);
     NamePlate(relief);
     Rivets(relief);

@@ -16,61 +16,92 @@ namespace {
 enum class Role { Tunic, Trousers, Boots, Pack, Skin, Iron, Wood, Head, Badge };
 constexpr std::size_t RoleCount = 9;
 
-// A part of a figure that looks east: a limb from one end to the other, an ellipse where both ends are the same.
+// A part of a figure that looks east: a limb from one end to the other, an ellipse where both ends are the
+// same.
 struct Part {
     Role role;
     double x, y, toX, toY;
-    double width;   // of a limb; of an ellipse its length along the facing
-    double depth;   // of an ellipse across the facing; 0 for a limb
+    double width;  // of a limb; of an ellipse its length along the facing
+    double depth;  // of an ellipse across the facing; 0 for a limb
     float base, height;
 };
 
 constexpr Part Prone[] = {
-    {Role::Trousers, -1.6, -1.1, -7.2, -2.7, 2.3, 0, 0, 1.2f}, {Role::Trousers, -1.6, 1.1, -7.0, 2.9, 2.3, 0, 0, 1.2f},
-    {Role::Boots, -7.0, -2.7, -8.7, -3.3, 2.0, 0, 0, 1.1f},    {Role::Boots, -6.8, 2.9, -8.5, 3.5, 2.0, 0, 0, 1.1f},
-    {Role::Tunic, -1.8, 0, 1.6, 0, 5.0, 0, 0.3f, 1.5f},        {Role::Pack, -0.9, 0, -0.9, 0, 3.2, 3.6, 1.6f, 0.8f},
-    {Role::Tunic, 1.4, -2.6, 4.6, -1.6, 1.9, 0, 0.3f, 1.2f},   {Role::Tunic, 1.4, 2.6, 3.8, 2.5, 1.9, 0, 0.3f, 1.2f},
-    {Role::Wood, 2.6, 1.2, 5.0, 0.7, 1.3, 0, 1.2f, 0.7f},      {Role::Iron, 4.6, 0.8, 9.6, 0.3, 1.15, 0, 1.2f, 0.7f},
-    {Role::Skin, 5.2, -0.7, 5.2, -0.7, 1.6, 1.5, 1.4f, 0.8f},  {Role::Head, 3.2, 0, 3.2, 0, 4.2, 4.0, 1.3f, 1.8f},
+    {Role::Trousers, -1.6, -1.1, -7.2, -2.7, 2.3, 0, 0, 1.2f},
+    {Role::Trousers, -1.6, 1.1, -7.0, 2.9, 2.3, 0, 0, 1.2f},
+    {Role::Boots, -7.0, -2.7, -8.7, -3.3, 2.0, 0, 0, 1.1f},
+    {Role::Boots, -6.8, 2.9, -8.5, 3.5, 2.0, 0, 0, 1.1f},
+    {Role::Tunic, -1.8, 0, 1.6, 0, 5.0, 0, 0.3f, 1.5f},
+    {Role::Pack, -0.9, 0, -0.9, 0, 3.2, 3.6, 1.6f, 0.8f},
+    {Role::Tunic, 1.4, -2.6, 4.6, -1.6, 1.9, 0, 0.3f, 1.2f},
+    {Role::Tunic, 1.4, 2.6, 3.8, 2.5, 1.9, 0, 0.3f, 1.2f},
+    {Role::Wood, 2.6, 1.2, 5.0, 0.7, 1.3, 0, 1.2f, 0.7f},
+    {Role::Iron, 4.6, 0.8, 9.6, 0.3, 1.15, 0, 1.2f, 0.7f},
+    {Role::Skin, 5.2, -0.7, 5.2, -0.7, 1.6, 1.5, 1.4f, 0.8f},
+    {Role::Head, 3.2, 0, 3.2, 0, 4.2, 4.0, 1.3f, 1.8f},
     {Role::Badge, 2.6, 0, 2.6, 0, 2.0, 1.8, 3, 0.5f},
 };
 
 constexpr Part Crouch[] = {
-    {Role::Boots, -4.4, 2.0, -3.0, 2.0, 1.9, 0, 0, 1},         {Role::Trousers, -3.4, 1.9, -0.4, 2.1, 2.6, 0, 0.3f, 1.2f},
-    {Role::Trousers, -0.6, -1.9, 2.9, -2.2, 2.9, 0, 0.6f, 1.6f}, {Role::Boots, 3.0, -2.4, 4.2, -2.4, 1.8, 0, 0, 1},
-    {Role::Tunic, -0.9, -2.0, -0.9, 2.0, 4.6, 0, 1.4f, 2},     {Role::Pack, -2.4, 0, -2.4, 0, 2.8, 3.8, 2, 1.2f},
-    {Role::Tunic, -0.4, 2.8, 2.0, 2.2, 1.9, 0, 1.6f, 1.4f},    {Role::Wood, 0.6, 1.6, 3.0, 1.2, 1.4, 0, 2.6f, 0.7f},
-    {Role::Iron, 2.6, 1.3, 7.6, 0.8, 1.2, 0, 2.6f, 0.7f},      {Role::Tunic, -0.2, -2.7, 3.2, -0.6, 1.9, 0, 2.2f, 1.4f},
-    {Role::Skin, 3.8, 0.1, 3.8, 0.1, 1.6, 1.6, 3, 0.8f},       {Role::Head, 0.2, 0.1, 0.2, 0.1, 4.6, 4.4, 3.2f, 2},
+    {Role::Boots, -4.4, 2.0, -3.0, 2.0, 1.9, 0, 0, 1},
+    {Role::Trousers, -3.4, 1.9, -0.4, 2.1, 2.6, 0, 0.3f, 1.2f},
+    {Role::Trousers, -0.6, -1.9, 2.9, -2.2, 2.9, 0, 0.6f, 1.6f},
+    {Role::Boots, 3.0, -2.4, 4.2, -2.4, 1.8, 0, 0, 1},
+    {Role::Tunic, -1.2, -1.5, -1.2, 1.5, 4.0, 0, 1.4f, 2},
+    {Role::Pack, -2.6, 0, -2.6, 0, 2.2, 3.2, 2, 1},
+    {Role::Tunic, -0.6, 2.2, 1.6, 1.9, 1.8, 0, 1.6f, 1.4f},
+    {Role::Wood, 0.6, 1.6, 3.0, 1.2, 1.4, 0, 2.6f, 0.7f},
+    {Role::Iron, 2.6, 1.3, 7.2, 0.8, 1.2, 0, 2.6f, 0.7f},
+    {Role::Tunic, -0.6, -2.2, 2.8, -0.5, 1.8, 0, 2.2f, 1.4f},
+    {Role::Skin, 3.8, 0.1, 3.8, 0.1, 1.6, 1.6, 3, 0.8f},
+    {Role::Head, 0, 0.1, 0, 0.1, 4.3, 4.2, 3.2f, 2},
     {Role::Badge, -0.4, 0.1, -0.4, 0.1, 2.2, 2.0, 5, 0.5f},
 };
 
 constexpr Part Stand[] = {
-    {Role::Boots, 0.4, -2.0, 2.8, -2.3, 2.0, 0, 0, 1.2f},      {Role::Boots, -1.8, 2.2, 0.4, 2.4, 2.0, 0, 0, 1.2f},
-    {Role::Pack, -2.8, 0, -2.8, 0, 3.4, 5.2, 2, 2.2f},         {Role::Tunic, -0.4, -3.9, -0.4, 3.9, 3.9, 0, 2.4f, 2},
-    {Role::Tunic, 0, 4.2, 2.6, 3.2, 2.0, 0, 2.4f, 1.6f},       {Role::Skin, 3.2, 2.4, 3.2, 2.4, 1.7, 1.7, 2.8f, 1},
-    {Role::Wood, 0.6, 2.9, 3.4, 2.1, 1.6, 0, 3.2f, 0.8f},      {Role::Iron, 3.0, 2.2, 9.2, 0.6, 1.3, 0, 3.2f, 0.8f},
-    {Role::Tunic, 0, -4.2, 4.0, -1.2, 2.0, 0, 2.6f, 1.6f},     {Role::Skin, 5.0, 0.6, 5.0, 0.6, 1.8, 1.7, 3.4f, 1},
-    {Role::Head, 0.2, 0, 0.2, 0, 5.2, 4.8, 4.4f, 2.2f},        {Role::Badge, -0.5, 0, -0.5, 0, 2.5, 2.2, 6.4f, 0.5f},
+    {Role::Boots, 0.4, -2.0, 2.8, -2.3, 2.0, 0, 0, 1.2f},
+    {Role::Boots, -1.8, 2.2, 0.4, 2.4, 2.0, 0, 0, 1.2f},
+    {Role::Pack, -2.3, 0, -2.3, 0, 2.4, 4.4, 2, 1.6f},
+    {Role::Tunic, -0.5, -4.6, -0.5, 4.6, 3.2, 0, 2.4f, 2},
+    {Role::Tunic, 0, 4.9, 2.4, 3.4, 1.9, 0, 2.4f, 1.6f},
+    {Role::Skin, 3.2, 2.6, 3.2, 2.6, 1.7, 1.7, 2.8f, 1},
+    {Role::Wood, 0.6, 2.9, 3.4, 2.1, 1.6, 0, 3.2f, 0.8f},
+    {Role::Iron, 3.0, 2.2, 9.4, 0.6, 1.3, 0, 3.2f, 0.8f},
+    {Role::Tunic, 0, -4.9, 4.0, -1.4, 1.9, 0, 2.6f, 1.6f},
+    {Role::Skin, 5.0, 0.6, 5.0, 0.6, 1.8, 1.7, 3.4f, 1},
+    {Role::Head, 0.2, 0, 0.2, 0, 5.2, 4.8, 4.4f, 2.2f},
+    {Role::Badge, -0.5, 0, -0.5, 0, 2.5, 2.2, 6.4f, 0.5f},
 };
 
 constexpr Part Run[] = {
-    {Role::Trousers, -1.4, 1.5, -5.6, 2.3, 2.4, 0, 0.6f, 1.4f}, {Role::Boots, -5.8, 2.3, -8.2, 2.7, 2.1, 0, 0, 1.6f},
-    {Role::Trousers, 0.6, -1.6, 5.0, -3.0, 2.5, 0, 0.6f, 1.6f}, {Role::Boots, 5.2, -3.0, 7.4, -3.2, 2.1, 0, 0, 1.2f},
-    {Role::Tunic, -2.4, 0.2, 1.6, 0, 4.2, 0, 1.6f, 2},          {Role::Pack, -2.0, 0.1, -2.0, 0.1, 4.0, 3.8, 3, 1.4f},
-    {Role::Tunic, 0.8, -3.4, 2.2, 3.4, 3.2, 0, 2.2f, 1.8f},     {Role::Tunic, 0.6, -3.8, -2.0, -4.8, 1.9, 0, 2, 1.6f},
-    {Role::Skin, -2.6, -5.0, -2.6, -5.0, 1.6, 1.6, 2, 1},       {Role::Tunic, 2.2, 3.8, 4.6, 3.0, 1.9, 0, 2.2f, 1.6f},
-    {Role::Wood, 1.2, 5.4, 3.2, 4.2, 1.5, 0, 3, 0.8f},          {Role::Iron, 3.0, 4.3, 8.2, 1.0, 1.25, 0, 3, 0.8f},
-    {Role::Skin, 5.2, 2.7, 5.2, 2.7, 1.7, 1.7, 3.4f, 0.9f},     {Role::Head, 3.4, 0, 3.4, 0, 4.9, 4.5, 4, 2.2f},
+    {Role::Trousers, -1.4, 1.5, -5.6, 2.3, 2.4, 0, 0.6f, 1.4f},
+    {Role::Boots, -5.8, 2.3, -8.2, 2.7, 2.1, 0, 0, 1.6f},
+    {Role::Trousers, 0.6, -1.6, 5.0, -3.0, 2.5, 0, 0.6f, 1.6f},
+    {Role::Boots, 5.2, -3.0, 7.4, -3.2, 2.1, 0, 0, 1.2f},
+    {Role::Tunic, -2.4, 0.2, 1.6, 0, 4.2, 0, 1.6f, 2},
+    {Role::Pack, -2.0, 0.1, -2.0, 0.1, 4.0, 3.8, 3, 1.4f},
+    {Role::Tunic, 0.8, -3.4, 2.2, 3.4, 3.2, 0, 2.2f, 1.8f},
+    {Role::Tunic, 0.6, -3.8, -2.0, -4.8, 1.9, 0, 2, 1.6f},
+    {Role::Skin, -2.6, -5.0, -2.6, -5.0, 1.6, 1.6, 2, 1},
+    {Role::Tunic, 2.2, 3.8, 4.6, 3.0, 1.9, 0, 2.2f, 1.6f},
+    {Role::Wood, 1.2, 5.4, 3.2, 4.2, 1.5, 0, 3, 0.8f},
+    {Role::Iron, 3.0, 4.3, 8.2, 1.0, 1.25, 0, 3, 0.8f},
+    {Role::Skin, 5.2, 2.7, 5.2, 2.7, 1.7, 1.7, 3.4f, 0.9f},
+    {Role::Head, 3.4, 0, 3.4, 0, 4.9, 4.5, 4, 2.2f},
     {Role::Badge, 2.8, 0, 2.8, 0, 2.3, 2.1, 6, 0.5f},
 };
 
 constexpr Part Dead[] = {
-    {Role::Trousers, -1.4, -1.3, -6.0, -4.2, 2.3, 0, 0, 1},   {Role::Trousers, -1.4, 1.3, -6.8, 2.0, 2.3, 0, 0, 1},
-    {Role::Boots, -6.0, -4.2, -7.4, -5.6, 2.0, 0, 0, 0.9f},   {Role::Boots, -6.8, 2.0, -8.6, 1.6, 2.0, 0, 0, 0.9f},
-    {Role::Tunic, -1.8, 0, 1.8, 0, 4.8, 0, 0.2f, 1.3f},       {Role::Tunic, 1.4, -2.6, 4.4, -5.6, 1.9, 0, 0.2f, 1},
-    {Role::Skin, 5.0, -6.2, 5.0, -6.2, 1.7, 1.7, 0.2f, 0.9f}, {Role::Tunic, 1.4, 2.6, 0.6, 6.2, 1.9, 0, 0.2f, 1},
-    {Role::Skin, 0.4, 7.0, 0.4, 7.0, 1.7, 1.7, 0.2f, 0.9f},   {Role::Skin, 4.6, 0.4, 4.6, 0.4, 3.4, 3.2, 0.5f, 1.4f},
+    {Role::Trousers, -1.4, -1.3, -6.0, -4.2, 2.3, 0, 0, 1},
+    {Role::Trousers, -1.4, 1.3, -6.8, 2.0, 2.3, 0, 0, 1},
+    {Role::Boots, -6.0, -4.2, -7.4, -5.6, 2.0, 0, 0, 0.9f},
+    {Role::Boots, -6.8, 2.0, -8.6, 1.6, 2.0, 0, 0, 0.9f},
+    {Role::Tunic, -1.8, 0, 1.8, 0, 4.8, 0, 0.2f, 1.3f},
+    {Role::Tunic, 1.4, -2.6, 4.4, -5.6, 1.9, 0, 0.2f, 1},
+    {Role::Skin, 5.0, -6.2, 5.0, -6.2, 1.7, 1.7, 0.2f, 0.9f},
+    {Role::Tunic, 1.4, 2.6, 0.6, 6.2, 1.9, 0, 0.2f, 1},
+    {Role::Skin, 0.4, 7.0, 0.4, 7.0, 1.7, 1.7, 0.2f, 0.9f},
+    {Role::Skin, 4.6, 0.4, 4.6, 0.4, 3.4, 3.2, 0.5f, 1.4f},
     {Role::Boots, 3.9, 0.4, 3.9, 0.4, 2.6, 2.9, 1.4f, 0.6f},
 };
 
@@ -79,23 +110,27 @@ constexpr std::array<std::span<const Part>, StanceCount> Figures{Prone, Crouch, 
 using Uniform = std::array<Ink, RoleCount>;
 
 constexpr std::array<Uniform, TeamCount> Uniforms{{
-    // tunic         trousers      boots        pack         skin       iron       wood         head         badge
-    {Ink::Canvas,  Ink::Khaki,   Ink::Loam,   Ink::Bark,    Ink::Skin, Ink::Soot, Ink::Timber, Ink::Olive,  Ink::Khaki},
-    {Ink::Cellar,  Ink::Slate,   Ink::Soot,   Ink::Asphalt, Ink::Skin, Ink::Soot, Ink::Tan,    Ink::Asphalt, Ink::Scarlet},
-    {Ink::Chalk,   Ink::Brook,   Ink::Bark,   Ink::Foam,    Ink::Skin, Ink::Skin, Ink::Skin,   Ink::Bark,   Ink::Bark},
+    // tunic         trousers      boots        pack         skin       iron       wood         head badge
+    {Ink::Khaki, Ink::Khaki, Ink::Loam, Ink::Olive, Ink::Skin, Ink::Soot, Ink::Timber, Ink::Canvas,
+     Ink::Khaki},
+    {Ink::Cellar, Ink::Slate, Ink::Soot, Ink::Asphalt, Ink::Skin, Ink::Soot, Ink::Tan, Ink::Asphalt,
+     Ink::Scarlet},
+    {Ink::Chalk, Ink::Brook, Ink::Bark, Ink::Foam, Ink::Skin, Ink::Skin, Ink::Skin, Ink::Bark, Ink::Bark},
 }};
+constexpr int Computer = 1;
 constexpr int Civilians = 2;
 
 // So small a figure would drown in its own shadows: it takes half the light's contrast.
-constexpr float FigureGlow = 0.5f;
+constexpr float FigureGlow = 0.42f;
 constexpr double FigureDither = 0.008;
 
 // Degrees from east, by facing.
 constexpr std::array<double, FacingCount> Turns{0, 180, -90, 90, -45, 45, 135, -135};
 
-// Civilians carry nothing and wear no badge.
+// Civilians carry nothing; the badge is the computer's.
 bool Worn(Role role, int team) {
-    return team != Civilians || (role != Role::Iron && role != Role::Wood && role != Role::Pack && role != Role::Badge);
+    if (role == Role::Badge) return team == Computer;
+    return team != Civilians || (role != Role::Iron && role != Role::Wood && role != Role::Pack);
 }
 
 QPainterPath Outline(const Part& part) {
@@ -103,14 +138,19 @@ QPainterPath Outline(const Part& part) {
     return Widened(Trace({{part.x, part.y}, {part.toX, part.toY}}), part.width, Qt::RoundCap, Qt::RoundJoin);
 }
 
+Part Wider(Part part, double by) {
+    part.width += by;
+    if (part.depth > 0) part.depth += by;
+    return part;
+}
+
 // A dark rim, heavier to the south-east, sets the figure off from any ground.
-void LayRim(Relief& relief, const QTransform& place, std::span<const Part> parts, int team, const QColor& rim) {
+void LayRim(Relief& relief, const QTransform& place, std::span<const Part> parts, int team,
+            const QColor& rim) {
     for (const Part& part : parts) {
         if (!Worn(part.role, team)) continue;
-        Part wide = part;
-        wide.width += 1.1;
-        if (wide.depth > 0) wide.depth += 1.1;
-        relief.Lay(place.map(Outline(wide)).translated(0.25, 0.3), {.colour = rim, .grain = 0});
+        const double by = part.role == Role::Iron ? 0.5 : 1.2;
+        relief.Lay(place.map(Outline(Wider(part, by))).translated(0.25, 0.3), {.colour = rim, .grain = 0});
     }
 }
 
@@ -118,9 +158,16 @@ void LayFigure(Relief& relief, const QTransform& place, std::span<const Part> pa
     const Uniform& uniform = Uniforms[static_cast<std::size_t>(team)];
     for (const Part& part : parts) {
         if (!Worn(part.role, team)) continue;
+        if (part.role == Role::Head)
+            relief.Stain(place.map(Outline(Wider(part, 1))).translated(0.3, 0.3), Colour(Ink::Peat), 0.8);
         const double thickness = part.depth > 0 ? std::min(part.width, part.depth) : part.width;
-        relief.Lay(place.map(Outline(part)), {.colour = Colour(uniform[static_cast<std::size_t>(part.role)]), .height = part.height, .base = part.base,
-                                              .round = static_cast<float>(thickness) * 0.5f, .grain = 0.04f, .grainSize = 0.9f, .glow = FigureGlow});
+        relief.Lay(place.map(Outline(part)), {.colour = Colour(uniform[static_cast<std::size_t>(part.role)]),
+                                              .height = part.height,
+                                              .base = part.base,
+                                              .round = static_cast<float>(thickness) * 0.5f,
+                                              .grain = 0.04f,
+                                              .grainSize = 0.9f,
+                                              .glow = FigureGlow});
     }
 }
 
@@ -130,7 +177,9 @@ QTransform Facing(double degrees) {
     return place;
 }
 
-Relief Blank() { return Relief(CellSize, CellSize, 1, 8); }
+Relief Blank() {
+    return Relief(CellSize, CellSize, 1, 8);
+}
 
 }  // namespace
 

@@ -85,6 +85,8 @@ void PictureWriter::Write(const std::string& name, const QImage& picture) const 
     if (!stored.save(QString::fromStdString(path.string()), flat ? "BMP" : "PNG")) Fail(path.string());
 }
 
-std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+std::string TwoDigits(int number) {
+    return (number < 10 ? "0" : "") + std::to_string(number);
+}
 
 }  // namespace art

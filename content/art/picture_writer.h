@@ -1,5 +1,5 @@
-// Puts finished pictures on disk. Each routine prints what failed and ends the program: a build without its pictures
-// is no build.
+// Puts finished pictures on disk. Each routine prints what failed and ends the program: a build without its
+// pictures is no build.
 #pragma once
 
 #include <string>
@@ -12,7 +12,8 @@ class PictureWriter {
   public:
     explicit PictureWriter(std::string targetFolder) : folder(std::move(targetFolder)) {}
 
-    // The kind is told by the ending: .bmp (24 bits), .gif (the palette, see-through where alpha is 0) or .png.
+    // The kind is told by the ending: .bmp (24 bits), .gif (the palette, see-through where alpha is 0) or
+    // .png.
     void Write(const std::string& name, const QImage& picture) const;
 
   private:

@@ -20,7 +20,8 @@ void Scale(Relief& relief) {
     for (int i = 0; i <= Steps; ++i) {
         const double x = 19.5 + i * 459.0 / Steps;
         const double foot = i % 5 == 0 ? 51 : 48.5;
-        relief.LayLine(Trace({{x, 45.5}, {x, foot}}), 1, {.colour = Colour(Ink::Engraving), .height = -0.8f, .base = 1.6f}, Qt::FlatCap);
+        relief.LayLine(Trace({{x, 45.5}, {x, foot}}), 1,
+                       {.colour = Colour(Ink::Engraving), .height = -0.8f, .base = 1.6f}, Qt::FlatCap);
     }
 }
 
@@ -48,11 +49,13 @@ QImage ProgressPicture() {
     Scale(relief);
     const QPainterPath name = Title("SARNOTH III", 20, 10, 21, 6.4);
     relief.Lay(name.translated(1, 1), {.colour = Colour(Ink::Engraving), .base = 1.6f, .grain = 0});
-    relief.Lay(name, {.colour = Colour(Ink::Gold), .height = 1.4f, .base = 1.6f, .round = 1.4f, .grain = 0.04f});
+    relief.Lay(name,
+               {.colour = Colour(Ink::Gold), .height = 1.4f, .base = 1.6f, .round = 1.4f, .grain = 0.04f});
     Squad(relief);
     LayBadge(relief, 503, 32, 40, 1.6f);
-    for (const QPointF& corner : {QPointF(9, 9), QPointF(9, 58), QPointF(520, 58), QPointF(520, 9)}) LayRivet(relief, corner.x(), corner.y(), 2, 1.6f);
-    QImage picture = Settle(relief.Render(), 0.03);
+    for (const QPointF& corner : {QPointF(9, 9), QPointF(9, 58), QPointF(520, 58), QPointF(520, 9)})
+        LayRivet(relief, corner.x(), corner.y(), 2, 1.6f);
+    QImage picture = Settle(relief.Render(), 0.018);
     Print(picture, 20, 54, "READING THE MAP - POSTING THE SQUAD", Colour(Ink::Sheen).rgb());
     return picture;
 }

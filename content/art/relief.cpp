@@ -12,7 +12,8 @@
 namespace art {
 namespace {
 
-// Direction to the light: equally from north and west, and steeply enough that a thing's shadow is as long as it is high.
+// Direction to the light: equally from north and west, and steeply enough that a thing's shadow is as long as
+// it is high.
 constexpr float LightAcross = -0.52f;
 constexpr float LightUp = 0.68f;
 constexpr float Contrast = 0.85f;
@@ -28,11 +29,13 @@ std::vector<float> InnerDistance(const QImage& mask) {
     const int h = mask.height();
     std::vector<float> distance(static_cast<std::size_t>(w) * static_cast<std::size_t>(h));
     const auto at = [&](int x, int y) -> float& {
-        return distance[static_cast<std::size_t>(y) * static_cast<std::size_t>(w) + static_cast<std::size_t>(x)];
+        return distance[static_cast<std::size_t>(y) * static_cast<std::size_t>(w) +
+                        static_cast<std::size_t>(x)];
     };
     for (int y = 0; y < h; ++y) {
         const uchar* row = mask.constScanLine(y);
-        for (int x = 0; x < w; ++x) at(x, y) = row[x] > 127 ? 1e6f : 0.0f;
+        for (int x = 0; x < w; ++x)
+            at(x, y) = row[x] > 127 ? 1e6f : 0.0f;
     }
     const auto relax = [&](int x, int y, int dx, int dy, float cost) {
         const int nx = x + dx;
@@ -79,7 +82,9 @@ float Lit(float channel, float light, float shadow, float tint) {
     return std::clamp(shaded * (1 + 0.75f * gleam) + 34 * gleam, 0.0f, 255.0f);
 }
 
-int Channel(float sum, float count) { return std::clamp(static_cast<int>(std::lround(sum / count)), 0, 255); }
+int Channel(float sum, float count) {
+    return std::clamp(static_cast<int>(std::lround(sum / count)), 0, 255);
+}
 
 }  // namespace
 
@@ -132,11 +137,12 @@ void Relief::Lay(const QPainterPath& path, const Solid& solid) {
                                       static_cast<std::size_t>(x);
             const float risen =
                 distance.empty() ? 1 : Rise(distance[place] / static_cast<float>(fine), solid.round);
-            const float rough = Noise(px, py, solid.grainSize, period, solid.seed);
+            const float rough = solid.grain > 0 ? Noise(px, py, solid.grainSize, period, solid.seed) : 0;
             const float dent = solid.bump > 0 ? Noise(px, py, solid.grainSize, period, solid.seed + 7) : 0;
             Texel& texel = texels[Index(column, line)];
             Blend(texel, solid.colour, 1 + solid.grain * rough, share);
-            texel.height = std::lerp(texel.height, solid.base + solid.height * risen + solid.bump * dent, share);
+            texel.height =
+                std::lerp(texel.height, solid.base + solid.height * risen + solid.bump * dent, share);
             texel.glow = std::lerp(texel.glow, solid.glow, share);
             if (solid.covers) texel.cover = std::max(texel.cover, share);
         }
@@ -207,11 +213,13 @@ void Relief::LitPoint(int column, int row, float highest, float* sums) const {
 QImage Relief::Render(bool seeThrough) const {
     if (!seeThrough) {
         Relief opaque = *this;
-        for (Texel& texel : opaque.texels) texel.cover = 1;
+        for (Texel& texel : opaque.texels)
+            texel.cover = 1;
         return opaque.Render(true);
     }
     float highest = 0;
-    for (const Texel& texel : texels) highest = std::max(highest, texel.height);
+    for (const Texel& texel : texels)
+        highest = std::max(highest, texel.height);
     QImage picture(width, height, QImage::Format_ARGB32);
     const float count = static_cast<float>(fine * fine);
     for (int y = 0; y < height; ++y) {
@@ -219,7 +227,8 @@ QImage Relief::Render(bool seeThrough) const {
         for (int x = 0; x < width; ++x) {
             std::array<float, 4> sums{};
             for (int i = 0; i < fine * fine; ++i) {
-                LitPoint((x + margin) * fine + i % fine, (y + margin) * fine + i / fine, highest, sums.data());
+                LitPoint((x + margin) * fine + i % fine, (y + margin) * fine + i / fine, highest,
+                         sums.data());
             }
             const float weight = std::max(sums[3], 1e-4f);
             line[x] = qRgba(Channel(sums[0], weight), Channel(sums[1], weight), Channel(sums[2], weight),

@@ -1,5 +1,5 @@
-// A picture under way: colour and height of every point at several times the final resolution. It is lit from the
-// north-west when it is rendered, so that whatever is drawn casts its shadow to the south-east by itself.
+// A picture under way: colour and height of every point at several times the final resolution. It is lit from
+// the north-west when it is rendered, so that whatever is drawn casts its shadow to the south-east by itself.
 #pragma once
 
 #include <algorithm>
@@ -22,8 +22,8 @@ struct Solid {
     float grainSize = 1.25f;  // width of the grain's bumps
     float bump = 0;           // roughness of its surface
     std::uint32_t seed = 1;
-    float glow = 0;           // how much it shines by itself: 1 knows no light side and no shadow
-    bool covers = true;       // belongs to the shape that a sprite or overlay shows
+    float glow = 0;      // how much it shines by itself: 1 knows no light side and no shadow
+    bool covers = true;  // belongs to the shape that a sprite or overlay shows
 };
 
 struct Texel {
@@ -35,14 +35,14 @@ struct Texel {
 
 class Relief {
   public:
-    // `margin` pixels around the picture are drawn and lit too but never shown: what stands or runs there casts its
-    // shadow in. `period` is the repeat of all grain.
+    // `margin` pixels around the picture are drawn and lit too but never shown: what stands or runs there
+    // casts its shadow in. `period` is the repeat of all grain.
     explicit Relief(int shownWidth = 20, int shownHeight = 20, int hiddenMargin = 8, int finePoints = 6,
                     float grainPeriod = 20);
 
     void Lay(const QPainterPath& path, const Solid& solid);
-    void LayLine(const QPainterPath& line, double width, const Solid& solid, Qt::PenCapStyle cap = Qt::RoundCap,
-                 Qt::PenJoinStyle join = Qt::RoundJoin);
+    void LayLine(const QPainterPath& line, double width, const Solid& solid,
+                 Qt::PenCapStyle cap = Qt::RoundCap, Qt::PenJoinStyle join = Qt::RoundJoin);
 
     // Colour alone, height stays.
     void Stain(const QPainterPath& path, const QColor& colour, double strength = 1);
@@ -77,13 +77,15 @@ class Relief {
     };
 
     std::size_t Index(int column, int row) const {
-        return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) + static_cast<std::size_t>(column);
+        return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) +
+               static_cast<std::size_t>(column);
     }
     float ToPixel(int point) const {
         return (static_cast<float>(point) + 0.5f) / static_cast<float>(fine) - static_cast<float>(margin);
     }
     int ToPoint(float pixel, int count) const {
-        return std::clamp(static_cast<int>((pixel + static_cast<float>(margin)) * static_cast<float>(fine)), 0, count - 1);
+        return std::clamp(static_cast<int>((pixel + static_cast<float>(margin)) * static_cast<float>(fine)),
+                          0, count - 1);
     }
     QRect PointsOf(const QPainterPath& path) const;
     QImage MaskOf(const QPainterPath& path, const QRect& points) const;

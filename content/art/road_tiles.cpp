@@ -55,8 +55,9 @@ void PlankBridge(Relief& relief, bool westEast) {
         texel.height += 2.4f;
     });
     for (const double at : {-8.0, 6.6}) {
-        relief.Lay(Along(westEast, -8, 28, at, at + 1.4),
-                   {.colour = Colour(Ink::Timber), .height = 1.2f, .base = 2.6f, .round = 0.6f, .grain = 0.15f});
+        relief.Lay(
+            Along(westEast, -8, 28, at, at + 1.4),
+            {.colour = Colour(Ink::Timber), .height = 1.2f, .base = 2.6f, .round = 0.6f, .grain = 0.15f});
         for (const double post : {4.0, 14.0}) {
             relief.Lay(Along(westEast, post, post + 2, at - 0.2, at + 1.6),
                        {.colour = Colour(Ink::Clay), .height = 2, .base = 2.6f, .round = 0.6f});

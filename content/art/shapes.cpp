@@ -29,7 +29,8 @@ QPainterPath Polygon(std::initializer_list<QPointF> points) {
 
 QPainterPath Trace(std::initializer_list<QPointF> points) {
     QPainterPath path(*points.begin());
-    for (const QPointF& point : points) path.lineTo(point);
+    for (const QPointF& point : points)
+        path.lineTo(point);
     return path;
 }
 

@@ -1,4 +1,5 @@
-// Row 9: boats. The deck runs under gunwales and cabins to the hull's edge, so that a wall reads from either side.
+// Row 9: boats. The deck runs under gunwales and cabins to the hull's edge, so that a wall reads from either
+// side.
 #include <array>
 
 #include "grounds.h"
@@ -12,14 +13,16 @@ namespace {
 
 constexpr std::uint32_t DeckSeed = 801;
 
-void Planked(Relief& relief, bool westEast) { BoardGround(relief, westEast, Ink::Timber, Ink::Sand, DeckSeed); }
+void Planked(Relief& relief, bool westEast) {
+    BoardGround(relief, westEast, Ink::Timber, Ink::Sand, DeckSeed);
+}
 
 // A painted rail over a dark strake.
 void DressGunwale(Relief& relief, QPointF outward, const WallMake& make) {
     const double half = make.width / 2;
     relief.Lay(AlongArm(outward, -half + 1.7, 18, -half + 1.7, half - 1.7),
-               {.colour = Colour(Ink::Snow), .height = 0.8f, .base = 4, .round = 0.8f, .grain = 0.05f});
-    relief.Stain(AlongArm(outward, 6.4, 7.4, -0.6, 0.6), Colour(Ink::Ash), 0.9);
+               {.colour = Colour(Ink::Chalk), .height = 1, .base = 4, .round = 1.2f, .grain = 0.05f});
+    relief.Stain(AlongArm(outward, 9.6, 10.4, -half + 1.7, half - 1.7), Colour(Ink::Cement), 0.8);
 }
 
 const WallMake Gunwale{
@@ -34,8 +37,10 @@ const WallMake Gunwale{
 QPainterPath OutsideCorner(const Joint& joint) {
     const double x = joint.east ? 20 : 0;
     const double y = joint.south ? 20 : 0;
-    return WholeTile().subtracted(Ellipse(x, y, 18, 18)).subtracted(Along(true, x == 20 ? 20 : -8, x == 20 ? 28 : 0, -18, 18)).subtracted(
-        Along(false, y == 20 ? 20 : -8, y == 20 ? 28 : 0, -18, 18));
+    return WholeTile()
+        .subtracted(Ellipse(x, y, 18, 18))
+        .subtracted(Along(true, x == 20 ? 20 : -8, x == 20 ? 28 : 0, -18, 18))
+        .subtracted(Along(false, y == 20 ? 20 : -8, y == 20 ? 28 : 0, -18, 18));
 }
 
 void Flood(Relief& relief, const QPainterPath& area) {
@@ -56,41 +61,51 @@ void Hull(Relief& relief, std::size_t column) {
 void Porthole(Relief& relief, bool westEast) {
     Planked(relief, westEast);
     BuildWall(relief, {westEast, westEast, !westEast, !westEast}, Gunwale);
-    relief.Lay(Ellipse(10, 10, 4.2, 4.2), {.colour = Colour(Ink::Gold), .height = 5, .round = 1, .grain = 0.05f});
-    relief.Lay(Ellipse(10, 10, 2.8, 2.8), {.colour = Colour(Ink::Shallow), .height = -1, .base = 5, .round = 0.5f, .grain = 0});
+    relief.Lay(Ellipse(10, 10, 4.2, 4.2),
+               {.colour = Colour(Ink::Gold), .height = 5, .round = 1, .grain = 0.05f});
+    relief.Lay(Ellipse(10, 10, 2.8, 2.8),
+               {.colour = Colour(Ink::Shallow), .height = -1, .base = 5, .round = 0.5f, .grain = 0});
     relief.StainLine(Trace({{8.6, 10.6}, {10.6, 8.6}}), 0.9, Colour(Ink::Snow), 0.9);
 }
 
 void Gangway(Relief& relief) {
     Planked(relief, true);
-    relief.Lay(Rect(3, 0, 14, 20), {.colour = Colour(Ink::Clay), .height = 0.9f, .round = 0.4f, .grain = 0.12f});
+    relief.Lay(Rect(3, 0, 14, 20),
+               {.colour = Colour(Ink::Clay), .height = 0.9f, .round = 0.4f, .grain = 0.12f});
     for (double y = 1.4; y < 19; y += 3.2) {
-        relief.Lay(Rect(3.6, y, 12.8, 1.1), {.colour = Colour(Ink::Bark), .height = 0.6f, .base = 0.9f, .round = 0.4f});
+        relief.Lay(Rect(3.6, y, 12.8, 1.1),
+                   {.colour = Colour(Ink::Bark), .height = 0.6f, .base = 0.9f, .round = 0.4f});
     }
 }
 
 void Hatch(Relief& relief) {
     Planked(relief, true);
-    relief.Lay(Rect(3, 3, 14, 14, 1), {.colour = Colour(Ink::Bark), .height = 1.1f, .round = 0.6f, .grain = 0.12f});
-    relief.Lay(Rect(4.6, 4.6, 10.8, 10.8, 0.5), {.colour = Colour(Ink::Iron), .height = -2.4f, .base = 0.5f, .grain = 0.1f});
+    relief.Lay(Rect(3, 3, 14, 14, 1),
+               {.colour = Colour(Ink::Bark), .height = 1.1f, .round = 0.6f, .grain = 0.12f});
+    relief.Lay(Rect(4.6, 4.6, 10.8, 10.8, 0.5),
+               {.colour = Colour(Ink::Iron), .height = -2.4f, .base = 0.5f, .grain = 0.1f});
     for (double y = 6.2; y < 15; y += 2.4) {
-        relief.Lay(Rect(7, y, 6, 0.9), {.colour = Colour(Ink::Timber), .height = 0.5f, .base = -1.6f, .round = 0.3f});
+        relief.Lay(Rect(7, y, 6, 0.9),
+                   {.colour = Colour(Ink::Timber), .height = 0.5f, .base = -1.6f, .round = 0.3f});
     }
 }
 
 void BrokenPlanks(Relief& relief) {
     Planked(relief, true);
     relief.Lay(Star(10, 10, 7, 3.4, 7, 0.4), {.colour = Colour(Ink::Peat), .height = -2.2f, .grain = 0.2f});
-    for (const auto& [x, y, turn] : {std::array{6.0, 6.6, 24.0}, {13.4, 8.4, -40}, {8.4, 14, 8}, {14.4, 14.6, 62}}) {
+    for (const auto& [x, y, turn] :
+         {std::array{6.0, 6.6, 24.0}, {13.4, 8.4, -40}, {8.4, 14, 8}, {14.4, 14.6, 62}}) {
         QTransform place;
         place.translate(x, y).rotate(turn);
-        relief.Lay(place.map(Rect(-3.6, -0.9, 7.2, 1.8, 0.2)), {.colour = Colour(Ink::Plank), .height = 1, .round = 0.4f, .grain = 0.16f});
+        relief.Lay(place.map(Rect(-3.6, -0.9, 7.2, 1.8, 0.2)),
+                   {.colour = Colour(Ink::Plank), .height = 1, .round = 0.4f, .grain = 0.16f});
     }
 }
 
 void Thwart(Relief& relief) {
     Planked(relief, true);
-    relief.Lay(Rect(6.2, 0, 6.4, 20), {.colour = Colour(Ink::Clay), .height = 2, .round = 0.6f, .grain = 0.12f, .grainSize = 0.9f});
+    relief.Lay(Rect(6.2, 0, 6.4, 20),
+               {.colour = Colour(Ink::Clay), .height = 2, .round = 0.6f, .grain = 0.12f, .grainSize = 0.9f});
     relief.StainLine(Trace({{9.4, 0}, {9.4, 20}}), 0.5, Colour(Ink::Bark), 0.7);
 }
 
@@ -98,29 +113,42 @@ void Rope(Relief& relief) {
     Planked(relief, true);
     for (double radius = 6.6; radius > 1.4; radius -= 1.9) {
         relief.LayLine(Ellipse(9.6, 9.6, radius, radius), 1.7,
-                       {.colour = Between(Ink::Straw, Ink::Sand, radius / 7), .height = 1.2f + (6.6f - static_cast<float>(radius)) * 0.2f, .round = 0.9f, .grain = 0.25f, .grainSize = 0.8f});
+                       {.colour = Between(Ink::Straw, Ink::Sand, radius / 7),
+                        .height = 1.2f + (6.6f - static_cast<float>(radius)) * 0.2f,
+                        .round = 0.9f,
+                        .grain = 0.25f,
+                        .grainSize = 0.8f});
     }
     QPainterPath tail(QPointF(15.6, 11));
     tail.quadTo(18.4, 13.6, 16.8, 17);
-    relief.LayLine(tail, 1.5, {.colour = Colour(Ink::Straw), .height = 1, .round = 0.8f, .grain = 0.25f, .grainSize = 0.8f});
+    relief.LayLine(
+        tail, 1.5,
+        {.colour = Colour(Ink::Straw), .height = 1, .round = 0.8f, .grain = 0.25f, .grainSize = 0.8f});
 }
 
 void Barrels(Relief& relief) {
     Planked(relief, true);
     for (const auto& [x, y] : {std::pair{5.8, 6.0}, {13, 6.6}, {8.8, 13}}) {
         relief.Lay(Ellipse(x, y, 3.8, 3.8), {.colour = Colour(Ink::Iron), .height = 3, .round = 0.5f});
-        relief.Lay(Ellipse(x, y, 3.1, 3.1), {.colour = Colour(Ink::Timber), .height = -0.4f, .base = 3, .round = 0.4f, .grain = 0.12f});
-        for (const double at : {-1.2, 0.2, 1.6}) relief.StainLine(Trace({{x + at, y - 2.6}, {x + at, y + 2.6}}), 0.4, Colour(Ink::Loam), 0.7);
+        relief.Lay(
+            Ellipse(x, y, 3.1, 3.1),
+            {.colour = Colour(Ink::Timber), .height = -0.4f, .base = 3, .round = 0.4f, .grain = 0.12f});
+        for (const double at : {-1.2, 0.2, 1.6})
+            relief.StainLine(Trace({{x + at, y - 2.6}, {x + at, y + 2.6}}), 0.4, Colour(Ink::Loam), 0.7);
         relief.Stain(Ellipse(x + 1.4, y - 1.2, 0.6, 0.6), Colour(Ink::Peat));
     }
 }
 
 void Engine(Relief& relief) {
     Planked(relief, true);
-    relief.Lay(Rect(2.4, 3.4, 14, 11.6, 1), {.colour = Colour(Ink::Slate), .height = 2.2f, .round = 0.8f, .grain = 0.06f});
-    relief.Lay(Rect(4, 5.2, 8.6, 8, 0.6), {.colour = Colour(Ink::Brick), .height = 1.4f, .base = 2.2f, .round = 0.7f, .grain = 0.06f});
-    for (double x = 5.2; x < 12; x += 2) relief.Stain(Rect(x, 6, 0.8, 6.4), Colour(Ink::Maroon), 0.9);
-    relief.Lay(Ellipse(14.2, 9.2, 2, 3.2), {.colour = Colour(Ink::Concrete), .height = 1.2f, .base = 2.2f, .round = 0.8f});
+    relief.Lay(Rect(2.4, 3.4, 14, 11.6, 1),
+               {.colour = Colour(Ink::Slate), .height = 2.2f, .round = 0.8f, .grain = 0.06f});
+    relief.Lay(Rect(4, 5.2, 8.6, 8, 0.6),
+               {.colour = Colour(Ink::Brick), .height = 1.4f, .base = 2.2f, .round = 0.7f, .grain = 0.06f});
+    for (double x = 5.2; x < 12; x += 2)
+        relief.Stain(Rect(x, 6, 0.8, 6.4), Colour(Ink::Maroon), 0.9);
+    relief.Lay(Ellipse(14.2, 9.2, 2, 3.2),
+               {.colour = Colour(Ink::Concrete), .height = 1.2f, .base = 2.2f, .round = 0.8f});
     relief.Stain(Ellipse(14.2, 9.2, 0.9, 1.6), Colour(Ink::Soot));
 }
 
@@ -148,7 +176,8 @@ void Bow(Relief& relief, bool west) {
     rim.quadTo(8.6, 2.4, 2.4, 10);
     rim.quadTo(8.6, 17.6, 19, 18.8);
     rim.lineTo(28, 18.8);
-    relief.LayLine(mirror.map(rim), 2.4, {.colour = Colour(Ink::Navy), .height = 1, .base = 2, .round = 0.7f});
+    relief.LayLine(mirror.map(rim), 2.4,
+                   {.colour = Colour(Ink::Navy), .height = 1, .base = 2, .round = 0.7f});
     relief.StainLine(mirror.map(rim), 0.9, Colour(Ink::Snow), 0.9);
 }
 
@@ -156,7 +185,8 @@ void Grating(Relief& relief) {
     Planked(relief, true);
     relief.Lay(Rect(1, 1, 18, 18, 0.5), {.colour = Colour(Ink::Bark), .height = 0.5f, .round = 0.4f});
     for (double y = 2.4; y < 17; y += 2.6) {
-        for (double x = 2.4; x < 17; x += 2.6) relief.Lay(Rect(x, y, 1.7, 1.7), {.colour = Colour(Ink::Peat), .height = -1.2f});
+        for (double x = 2.4; x < 17; x += 2.6)
+            relief.Lay(Rect(x, y, 1.7, 1.7), {.colour = Colour(Ink::Peat), .height = -1.2f});
     }
 }
 

@@ -11,14 +11,16 @@ constexpr int SheetRows = 32;
 
 }  // namespace
 
-QImage Finished(const Relief& relief) { return Settle(relief.Render()); }
+QImage Finished(const Relief& relief) {
+    return Settle(relief.Render());
+}
 
 std::vector<TileClass> AllTileClasses(const TileRow& trees) {
     return {
-        {"SURFACE", SurfaceTiles()},   {"WATER", WaterTiles()},       {"TREES", trees},
-        {"WOODEN", WoodenTiles()},     {"CONCRETE", ConcreteTiles()}, {"STONE", StoneTiles()},
-        {"ROADS", RoadTiles()},        {"TRENCHES", TrenchTiles()},   {"PRICKLES", WireTiles()},
-        {"SHIPS", ShipTiles()},        {"VARIOUS", VariousTiles()},   {"HIGHWAYS", HighwayTiles()},
+        {"SURFACE", SurfaceTiles()}, {"WATER", WaterTiles()},       {"TREES", trees},
+        {"WOODEN", WoodenTiles()},   {"CONCRETE", ConcreteTiles()}, {"STONE", StoneTiles()},
+        {"ROADS", RoadTiles()},      {"TRENCHES", TrenchTiles()},   {"PRICKLES", WireTiles()},
+        {"SHIPS", ShipTiles()},      {"VARIOUS", VariousTiles()},   {"HIGHWAYS", HighwayTiles()},
         {"FENCE", FenceTiles()},
     };
 }

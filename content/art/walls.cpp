@@ -37,7 +37,8 @@ void Pane(Relief& relief, bool westEast) {
 }  // namespace
 
 QPainterPath Along(bool westEast, double from, double to, double left, double right) {
-    return westEast ? Rect(from, 10 + left, to - from, right - left) : Rect(10 + left, from, right - left, to - from);
+    return westEast ? Rect(from, 10 + left, to - from, right - left)
+                    : Rect(10 + left, from, right - left, to - from);
 }
 
 QPainterPath AlongArm(QPointF outward, double from, double to, double left, double right) {

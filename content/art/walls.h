@@ -1,4 +1,5 @@
-// Walls seen from above: a band along the joint line with light on its north-west rims and a shadow to the south-east.
+// Walls seen from above: a band along the joint line with light on its north-west rims and a shadow to the
+// south-east.
 #pragma once
 
 #include "grounds.h"
@@ -9,9 +10,9 @@ namespace art {
 
 struct WallMake {
     Solid top;
-    double width;      // of the band, pixels
-    Loose footing;     // worn ground along its foot
-    double apron;      // width of that ground, pixels; 0 for none
+    double width;                                              // of the band, pixels
+    Loose footing;                                             // worn ground along its foot
+    double apron;                                              // width of that ground, pixels; 0 for none
     void (*dress)(Relief&, QPointF outward, const WallMake&);  // boards, joints or blocks along one arm
 };
 
@@ -24,8 +25,8 @@ void BuildApron(Relief& relief, const Joint& joint, const WallMake& make);
 // A wall whose middle is open: stubs at both sides of the cell, `stub` pixels long each.
 void BuildStubs(Relief& relief, bool westEast, double stub, const WallMake& make);
 
-// A rectangle given along and across a line through the middle of the cell, as a path on the tile. `from` and `to`
-// run along the line from the cell's west or north side, `left` and `right` across it from the line.
+// A rectangle given along and across a line through the middle of the cell, as a path on the tile. `from` and
+// `to` run along the line from the cell's west or north side, `left` and `right` across it from the line.
 QPainterPath Along(bool westEast, double from, double to, double left, double right);
 
 // The same for an arm that leaves the middle in a direction; along counts from the middle outward.

@@ -15,10 +15,18 @@ constexpr float ShoreLine = 5;  // from the land's side of the cell to the water
 // Distance from the water's edge, positive in the water, by the tile's column.
 using ShoreDistance = float (*)(float x, float y);
 
-float North(float, float y) { return y - ShoreLine; }
-float South(float, float y) { return 20 - ShoreLine - y; }
-float West(float x, float) { return x - ShoreLine; }
-float East(float x, float) { return 20 - ShoreLine - x; }
+float North(float, float y) {
+    return y - ShoreLine;
+}
+float South(float, float y) {
+    return 20 - ShoreLine - y;
+}
+float West(float x, float) {
+    return x - ShoreLine;
+}
+float East(float x, float) {
+    return 20 - ShoreLine - x;
+}
 
 // Land on both sides: the inner corner of the water is rounded.
 float Inside(float a, float b) {
@@ -30,7 +38,9 @@ float Inside(float a, float b) {
 }
 
 // Land at the corner alone.
-float Around(float a, float b) { return -Inside(-a, -b); }
+float Around(float a, float b) {
+    return -Inside(-a, -b);
+}
 
 constexpr ShoreDistance Shores[] = {
     North,
@@ -75,21 +85,26 @@ void Shore(Relief& relief, ShoreDistance distance) {
 }
 
 void Shallows(Relief& relief) {
-    relief.Each([](float x, float y, Texel& texel) { WaterTexel(texel, x, y, 4 + 2 * Noise(x, y, 4, 20, 91)); });
+    relief.Each(
+        [](float x, float y, Texel& texel) { WaterTexel(texel, x, y, 4 + 2 * Noise(x, y, 4, 20, 91)); });
 }
 
 void SteppingStones(Relief& relief) {
     struct Stone {
         double x, y, radius;
     };
-    constexpr Stone Stones[] = {{3.2, 4.4, 2.3}, {10.2, 3.2, 2.0}, {16.4, 5.6, 2.4}, {5.6, 10.6, 2.5},
+    constexpr Stone Stones[] = {{3.2, 4.4, 2.3},   {10.2, 3.2, 2.0}, {16.4, 5.6, 2.4}, {5.6, 10.6, 2.5},
                                 {13.2, 11.2, 2.6}, {3.6, 16.6, 2.1}, {9.8, 17.0, 2.2}, {16.8, 16.6, 2.0}};
     std::uint32_t seed = 93;
     for (const Stone& stone : Stones) {
-        relief.Stain(Ellipse(stone.x, stone.y, stone.radius + 0.8, stone.radius + 0.8), Colour(Ink::Foam), 0.55);
+        relief.Stain(Ellipse(stone.x, stone.y, stone.radius + 0.8, stone.radius + 0.8), Colour(Ink::Foam),
+                     0.55);
         relief.Lay(Lump(stone.x, stone.y, stone.radius, 0.18, ++seed),
-                   {.colour = Between(Ink::Fieldstone, Ink::Concrete, seed % 3 * 0.4), .height = 1.3f, .round = 1.4f,
-                    .grain = 0.12f, .bump = 0.2f});
+                   {.colour = Between(Ink::Fieldstone, Ink::Concrete, seed % 3 * 0.4),
+                    .height = 1.3f,
+                    .round = 1.4f,
+                    .grain = 0.12f,
+                    .bump = 0.2f});
     }
 }
 
@@ -103,7 +118,8 @@ void RipplesAndWeed(Relief& relief) {
     for (int i = 0; i < 9; ++i) {
         const auto x = static_cast<double>(dice.Roll(11, 17));
         const auto y = static_cast<double>(dice.Roll(12, 17));
-        relief.Stain(Ellipse(x, y, 1.3, 0.9), Between(Ink::Fir, Ink::Grass, static_cast<double>(dice.Roll(0, 1))), 0.9);
+        relief.Stain(Ellipse(x, y, 1.3, 0.9),
+                     Between(Ink::Fir, Ink::Grass, static_cast<double>(dice.Roll(0, 1))), 0.9);
     }
 }
 
@@ -116,7 +132,8 @@ void Reeds(Relief& relief) {
         relief.StainLine(Trace({{x + 0.6, y + 0.4}, {x + lean + 1.6, y - 2}}), 0.8, Colour(Ink::Lake), 0.6);
         relief.StainLine(Trace({{x, y}, {x + lean, y - 3.4}}), 0.75,
                          Between(Ink::Moss, Ink::Sprout, static_cast<double>(dice.Roll(0, 1))));
-        if (i % 4 == 0) relief.StainLine(Trace({{x + lean, y - 3.4}, {x + lean, y - 2.2}}), 1.1, Colour(Ink::Bark));
+        if (i % 4 == 0)
+            relief.StainLine(Trace({{x + lean, y - 3.4}, {x + lean, y - 2.2}}), 1.1, Colour(Ink::Bark));
     }
 }
 

@@ -5,6 +5,20 @@
 #include <fstream>
 #include <iostream>
 
+namespace {
+
+void RefuseControlCharacters(std::string_view text, int line) {
+    constexpr unsigned char FirstPrintable = ' ', Delete = 127;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto code = static_cast<unsigned char>(text[i]);
+        if (text[i] != '\t' && (code < FirstPrintable || code == Delete)) {
+            throw SourceError({line, static_cast<int>(i) + 1}, "a control character", "printable text");
+        }
+    }
+}
+
+}  // namespace
+
 SourceError::SourceError(SourcePlace at, const std::string& wrong, const std::string& expected)
     : std::runtime_error(wrong + ", expected " + expected), place(at) {}
 
@@ -22,6 +36,7 @@ std::vector<std::string> ReadSourceLines(const std::string& path) {
 std::vector<SourceWord> SplitWords(std::string_view text, int line) {
     constexpr std::string_view Blanks = " \t";
     std::vector<SourceWord> words;
+    RefuseControlCharacters(text, line);
     std::size_t begin = text.find_first_not_of(Blanks);
     while (begin != std::string_view::npos) {
         const std::size_t end = std::min(text.find_first_of(Blanks, begin), text.size());

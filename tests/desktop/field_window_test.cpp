@@ -50,7 +50,8 @@ TEST_F(FieldWindowTest, AClickOnTheScrolledFieldComesInFieldPixels) {
     frmField.area.Top = 10 - 60;
     window->Sync();
     QWidget* const inside = window->WidgetOf(frmField);
-    QTest::mousePress(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, inside->mapTo(window.get(), QPoint(50, 40)));
+    QTest::mousePress(window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      inside->mapTo(window.get(), QPoint(50, 40)));
     ASSERT_FALSE(events.empty());
     EXPECT_EQ(EventText(events.back()), "MouseDown frmField.area -1 1 0 130 90");
 }

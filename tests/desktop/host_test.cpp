@@ -26,11 +26,13 @@ struct BoxReader {
             if (box == nullptr) return;
             title = box->windowTitle();
             text = box->text();
+            format = box->textFormat();
             box->accept();
         });
     }
     QString title;
     QString text;
+    Qt::TextFormat format = Qt::AutoText;
 };
 
 TEST_F(DesktopTest, RefreshPaintsAtOnceAndLetsNoEventIn) {
@@ -85,7 +87,7 @@ TEST_F(DesktopTest, AModalFormHoldsTheGameUntilItIsHidden) {
     answer = [this](const InputEvent& event) {
         if (event.control == "frmDialog") dialog.Visible = false;
     };
-    QTimer::singleShot(20, [this] {
+    Soon([this] {
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, {100, 100});
         EXPECT_TRUE(events.empty()) << "the window beneath is blocked";
         QTest::keyPress(&host.WindowOf(dialog), Qt::Key_Return);
@@ -96,39 +98,44 @@ TEST_F(DesktopTest, AModalFormHoldsTheGameUntilItIsHidden) {
     EXPECT_EQ(EventsOf("frmDialog"), "KeyDown frmDialog -1 13 0 0 0\n");
 }
 
-TEST_F(DesktopTest, TheCloseButtonOfAnotherWindowOnlyAsks) {
-    dialog.Visible = true;
-    host.PumpEvents();
-    host.WindowOf(dialog).close();
-    EXPECT_EQ(EventsOf("frmDialog"), "CloseRequest frmDialog -1 0 0 0 0\n");
-    EXPECT_TRUE(host.WindowOf(dialog).isVisible());
-}
-
 TEST_F(DesktopTest, AMessageIsPlainTextUnderTheGamesName) {
     const BoxReader reader;
-    host.ShowMessage("You <lost>");
+    host.ShowMessage("You <b>lost</b>");
     EXPECT_EQ(reader.title, "Sarnoth III");
-    EXPECT_EQ(reader.text, "You <lost>");
+    EXPECT_EQ(reader.text, "You <b>lost</b>");
+    EXPECT_EQ(reader.format, Qt::PlainText);
 }
 
 TEST_F(DesktopDeathTest, AnErrorIsShownAndPrintedAndEndsTheProcess) {
     const auto fail = [this] {
         answer = [](const InputEvent&) { throw RunTimeError(Fault::BadData, "dat/weapons.dat: line 3"); };
         // Without the box nobody answers and the process goes on.
-        QTimer::singleShot(20, [] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->accept(); });
+        Soon([] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->accept(); });
         QTest::mouseClick(window.WidgetOf(form.cmdGo), Qt::LeftButton);
     };
-    EXPECT_EXIT(fail(), ExitedWithCode(1), "^Sarnoth III: Run-time error 4: Bad data: dat/weapons.dat: line 3\n$");
+    EXPECT_EXIT(fail(), ExitedWithCode(1),
+                "^Sarnoth III: Run-time error 4: Bad data: dat/weapons.dat: line 3\n$");
 }
 
 TEST_F(DesktopDeathTest, TheCloseButtonTellsTheGameAndEndsTheProcessAlsoInAWait) {
     answer = [](const InputEvent& event) { std::fprintf(stderr, "%s", EventText(event).c_str()); };
     const auto closeInWait = [this] {
-        QTimer::singleShot(10, [this] { window.close(); });
+        Soon([this] { window.close(); });
         host.Wait(std::chrono::seconds(20), true);
     };
     EXPECT_EXIT(window.close(), ExitedWithCode(0), "^CloseRequest frmTest -1 0 0 0 0$");
     EXPECT_EXIT(closeInWait(), ExitedWithCode(0), "^CloseRequest frmTest -1 0 0 0 0$");
+}
+
+TEST_F(DesktopDeathTest, TheCloseButtonOfAnotherWindowOnlyAsks) {
+    const auto close = [this] {
+        dialog.Visible = true;
+        host.PumpEvents();
+        host.WindowOf(dialog).close();
+        std::fprintf(stderr, "%s", EventsOf("frmDialog").c_str());
+        std::_Exit(host.WindowOf(dialog).isVisible() ? 7 : 8);  // the host would end it with 0
+    };
+    EXPECT_EXIT(close(), ExitedWithCode(7), "^CloseRequest frmDialog -1 0 0 0 0\n$");
 }
 
 TEST_F(DesktopDeathTest, TheProcessEndsWithTheCodeThatTheGameNames) {

@@ -1,5 +1,5 @@
-// A small window with a control of every kind, and the desktop host around it: events are kept, and answered by
-// whatever the test wants.
+// A small window with a control of every kind, and the desktop host around it: events are kept, and answered
+// by whatever the test wants.
 #pragma once
 
 #include <string>
@@ -60,7 +60,11 @@ struct TestForm : Form {
 
 class DesktopTest : public testing::Test {
   protected:
-    DesktopTest() { dialog.name = "frmDialog"; dialog.Width = dialog.Height = 100; dialog.Visible = false; }
+    DesktopTest() {
+        dialog.name = "frmDialog";
+        dialog.Width = dialog.Height = 100;
+        dialog.Visible = false;
+    }
 
     void SetUp() override {
         host.PumpEvents();
@@ -71,6 +75,13 @@ class DesktopTest : public testing::Test {
     template <typename Kind>
     Kind& WidgetOf(const Control& control) {
         return dynamic_cast<Kind&>(*window.WidgetOf(control));
+    }
+
+    /// Does `what` when events are next waited for.
+    void Soon(const std::function<void()>& what) {
+        soon.setSingleShot(true);
+        soon.callOnTimeout(what);
+        soon.start(20);
     }
 
     /// The events of one control, one a line.
@@ -90,6 +101,9 @@ class DesktopTest : public testing::Test {
                          answer(event);
                      }};
     FormWindow& window = host.WindowOf(form);
+
+  private:
+    QTimer soon;
 };
 
 /// Counts what a widget paints.

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Nothing is left open in the sources: no notes to do later, no placeholder.
+# Nothing is left open in the sources: no notes to do later, nothing unfinished.
 # Usage: words.sh SOURCE_FOLDER
 set -u
 cd "$1" || exit 2

@@ -1,7 +1,7 @@
 // The turn engine: refill, status by health, the selection with its passes and its log.
 #include "state/turns.h"
 
-#include "state/setup.h"
+#include "data/tables.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"
 #include "view/events.h"
@@ -11,6 +11,8 @@ namespace {
 
 class TurnsTest : public GameTest {
   protected:
+    TurnsTest() { InitTables(); }
+
     // Teams of healthy units named a, b, c, ... with time for a turn.
     void MakeTeams(int squad, int enemies) {
         MakeTeam(SquadTeam, squad);
@@ -23,6 +25,7 @@ class TurnsTest : public GameTest {
             Unit& unit = UnitTable[FirstOf(team) + i];
             unit.name = std::string(1, static_cast<char>('a' + i));
             unit.team = team;
+            unit.enemyTeam = team == EnemyTeam ? SquadTeam : EnemyTeam;
             unit.health = 50;
             unit.status = Active;
             unit.agility = 40;
@@ -67,6 +70,7 @@ TEST_F(TurnsTest, StatusFollowsFromHealth) {
     for (const Case& c : Cases) {
         ResetState();
         UnitTable[0].health = c.health;
+        UnitTable[0].time = 80;
         CheckStatus();
         EXPECT_EQ(UnitTable[0].status, c.status) << c.health;
         EXPECT_EQ(UnitTable[0].wasWounded, c.wasWounded) << c.health;
@@ -95,8 +99,12 @@ TEST_F(TurnsTest, TheSelectionPassesOverTheDeadTheInvalidAndTheTimeless) {
     EXPECT_EQ(Log(),
               "b (#1) is dead. Selecting the next one.\n"
               "c (#2) is immobile and now -1\n"
+              "Selected c [immobile]\n"
               "d (#3) is wounded and now +1\n"
-              "0 time for e (#4)\n");
+              "Selected d [active]\n"
+              "0 time for e (#4)\n"
+              "Selected a [active]\n"
+              "Selected a [active]\n");
     EXPECT_EQ(UnitTable[2].health, 9);
     EXPECT_EQ(UnitTable[3].health, 31);
     EXPECT_EQ(UnitTable[3].status, Active) << "healed by the pass";
@@ -122,7 +130,9 @@ TEST_F(TurnsTest, ATeamWithoutTimePassesTheTurnThroughTheEnemyAndBack) {
               "0 time for b (#1)\n"
               "0 time for a (#0)\n"
               "New turn for team #1\n"
-              "New turn for team #0\n");
+              "New turn for team #0\n"
+              "Selected a [active]\n"
+              "Selected a [active]\n");
     EXPECT_EQ(UnitTable[0].time, 80);
 }
 
@@ -141,7 +151,9 @@ TEST_F(TurnsTest, OneDeadAndTheRestTimelessLetTheCountRunOnUntilAllAreCounted) {
               "0 time for b (#1)\n"
               "New turn for team #1\n"
               "New turn for team #0\n"
-              "a (#0) is dead. Selecting the next one.\n");
+              "a (#0) is dead. Selecting the next one.\n"
+              "Selected b [active]\n"
+              "Selected b [active]\n");
     EXPECT_EQ(curUnit, 1);
 }
 
@@ -183,9 +195,10 @@ TEST_F(TurnsTest, EndTurnGoesThroughTheDoor) {
     StartGame();
     const std::size_t before = frmField.cmbLog.List.size();
     Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
-    EXPECT_EQ(Log(before), "New turn for team #1\nNew turn for team #0\n");
+    const std::string selected = "Selected " + UnitTable[0].name + " [active]\n";
+    EXPECT_EQ(Log(before), "New turn for team #1\nNew turn for team #0\n" + selected + selected);
     EXPECT_EQ(curTeam, SquadTeam);
-    EXPECT_EQ(frmField.cmbLog.Text, "New turn for team #0");
+    EXPECT_EQ(frmField.cmbLog.Text + "\n", selected);
 }
 
 }  // namespace

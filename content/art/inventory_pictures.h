@@ -1,0 +1,25 @@
+// All pictures of things in the inventory, under the names by which the game asks for them.
+//
+// A weapon that takes magazines has a picture for each size of its feed and one, with 0, without. Ammunition
+// has two names for each size: as it lies in a slot and as the pointer carries it out of a weapon. A weapon
+// that is added to the catalogue needs a row in one of the tables from which this is made.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <QImage>
+
+namespace art {
+
+struct NamedPicture {
+    std::string name;
+    QImage picture;
+};
+
+std::vector<NamedPicture> InventoryPictures();
+
+// The open packs of 3, 6, 9 and 12 pockets, 142 by 192.
+std::vector<NamedPicture> PackBoards();
+
+}  // namespace art

@@ -1,0 +1,155 @@
+#include "view/commands.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <string>
+
+#include "combat/actions.h"
+#include "combat/costs.h"
+#include "data/map.h"
+#include "field/geometry.h"
+#include "field/walking.h"
+#include "platform/rounding.h"
+#include "state/operation.h"
+#include "state/state.h"
+#include "state/turns.h"
+#include "view/field_form.h"
+#include "view/log.h"
+#include "view/panel.h"
+#include "view/sound.h"
+#include "view/unit_painting.h"
+
+namespace {
+
+void StepMode(int by) {
+    const ComboBox& combo = frmField.comboMode;
+    const int index = combo.ListIndex + by;
+    if (index >= 0 && index < static_cast<int>(combo.List.size())) ChooseMode(index);
+}
+
+struct KeyCommand {
+    int code;
+    void (*run)(int argument);
+    int argument;
+};
+
+void StepKey(int dir) { TurnOrStep(true, dir); }
+
+constexpr KeyCommand KeyCommands[] = {
+    {27, [](int) { TimeSpendAll(); }, 0},    // Esc
+    {32, [](int) { SelectNextUnit(); }, 0},  // Space
+    {33, StepKey, NorthEast},                // Page Up
+    {34, StepKey, SouthEast},                // Page Down
+    {35, StepKey, SouthWest},                // End
+    {36, StepKey, NorthWest},                // Home
+    {37, StepKey, West},                     // the arrows
+    {38, StepKey, North},
+    {39, StepKey, East},
+    {40, StepKey, South},
+    {97, StepKey, SouthWest},                // the number pad
+    {98, StepKey, South},
+    {99, StepKey, SouthEast},
+    {100, StepKey, West},
+    {102, StepKey, East},
+    {103, StepKey, NorthWest},
+    {104, StepKey, North},
+    {105, StepKey, NorthEast},
+    {219, StepMode, -1},                     // [
+    {221, StepMode, +1},                     // ]
+};
+
+int CellUnder(float pixel) { return static_cast<int>(std::floor(pixel / static_cast<float>(CellSize))); }
+
+void SelectClicked(int clicked) {
+    curUnit = clicked - 1;
+    AddToLog("Selected " + LogName(clicked) + "  from team #" + std::to_string(curTeam), 1);
+    SelectNextUnit();
+}
+
+// A click on the field with the left button: a selection, or an order to turn and then to walk.
+void OrderByClick(int cellX, int cellY, float x, float y) {
+    const int occupant = cellGrid[cellY][cellX].occupant;
+    if (occupant > -1) {
+        if (TeamOfUnit(occupant) == TeamOfUnit(curUnit)) return SelectClicked(occupant);
+        AddToLog(LogName(occupant) + " from team #" + std::to_string(TeamOfUnit(occupant)) +
+                     ", waiting for its turn.",
+                 1);
+    }
+    walkOn = 1;
+    if (cellX == lastClickX && cellY == lastClickY) {
+        WalkTo(cellX, cellY, 100);
+        return;
+    }
+    lastClickX = cellX;
+    lastClickY = cellY;
+    TurnTowards(x, y);
+}
+
+constexpr float StanceStepCost = 4;
+constexpr float SwitchCost = 4;
+constexpr int SwitchColumn = 30;  // where the switch's voice sounds
+
+}  // namespace
+
+void Form_KeyDown(int code) {
+    ++game.orders;
+    if (UnitTable[curUnit].status != Active) SelectNextUnit();
+    for (const KeyCommand& command : KeyCommands)
+        if (command.code == code) return command.run(command.argument);
+}
+
+void area_MouseDown(int button, float x, float y) {
+    ++game.orders;
+    if (button == 2) TurnTowards(x, y);
+    if (button == 1) OrderByClick(CellUnder(x), CellUnder(y), x, y);
+}
+
+void area_MouseMove(float x, float y) {
+    AreaTooltip(static_cast<int>(RoundHalfEven(static_cast<double>(x))),
+                static_cast<int>(RoundHalfEven(static_cast<double>(y))), frmField);
+}
+
+void SetStance(int newStance) {
+    static constexpr const char* Voices[] = {"prone", "crouch", "walk", "run"};
+    RunOperation([newStance] {
+        Unit& unit = UnitTable[curUnit];
+        const int steps = std::abs(unit.stance - newStance);
+        if (!Spend(StanceStepCost * static_cast<float>(steps), "time")) return;
+        ShowStance(newStance);
+        unit.stance = newStance;
+        PaintUnit(0, 0);
+        ShowStatus("stance");
+        PlaySoundAt(std::string("voice\\interface\\") + Voices[newStance], AtCurrentUnit);
+    });
+}
+
+void imgStop_Click() {
+    RunOperation([] {
+        if (!Spend(SwitchCost, "time")) return;
+        const bool moving = frmField.imgStop.Tag != "on";
+        frmField.imgStop.Tag = moving ? "on" : "off";
+        frmField.imgStop.ToolTipText = moving ? "fire in motion" : "stop for fire";
+        LoadPicture(frmField.imgStop, "\\pic\\stance4" + frmField.imgStop.Tag + ".gif");
+        ShowStatus("stance");
+        PlaySoundAt(moving ? "voice\\interface\\fireinmotion" : "voice\\interface\\stopforfire", SwitchColumn);
+    });
+}
+
+// ODDITY: the tip reads out any unit under the pointer, sighted or not.
+void AreaTooltip(int x, int y, Form& form) {
+    const int column = CellOfPixel(x);
+    const int row = CellOfPixel(y);
+    const Cell& cell = cellGrid[row][column];
+    std::string text;
+    if (cell.occupant < 0) {
+        const char* terrain = TerrainName(cell.tileY);
+        text = std::to_string(cell.tileY) + " (" + (terrain != nullptr ? terrain : "") + ") with " +
+               std::to_string(cell.durab);
+    } else {
+        const Unit& unit = UnitTable[cell.occupant];
+        text = unit.name + ":" + std::to_string(unit.health) + ":" + UnitStatusText(cell.occupant) +
+               " t:" + std::to_string(unit.time) + " weapon:" + unit.hand.name;
+    }
+    frmField.area.ToolTipText = text;
+    form.Caption = form.Tag + " [" + std::to_string(column) + "," + std::to_string(row) + "]";
+}

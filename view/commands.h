@@ -1,0 +1,24 @@
+// The player's commands on the main window: keys, clicks on the field, the panel's controls, and the tool tip under the
+// pointer. Each acts on the current unit.
+#pragma once
+
+struct Form;
+
+/// A key was pressed on the main window; `code` is its virtual key code.
+void Form_KeyDown(int code);
+
+/// A mouse button, 1 left or 2 right, was pressed on the field at a pixel of it.
+void area_MouseDown(int button, float x, float y);
+
+/// The pointer moved over the field.
+void area_MouseMove(float x, float y);
+
+/// Changes the current unit's stance, 0 to 3, at 4 time for each step between the two.
+void SetStance(int newStance);
+
+/// Switches between "stop for fire" and "fire in motion", for all units, at 4 time of the current one.
+void imgStop_Click();
+
+/// Tells what lies or stands under a pixel of the field in its tool tip, and the cell in the form's caption. Throws
+/// RunTimeError (Subscript) outside the grid.
+void AreaTooltip(int x, int y, Form& form);

@@ -1,0 +1,17 @@
+// The status panel: bars, digits and the durability column of the current unit, its stance and its weapon's box.
+#pragma once
+
+#include <string_view>
+
+/// Refreshes what changed: "stance", "time", "energy", "health", "durab", or "" for the first four. Only for a unit of
+/// the player; one with too little time left then hands over to the next.
+void ShowStatus(std::string_view what);
+
+/// Shows `value`, 0 to 999, in the three digits of bar 0 to 3.
+void BarDigits(int bar, int value);
+
+/// Lights the picture of a stance, 0 to 3, and no other.
+void ShowStance(int stance);
+
+/// Shows the empty weapon box.
+void ShowWeaponBox();
