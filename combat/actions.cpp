@@ -12,7 +12,7 @@
 namespace {
 
 struct NamedFamily {
-    std::string_view name;       // of the held thing
+    std::string_view name;  // of the held thing
     std::string_view family;
     std::string_view secondary;  // when the chosen mode is "Secondary"
 };

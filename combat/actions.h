@@ -1,10 +1,11 @@
-// What the thing in a unit's hand can do: its fire modes, and the family of action that it and the chosen mode make.
+// What the thing in a unit's hand can do: its fire modes, and the family of action that it and the chosen
+// mode make.
 #pragma once
 
 #include <string_view>
 
-/// The family of the current unit's held thing under the chosen fire mode, as "fire" or "cure"; empty when no rule
-/// applies.
+/// The family of the current unit's held thing under the chosen fire mode, as "fire" or "cure"; empty when no
+/// rule applies.
 std::string_view ActionFamily();
 
 /// Fills the list of fire modes for the current unit and chooses the first.

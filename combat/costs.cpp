@@ -31,7 +31,9 @@ bool SpendShown(i16& purse, float amount, const char* kind) {
     return true;
 }
 
-bool UsesSecondFeed(std::string_view family) { return family == "bloop" || family == "shot" || family == "dart"; }
+bool UsesSecondFeed(std::string_view family) {
+    return family == "bloop" || family == "shot" || family == "dart";
+}
 
 void CopyFeed(std::string_view direction, i16& cap, i16& rounds, u8& itemCap, u8& itemRounds) {
     if (direction == "real2fake") {
@@ -73,7 +75,8 @@ void HandSync(std::string_view direction) {
 }
 
 void MeleeHit(int x, int y) {
-    // ODDITY: blows reach only the first 35 columns and 16 rows of the field; elsewhere they cost their time for nothing.
+    // ODDITY: blows reach only the first 35 columns and 16 rows of the field; elsewhere they cost their time
+    // for nothing.
     constexpr int LastColumn = 34;
     constexpr int LastRow = 15;
     const Unit& unit = UnitTable[curUnit];

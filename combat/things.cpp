@@ -47,7 +47,8 @@ void ShowMakersFlag(const std::string& country) {
 
 ImageControl& SlotImage(int slot, Form& form) {
     Control* image = form.Find("imgInv", slot);
-    if (image == nullptr) throw RunTimeError(Fault::Subscript, "imgInv(" + std::to_string(slot) + ") of " + form.name);
+    if (image == nullptr)
+        throw RunTimeError(Fault::Subscript, "imgInv(" + std::to_string(slot) + ") of " + form.name);
     return *static_cast<ImageControl*>(image);
 }
 
@@ -59,8 +60,8 @@ std::string PictureSuffix(const InvItem& item, const WeaponInfo& row) {
 
 }  // namespace
 
-// ODDITY: the second feed and the condition stay in an emptied slot; the next thing there that doesn't set them has
-// them.
+// ODDITY: the second feed and the condition stay in an emptied slot; the next thing there that doesn't set
+// them has them.
 void ClearItem(int slot) {
     InvItem& item = UnitTable[curUnit].items[slot];
     item.name = "";
@@ -117,7 +118,8 @@ void DropAll(int unit) {
     if (TeamOfUnit(unit) == SquadTeam) RefreshHand();
 }
 
-// ODDITY: the row is copied anew, so a worn weapon is as new whenever its soldier is selected or takes it up again.
+// ODDITY: the row is copied anew, so a worn weapon is as new whenever its soldier is selected or takes it up
+// again.
 void RefreshHand() {
     WeaponInfo& hand = UnitTable[curUnit].hand;
     hand = WeaponInfoByName(FightingName());

@@ -1,5 +1,5 @@
-// Things on the ground and in the hand: thirty to a cell, a marker for each cell that holds some, by which alone a pile
-// is seen, and the unit's working copy of what it holds.
+// Things on the ground and in the hand: thirty to a cell, a marker for each cell that holds some, by which
+// alone a pile is seen, and the unit's working copy of what it holds.
 #pragma once
 
 struct Form;
@@ -10,23 +10,25 @@ void ClearItem(int slot);
 /// How many records of the list that begins at unit `base` lie at (x, y).
 int CountAt(int x, int y, int base);
 
-/// Marks the cell as holding things, once, and repaints it. Throws RunTimeError (Subscript) when the table is full.
+/// Marks the cell as holding things, once, and repaints it. Throws RunTimeError (Subscript) when the table is
+/// full.
 void WeaponAdd(int x, int y);
 
 /// Takes the marker of a cell away and repaints it.
 void WeaponRemove(int x, int y);
 
-/// The things in a unit's slots 0 to 9 go to the ground of its cell, as many as find a place there. `unit` is the
-/// current unit.
+/// The things in a unit's slots 0 to 9 go to the ground of its cell, as many as find a place there. `unit` is
+/// the current unit.
 void DropAll(int unit);
 
-/// Brings the current unit's hand into step with its slot 0, and the panel with it. What isn't fit to fight with
-/// leaves the hand bare.
+/// Brings the current unit's hand into step with its slot 0, and the panel with it. What isn't fit to fight
+/// with leaves the hand bare.
 void RefreshHand();
 
-/// Shows a slot of the current unit in the form's control imgInv of that place, which must exist unless the slot is
-/// off the form. Throws RunTimeError for a missing picture.
+/// Shows a slot of the current unit in the form's control imgInv of that place, which must exist unless the
+/// slot is off the form. Throws RunTimeError for a missing picture.
 void ShowSlot(int slot, Form& form);
 
-/// Fits the width of that control to its thing: long things fill a long place, small ones stand in its middle.
+/// Fits the width of that control to its thing: long things fill a long place, small ones stand in its
+/// middle.
 void FitSlot(int slot, Form& form);

@@ -1,6 +1,7 @@
 #include "desktop/control_widgets.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -158,6 +159,6 @@ ControlView* MakeControlView(Control& control, QWidget& parent, const EventSink&
         case ControlKind::Line:
             return new OutlineWidget(static_cast<Shape&>(control), parent, to);
         default:
-            return nullptr;
+            throw std::logic_error("no widget for the kind of control of " + control.name);
     }
 }

@@ -73,5 +73,6 @@ class ButtonWidget : public QPushButton, public ControlView {
     std::string shownCaption;
 };
 
-/// The widget of a control of a window; `parent` owns it. Menu entries have none.
+/// The widget of a control of a window; `parent` owns it. Throws std::logic_error for a kind that
+/// has none.
 ControlView* MakeControlView(Control& control, QWidget& parent, const EventSink& to);

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
 
 #include "desktop/appearance.h"
@@ -26,6 +27,13 @@ bool DisplayIsNamed() {
     for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         if (!qEnvironmentVariableIsEmpty(variable)) return true;
     return false;
+}
+
+QIcon GameIcon() {
+    QIcon icon;
+    for (const char* size : {"16", "32", "48", "128"})
+        icon.addFile(QStringLiteral(":/icon%1.png").arg(QLatin1String(size)));
+    return icon;
 }
 
 // While the application object is made: a display that is named but doesn't answer would abort the process.
@@ -52,6 +60,7 @@ int main(int /*count*/, char** arguments) {
     std::setlocale(LC_NUMERIC, "C");  // the game's numbers have a decimal point everywhere
     QApplication::setQuitOnLastWindowClosed(false);
     SetAppearance(application);
+    QApplication::setWindowIcon(GameIcon());
     SetProgramFolder(QApplication::applicationDirPath().toStdString());
 
     DesktopHost host(frmField, {&frmProgress}, Dispatch);

@@ -1,5 +1,5 @@
-// The geometry of the field: what lies inside it, what can be entered or seen through, how a facing maps to an offset.
-// Pure rules over the map and the units.
+// The geometry of the field: what lies inside it, what can be entered or seen through, how a facing maps to
+// an offset. Pure rules over the map and the units.
 #pragma once
 
 #include <array>
@@ -8,7 +8,8 @@
 #include "platform/rounding.h"
 #include "state/state.h"
 
-/// The way a facing leads: one cell's offset, and its angle in steps of 45 degrees clockwise from east on the screen.
+/// The way a facing leads: one cell's offset, and its angle in steps of 45 degrees clockwise from east on the
+/// screen.
 struct FacingWay {
     int dx;
     int dy;
@@ -35,10 +36,22 @@ inline constexpr std::array<FacingWay, FacingCount> FacingWays = {{
 FacingWay WayOf(int facing);
 
 /// The cell of a pixel coordinate of the field.
-constexpr int CellOfPixel(int pixel) { return FloorDivide(pixel, CellSize); }
+constexpr int CellOfPixel(int pixel) {
+    return FloorDivide(pixel, CellSize);
+}
 
 /// Whether (x, y) is a cell of the field proper. Any coordinates may be asked for, here and below.
-bool InField(int x, int y);
+constexpr bool InField(int x, int y) {
+    return x >= 0 && x < FieldWidth && y >= 0 && y < FieldHeight;
+}
+
+/// Whether a cell's block lets a step, or the view, through.
+inline bool LetsStepThrough(const Cell& cell) {
+    return cell.block == 0 || cell.block == 2;
+}
+inline bool LetsViewThrough(const Cell& cell) {
+    return cell.block == 0 || cell.block == 1;
+}
 
 /// Whether the cell lets through a "step" or the "view"; false outside the field and for any other word.
 bool CellOpen(std::string_view kind, int x, int y);
@@ -47,7 +60,9 @@ bool CellOpen(std::string_view kind, int x, int y);
 bool CellFreeToStep(int x, int y);
 
 /// The team that a unit's index belongs to.
-constexpr int TeamOfUnit(int unit) { return FloorDivide(unit, TeamStride); }
+constexpr int TeamOfUnit(int unit) {
+    return FloorDivide(unit, TeamStride);
+}
 
 /// Whether the cell is one of the eight tiles of the squad's vehicle.
 bool IsStoreTile(int x, int y);

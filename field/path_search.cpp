@@ -23,6 +23,7 @@ struct RowBits {
 
     bool Has(int column) const { return ((column < 64 ? low >> column : high >> (column - 64)) & 1) != 0; }
     void Set(int column) { (column < 64 ? low : high) |= std::uint64_t{1} << (column % 64); }
+    void Clear(int column) { (column < 64 ? low : high) &= ~(std::uint64_t{1} << (column % 64)); }
     bool Any() const { return (low | high) != 0; }
 
     // Itself and its neighbours to the left and right.
@@ -50,15 +51,14 @@ struct Wave {
 class Search {
   public:
     Search(int walkerColumn, int walkerRow, int column, int row) : walkerX(walkerColumn), walkerY(walkerRow) {
-        for (int y = 0; y < FieldHeight; ++y)
-            for (int x = 0; x < FieldWidth; ++x)
-                if (CellFreeToStep(x, y)) unreached[At(y + 1)].Set(x + 1);
         waves.reserve(64);
         waves.emplace_back();
         waves[0].first = waves[0].last = row + 1;
         if (column != walkerX || row != walkerY) waves[0].bits.at(At(row + 1)).Set(column + 1);
-        Clear(column, row);
-        Clear(walkerX, walkerY);
+        firstFilled = row + 1;
+        lastFilled = row;
+        destinationX = column;
+        destinationY = row;
     }
 
     // Whether wave `n` touches the walker.
@@ -71,20 +71,20 @@ class Search {
 
     // Makes wave `n` + 1 of the cells not reached yet around wave `n`.
     void Spread(int n) {
-        Wave next;
+        waves.emplace_back();
+        Wave& next = waves.back();
         const Wave& wave = waves[At(n)];
         next.first = std::max(wave.first - 1, 1);
         next.last = std::min(wave.last + 1, FieldHeight);
+        FillTo(next.first, next.last);
         for (int row = next.first; row <= next.last; ++row) {
-            RowBits& reached = next.bits[At(row)];
-            for (int from = row - 1; from <= row + 1; ++from)
-                reached = reached | wave.bits[At(from)];
-            reached = reached.Widened() & unreached[At(row)];
+            const RowBits around = wave.bits[At(row - 1)] | wave.bits[At(row)] | wave.bits[At(row + 1)];
+            RowBits& free = unreached[At(row)];
+            const RowBits reached = around.Widened() & free;
+            next.bits[At(row)] = reached;
+            free = free.Without(reached);
         }
-        for (int row = next.first; row <= next.last; ++row)
-            unreached[At(row)] = unreached[At(row)].Without(next.bits[At(row)]);
         Trim(next);
-        waves.push_back(next);
     }
 
     // The plan back from the walker, whom wave `n` touched; WaveCap when none did.
@@ -107,10 +107,31 @@ class Search {
   private:
     static std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
-    void Clear(int x, int y) {
-        RowBits cell;
-        cell.Set(x + 1);
-        unreached.at(At(y + 1)) = unreached.at(At(y + 1)).Without(cell);
+    // Rows are looked at when the wave first comes to them.
+    void FillTo(int first, int last) {
+        while (firstFilled > first)
+            Fill(--firstFilled);
+        while (lastFilled < last)
+            Fill(++lastFilled);
+    }
+
+    void Fill(int row) {
+        const auto& cells = cellGrid[row - 1];
+        RowBits& free = unreached[At(row)];
+        free.low = FreeBits(cells, 0, 63) << 1;
+        free.high = FreeBits(cells, 63, FieldWidth);
+        if (row == destinationY + 1) free.Clear(destinationX + 1);
+        if (row == walkerY + 1) free.Clear(walkerX + 1);
+    }
+
+    // A bit for each cell from `first` to before `last` that can be stepped on.
+    static std::uint64_t FreeBits(const Array<Cell, 0, FieldWidth>& cells, int first, int last) {
+        std::uint64_t bits = 0;
+        for (int x = first; x < last; ++x) {
+            const Cell& cell = cells[x];
+            bits |= std::uint64_t{cell.occupant < 0 && LetsStepThrough(cell)} << (x - first);
+        }
+        return bits;
     }
 
     static void Trim(Wave& wave) {
@@ -120,9 +141,9 @@ class Search {
             --wave.last;
     }
 
-    // The first neighbour in trace order with the lowest value; the step before when none has one below the cap.
-    // ODDITY: the border of the grid holds zeros like the destination, so a trace along row 0 or column 0 is drawn off
-    // the field, and its next step ends the program. Maps keep units off these cells.
+    // The first neighbour in trace order with the lowest value; the step before when none has one below the
+    // cap. ODDITY: the border of the grid holds zeros like the destination, so a trace along row 0 or column
+    // 0 is drawn off the field, and its next step ends the program. Maps keep units off these cells.
     PlanStep Best(int column, int row, int n, PlanStep before) const {
         int lowest = WaveCap;
         PlanStep best = before;
@@ -135,8 +156,8 @@ class Search {
         return best;
     }
 
-    // The wave that reached a cell of the grid, as far as the trace can tell: around a cell that wave `n` touches none
-    // is lower than `n` but the border. WaveCap stands for every higher value.
+    // The wave that reached a cell of the grid, as far as the trace can tell: around a cell that wave `n`
+    // touches none is lower than `n` but the border. WaveCap stands for every higher value.
     int ValueAt(int column, int row, int n) const {
         if (column < 0 || column >= GridColumns) ThrowSubscript(column, 0, GridColumns - 1);
         if (row < 0 || row >= GridRows) ThrowSubscript(row, 0, GridRows - 1);
@@ -147,7 +168,11 @@ class Search {
 
     int walkerX;
     int walkerY;
-    Bits unreached{};
+    int destinationX = 0;
+    int destinationY = 0;
+    Bits unreached{};  // free cells that no wave has come to
+    int firstFilled = 0;
+    int lastFilled = 0;
     std::vector<Wave> waves;
 };
 

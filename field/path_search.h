@@ -1,5 +1,5 @@
-// The wave search of a walk: a wave spreads from the destination over the free cells until it reaches the walker, and
-// the plan is traced back along it. Diagonals count as one step, and corners aren't tested.
+// The wave search of a walk: a wave spreads from the destination over the free cells until it reaches the
+// walker, and the plan is traced back along it. Diagonals count as one step, and corners aren't tested.
 #pragma once
 
 #include <functional>
@@ -11,8 +11,9 @@ struct PlanStep {
     int dy;
 };
 
-/// The plan from the walker's cell to a destination, at most `maxSteps` long. `afterWave` is called after each whole
-/// wave but the last. Where no path exists the plan is `maxSteps` entries of (0, 0), 251 at the most. Throws
-/// RunTimeError (Subscript) where the trace leaves the field, which it does from row 0 or column 0.
+/// The plan from the walker's cell to a destination, at most `maxSteps` long. `afterWave` is called after
+/// each whole wave but the last. Where no path exists the plan is `maxSteps` entries of (0, 0), 251 at the
+/// most. Throws RunTimeError (Subscript) where the trace leaves the field, which it does from row 0 or column
+/// 0.
 std::vector<PlanStep> SearchPath(int walkerX, int walkerY, int x, int y, int maxSteps,
                                  const std::function<void()>& afterWave);

@@ -53,7 +53,8 @@ Offsets OffsetsFrom(int cell, const std::vector<Sample>& samples, float Sample::
     return offsets;
 }
 
-// Single precision may round a sum differently in one column than in another; columns that agree share their offsets.
+// Single precision may round a sum differently in one column than in another; columns that agree share their
+// offsets.
 template <std::size_t Cells>
 struct Axis {
     std::vector<Offsets> variants;
@@ -72,14 +73,23 @@ struct Axis {
     }
 };
 
-std::vector<FanStep> Collapse(const std::vector<Sample>& samples, const Offsets& dx, const Offsets& dy) {
+// One fan: the steps of all its rays, and the rays as parts of them.
+struct Fan {
     std::vector<FanStep> steps;
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        const bool sameCell = !steps.empty() && steps.back().dx == dx[i] && steps.back().dy == dy[i];
-        if (samples[i].startsRay || !sameCell) steps.push_back({dx[i], dy[i], samples[i].startsRay});
+    std::vector<Ray> rays;
+
+    Fan(const std::vector<Sample>& samples, const Offsets& dx, const Offsets& dy) {
+        std::vector<std::size_t> starts;
+        for (std::size_t i = 0; i < samples.size(); ++i) {
+            if (samples[i].startsRay) starts.push_back(steps.size());
+            const bool sameCell = !steps.empty() && steps.back().dx == dx[i] && steps.back().dy == dy[i];
+            if (samples[i].startsRay || !sameCell) steps.push_back({dx[i], dy[i]});
+        }
+        starts.push_back(steps.size());
+        for (std::size_t ray = 0; ray + 1 < starts.size(); ++ray)
+            rays.emplace_back(steps.data() + starts[ray], starts[ray + 1] - starts[ray]);
     }
-    return steps;
-}
+};
 
 // All fans of one facing: the trigonometry is worked out once.
 class FacingFans {
@@ -88,27 +98,27 @@ class FacingFans {
         : samples(SamplesOf(facing)), columns(samples, &Sample::alongX), rows(samples, &Sample::alongY) {
         for (const Offsets& dx : columns.variants)
             for (const Offsets& dy : rows.variants)
-                fans.push_back(Collapse(samples, dx, dy));
+                fans.emplace_back(samples, dx, dy);
     }
 
-    const std::vector<FanStep>& From(int x, int y) const {
+    std::span<const Ray> From(int x, int y) const {
         const std::size_t column = columns.variantOf.at(static_cast<std::size_t>(x));
         const std::size_t row = rows.variantOf.at(static_cast<std::size_t>(y));
-        return fans[column * rows.variants.size() + row];
+        return fans[column * rows.variants.size() + row].rays;
     }
 
   private:
     std::vector<Sample> samples;
     Axis<FieldWidth> columns;
     Axis<FieldHeight> rows;
-    std::vector<std::vector<FanStep>> fans;
+    std::vector<Fan> fans;  // moved as a whole, so that the rays stay where they point
 };
 
 }  // namespace
 
-std::span<const FanStep> SightFan(int facing, int x, int y) {
-    static const std::array<FacingFans, FacingCount> AllFans = {
-        FacingFans(0), FacingFans(1), FacingFans(2), FacingFans(3),
-        FacingFans(4), FacingFans(5), FacingFans(6), FacingFans(7)};
+std::span<const Ray> SightFan(int facing, int x, int y) {
+    static const std::array<FacingFans, FacingCount> AllFans = {FacingFans(0), FacingFans(1), FacingFans(2),
+                                                                FacingFans(3), FacingFans(4), FacingFans(5),
+                                                                FacingFans(6), FacingFans(7)};
     return AllFans.at(static_cast<std::size_t>(facing)).From(x, y);
 }

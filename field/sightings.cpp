@@ -26,7 +26,8 @@ class EnemyCells {
         }
     }
 
-    bool Any(int x, int y) const { return InField(x, y) && occupied[Place(x, y)]; }
+    // Whether a living enemy stands on this cell of the field.
+    bool Any(int x, int y) const { return occupied[Place(x, y)]; }
 
     // Notes the living enemies on a cell in the looker's record.
     void Note(Unit& looker, int x, int y) const {
@@ -62,7 +63,8 @@ void ShowCounter() {
     if (count < 1) return;
     LoadPicture(frmField.imgEnemyCount, "\\pic\\counter\\" + TwoDigits(count) + ".bmp");
     frmField.imgEnemyCount.Visible = true;
-    frmField.imgEnemyCount.ToolTipText = std::to_string(count) + (count == 1 ? " enemy" : " enemies") + " sighted";
+    frmField.imgEnemyCount.ToolTipText =
+        std::to_string(count) + (count == 1 ? " enemy" : " enemies") + " sighted";
 }
 
 void FlashSelection() {
@@ -87,8 +89,9 @@ void UnitLookEnemies() {
     looker.perception = SightPerception;
     const EnemyCells enemies(looker.enemyTeam);
     CastFan(looker.facing, looker.cellX, looker.cellY, [&](int x, int y) {
+        if (!InField(x, y)) return false;
         if (enemies.Any(x, y)) enemies.Note(looker, x, y);
-        return CellOpen("view", x, y);
+        return LetsViewThrough(cellGrid[y][x]);
     });
     TheHost().Refresh(frmField.area);
 }

@@ -32,7 +32,9 @@ constexpr std::array<StepCost, 4> StepCosts = {{
 
 constexpr float TurnCost = 1;  // time for 45 degrees
 
-const StepCost& CostOfStep(const Unit& unit) { return StepCosts.at(static_cast<std::size_t>(int{unit.stance})); }
+const StepCost& CostOfStep(const Unit& unit) {
+    return StepCosts.at(static_cast<std::size_t>(int{unit.stance}));
+}
 
 int FacingOfOffset(int dx, int dy) {
     for (int facing = 0; facing < FacingCount; ++facing)
@@ -60,8 +62,8 @@ bool Step(Unit& unit, int dir) {
     const StepCost& cost = CostOfStep(unit);
     const int energy = unit.load > unit.strength ? cost.energy * 2 : cost.energy;
     if (!Spend(static_cast<float>(energy), "energy")) return false;
-    // ODDITY: a step that is refused for want of time keeps the energy it has paid; the player loses energy without
-    // moving.
+    // ODDITY: a step that is refused for want of time keeps the energy it has paid; the player loses energy
+    // without moving.
     if (!Spend(static_cast<float>(cost.time), "time")) return false;
     PaintUnit(way.dx, way.dy);
     UnitLookEnemies();
@@ -81,24 +83,31 @@ bool Turn(Unit& unit, int dir) {
     return true;
 }
 
-int Sign(int value) { return value > 0 ? 1 : value < 0 ? -1 : 0; }
+int Sign(int value) {
+    return value > 0 ? 1 : value < 0 ? -1 : 0;
+}
 
 bool IsTwice(int larger, int smaller) {
-    return std::abs(larger) > std::abs(smaller) && std::abs(larger) / static_cast<double>(std::abs(smaller)) >= 2;
+    return std::abs(larger) > std::abs(smaller) &&
+           std::abs(larger) / static_cast<double>(std::abs(smaller)) >= 2;
 }
 
 // The distance in pixels from a unit's centre; within its own square it counts as none.
 int DistanceFromCentre(float pixel, int unitPixel) {
     constexpr int OwnSquare = CellSize / 2;
-    const int distance =
-        static_cast<int>(RoundHalfEven(static_cast<double>(pixel - static_cast<float>(unitPixel + CellSize / 2))));
+    const int distance = static_cast<int>(
+        RoundHalfEven(static_cast<double>(pixel - static_cast<float>(unitPixel + CellSize / 2))));
     return std::abs(distance) <= OwnSquare ? 0 : distance;
 }
 
 // Whether the walk that began with order number `order` on `unit` is still what the player wants.
-bool StillWanted(int order, int unit) { return game.orders == order && curUnit == unit; }
+bool StillWanted(int order, int unit) {
+    return game.orders == order && curUnit == unit;
+}
 
-float CentreOf(int cell) { return static_cast<float>(cell * CellSize + CellSize / 2); }
+float CentreOf(int cell) {
+    return static_cast<float>(cell * CellSize + CellSize / 2);
+}
 
 bool WalkPlan(const std::vector<PlanStep>& plan, int order, int walker) {
     Unit& unit = UnitTable[walker];
@@ -150,7 +159,7 @@ bool TurnOrStep(bool doStep, int dir) {
 bool WalkTo(int x, int y, int maxSteps) {
     const int walker = curUnit;
     const int order = ++game.orders;
-    const std::vector<PlanStep> plan = SearchPath(UnitTable[walker].cellX, UnitTable[walker].cellY, x, y, maxSteps,
-                                                  [] { TheHost().PumpEvents(); });
+    const std::vector<PlanStep> plan = SearchPath(UnitTable[walker].cellX, UnitTable[walker].cellY, x, y,
+                                                  maxSteps, [] { TheHost().PumpEvents(); });
     return StillWanted(order, walker) && WalkPlan(plan, order, walker);
 }

@@ -48,7 +48,8 @@ class TextReader {
     /// The rest of the line, without its end, which is passed.
     std::string ReadLine();
 
-    /// At the end of the file: throws BadData unless its last line was ended, so that a file cut short is noticed.
+    /// At the end of the file: throws BadData unless its last line was ended, so that a file cut short is
+    /// noticed.
     void CheckLastLineEnd() const;
 
     /// 1 for the first line.

@@ -33,7 +33,7 @@ class Host {
     /// Waits by the clock. With `pump` events are handled meanwhile, at least once.
     virtual void Wait(std::chrono::nanoseconds time, bool pump) = 0;
 
-    /// Shows a form over the others and returns when it has been hidden again.
+    /// Shows a form that is visible over the others and returns when it has been hidden again.
     virtual void ShowModal(Form& form) = 0;
 
     /// Shows `text` in a box and returns when it has been read.

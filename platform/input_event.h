@@ -21,9 +21,10 @@ struct InputEvent {
     EventKind kind = EventKind::KeyDown;
     std::string control;  // "frmField", "frmField.area", "frmField.imgStance"
     int index = -1;       // place in a control array, -1 for a control on its own
-    int code = 0;         // key code; mouse button, 1 left, 2 right, 4 middle (0 for none); index or value
-    int shift = 0;        // 1 Shift, 2 Ctrl, 4 Alt, added up
-    float x = 0;          // pixels within the control
+    int code =
+        0;  // key code; mouse button, 1 left, 2 right, 4 middle, those held added up in a move; index; value
+    int shift = 0;  // 1 Shift, 2 Ctrl, 4 Alt, added up
+    float x = 0;    // pixels within the control
     float y = 0;
 
     bool operator==(const InputEvent&) const = default;

@@ -28,6 +28,28 @@ Picture::Picture(int columns, int rows, Colour fill)
       pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), fill),
       changed(Bounds()) {}
 
+Picture::Picture(const Picture& other)
+    : width(other.width), height(other.height), pixels(other.pixels), changed(other.Bounds()) {}
+
+Picture& Picture::operator=(const Picture& other) {
+    if (this != &other) *this = Picture(other);
+    return *this;
+}
+
+Picture::Picture(Picture&& other) noexcept
+    : width(std::exchange(other.width, 0)),
+      height(std::exchange(other.height, 0)),
+      pixels(std::exchange(other.pixels, {})),
+      changed(Bounds()) {}
+
+Picture& Picture::operator=(Picture&& other) noexcept {
+    std::swap(width, other.width);
+    std::swap(height, other.height);
+    std::swap(pixels, other.pixels);
+    changed = Bounds();
+    return *this;
+}
+
 Colour Picture::Pixel(int x, int y) const {
     if (x < 0 || y < 0 || x >= width || y >= height) return 0;
     return Row(y)[x];

@@ -36,6 +36,13 @@ class Picture {
     /// `columns` by `rows` pixels of `fill`.
     Picture(int columns, int rows, Colour fill = Rgb(0, 0, 0));
 
+    /// What is assigned counts as changed, all of it.
+    Picture(const Picture& other);
+    Picture& operator=(const Picture& other);
+    Picture(Picture&& other) noexcept;
+    Picture& operator=(Picture&& other) noexcept;
+    ~Picture() = default;
+
     int Width() const { return width; }
     int Height() const { return height; }
     Rectangle Bounds() const { return {0, 0, width, height}; }

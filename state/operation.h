@@ -1,16 +1,18 @@
-// An operation keeps its unit: a turn, a step, a change of stance or an action works to its end on the unit that it
-// began with, whatever is selected meanwhile.
+// An operation keeps its unit: a turn, a step, a change of stance or an action works to its end on the unit
+// that it began with, whatever is selected meanwhile.
 #pragma once
 
 #include <functional>
 
-/// Runs `body` as an operation. While one runs, the hand-over of a spent soldier waits; when the outermost has ended and
-/// the current unit asked for it, the next one is selected, once. What events selected in the middle stays selected.
+/// Runs `body` as an operation. While one runs, the hand-over of a spent soldier waits; when the outermost
+/// has ended and the current unit asked for it, the next one is selected, once. What events selected in the
+/// middle stays selected.
 void RunOperation(const std::function<void()>& body);
 
-/// A soldier of the player has too little time to act: selects the next one, now or when the running operation has
-/// ended.
+/// A soldier of the player has too little time to act: selects the next one, now or when the running
+/// operation has ended.
 void AskHandOver();
 
-/// Lets events run in the middle of whatever goes on, through `pump`, and makes the unit current again that was before.
+/// Lets events run in the middle of whatever goes on, through `pump`, and makes the unit current again that
+/// was before.
 void PumpKeepingUnit(const std::function<void()>& pump);

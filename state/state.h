@@ -12,13 +12,13 @@ constexpr int CellSize = 20;    // pixels of one cell's side
 constexpr int TeamStride = 20;  // team t owns the units from t * 20
 constexpr int FieldWidth = 76;  // cells of the field proper; the grid has one column and one row more
 constexpr int FieldHeight = 46;
-constexpr int CellItemSlots = 30;  // things that can lie on one cell; also the slots of the vehicle store
-constexpr int FirstStoreTile = 18;   // tiles of class "various" that show the squad's vehicle
+constexpr int CellItemSlots = 30;   // things that can lie on one cell; also the slots of the vehicle store
+constexpr int FirstStoreTile = 18;  // tiles of class "various" that show the squad's vehicle
 constexpr int LastStoreTile = 25;
-constexpr int TimeToAct = 4;         // time without which a unit is passed over: what the cheapest command costs
-constexpr int RosterSize = 20;     // soldiers' places in the roster
-constexpr int ChargeBase = 100;    // pseudo-units of the set charges start here, team 5
-constexpr int PileBase = 120;      // pseudo-units that mark piles of things, team 6
+constexpr int TimeToAct = 4;     // time without which a unit is passed over: what the cheapest command costs
+constexpr int RosterSize = 20;   // soldiers' places in the roster
+constexpr int ChargeBase = 100;  // pseudo-units of the set charges start here, team 5
+constexpr int PileBase = 120;    // pseudo-units that mark piles of things, team 6
 
 enum Facing { East, West, North, South, NorthEast, SouthEast, SouthWest, NorthWest };
 enum Stance { Prone, Crouch, Stand, Run };
@@ -189,16 +189,16 @@ struct GameState {
     i16 walkOn;      // go-ahead of a walk in progress
     i16 lastClickX;  // the cell that a left click last chose as a destination
     i16 lastClickY;
-    i16 bulletPower;    // strengths of the bullet, worn down on its way
+    i16 bulletPower;  // strengths of the bullet, worn down on its way
     i16 bulletAccur;
-    i16 bulletHorizon;  // pixel steps that the flight may take
+    i16 bulletHorizon;      // pixel steps that the flight may take
     std::string shownHand;  // the thing in hand that the list of fire modes was last made for
     i32 orders;             // orders of the player so far: a new one ends the walk that runs
 
     // Of the running operation, see state/operation.
     i16 operationDepth;
     std::vector<int> handOverAsked;  // the soldiers that asked
-    i16 selectedMeanwhile = -1;  // what events selected in its middle, -1 for nothing
+    i16 selectedMeanwhile = -1;      // what events selected in its middle, -1 for nothing
 };
 
 extern GameState game;
@@ -236,7 +236,9 @@ void ResetState();
 const char* UnitStatusText(int index);
 
 /// Whether the unit is the player's and has too little time to act.
-inline bool IsSpentSoldier(const Unit& unit) { return unit.team < EnemyTeam && unit.time < TimeToAct; }
+inline bool IsSpentSoldier(const Unit& unit) {
+    return unit.team < EnemyTeam && unit.time < TimeToAct;
+}
 
 /// The first unit of team `team`.
 constexpr int FirstOf(int team) {

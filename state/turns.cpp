@@ -154,13 +154,21 @@ void CheckStatus() {
     ShowStatus("health");
 }
 
-void TimeSpendAll() { SpendAll(&Unit::time, "time"); }
+void TimeSpendAll() {
+    SpendAll(&Unit::time, "time");
+}
 
-void TimeGrant() { Grant(&Unit::time, "time"); }
+void TimeGrant() {
+    Grant(&Unit::time, "time");
+}
 
-void EnergySpendAll() { SpendAll(&Unit::energy, "energy"); }
+void EnergySpendAll() {
+    SpendAll(&Unit::energy, "energy");
+}
 
-void EnergyGrant() { Grant(&Unit::energy, "energy"); }
+void EnergyGrant() {
+    Grant(&Unit::energy, "energy");
+}
 
 void ClearSightings() {
     for (int i = 0; i <= teamLast[SquadTeam]; ++i) {

@@ -33,7 +33,9 @@ struct KeyCommand {
     int argument;
 };
 
-void StepKey(int dir) { TurnOrStep(true, dir); }
+void StepKey(int dir) {
+    TurnOrStep(true, dir);
+}
 
 constexpr KeyCommand KeyCommands[] = {
     {27, [](int) { TimeSpendAll(); }, 0},    // Esc
@@ -46,7 +48,7 @@ constexpr KeyCommand KeyCommands[] = {
     {38, StepKey, North},
     {39, StepKey, East},
     {40, StepKey, South},
-    {97, StepKey, SouthWest},                // the number pad
+    {97, StepKey, SouthWest},  // the number pad
     {98, StepKey, South},
     {99, StepKey, SouthEast},
     {100, StepKey, West},
@@ -54,11 +56,13 @@ constexpr KeyCommand KeyCommands[] = {
     {103, StepKey, NorthWest},
     {104, StepKey, North},
     {105, StepKey, NorthEast},
-    {219, StepMode, -1},                     // [
-    {221, StepMode, +1},                     // ]
+    {219, StepMode, -1},  // [
+    {221, StepMode, +1},  // ]
 };
 
-int CellUnder(float pixel) { return static_cast<int>(std::floor(pixel / static_cast<float>(CellSize))); }
+int CellUnder(float pixel) {
+    return static_cast<int>(std::floor(pixel / static_cast<float>(CellSize)));
+}
 
 void SelectClicked(int clicked) {
     curUnit = clicked - 1;
@@ -131,7 +135,8 @@ void imgStop_Click() {
         frmField.imgStop.ToolTipText = moving ? "fire in motion" : "stop for fire";
         LoadPicture(frmField.imgStop, "\\pic\\stance4" + frmField.imgStop.Tag + ".gif");
         ShowStatus("stance");
-        PlaySoundAt(moving ? "voice\\interface\\fireinmotion" : "voice\\interface\\stopforfire", SwitchColumn);
+        PlaySoundAt(moving ? "voice\\interface\\fireinmotion" : "voice\\interface\\stopforfire",
+                    SwitchColumn);
     });
 }
 

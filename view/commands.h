@@ -1,5 +1,5 @@
-// The player's commands on the main window: keys, clicks on the field, the panel's controls, and the tool tip under the
-// pointer. Each acts on the current unit.
+// The player's commands on the main window: keys, clicks on the field, the panel's controls, and the tool tip
+// under the pointer. Each acts on the current unit.
 #pragma once
 
 struct Form;
@@ -19,6 +19,6 @@ void SetStance(int newStance);
 /// Switches between "stop for fire" and "fire in motion", for all units, at 4 time of the current one.
 void imgStop_Click();
 
-/// Tells what lies or stands under a pixel of the field in its tool tip, and the cell in the form's caption. Throws
-/// RunTimeError (Subscript) outside the grid.
+/// Tells what lies or stands under a pixel of the field in its tool tip, and the cell in the form's caption.
+/// Throws RunTimeError (Subscript) outside the grid.
 void AreaTooltip(int x, int y, Form& form);

@@ -33,8 +33,10 @@ constexpr Handler Handlers[] = {
     {"frmField.comboMode", EventKind::Choose, [](Event e) { ChooseMode(e.code); }},
     {"frmField.HScrollArea", EventKind::Scroll, [](Event e) { ScrollThumb(frmField.HScrollArea, e.code); }},
     {"frmField.VScrollArea", EventKind::Scroll, [](Event e) { ScrollThumb(frmField.VScrollArea, e.code); }},
-    {"frmField.HScrollArea", EventKind::Change, [](Event e) { SetScrollValue(frmField.HScrollArea, e.code); }},
-    {"frmField.VScrollArea", EventKind::Change, [](Event e) { SetScrollValue(frmField.VScrollArea, e.code); }},
+    {"frmField.HScrollArea", EventKind::Change,
+     [](Event e) { SetScrollValue(frmField.HScrollArea, e.code); }},
+    {"frmField.VScrollArea", EventKind::Change,
+     [](Event e) { SetScrollValue(frmField.VScrollArea, e.code); }},
 };
 
 bool IsShown(const Control* control) {
@@ -43,8 +45,8 @@ bool IsShown(const Control* control) {
     return true;
 }
 
-// Whether a person could have done this: a control that is hidden or switched off gets no events. One that was shown
-// when the event was made may have gone since.
+// Whether a person could have done this: a control that is hidden or switched off gets no events. One that
+// was shown when the event was made may have gone since.
 bool CanHappen(Event event) {
     const std::size_t dot = event.control.find('.');
     if (dot == std::string::npos) return true;

@@ -62,6 +62,9 @@ void FieldForm::PutTopLevel() {
     for (Control* hidden : {static_cast<Control*>(&shpSelect), static_cast<Control*>(&imgBlowup),
                             static_cast<Control*>(&imgCover), static_cast<Control*>(&picForest)})
         hidden->Visible = false;
+    for (Control* overlay : {static_cast<Control*>(&shpSelect), static_cast<Control*>(&imgBlowup),
+                             static_cast<Control*>(&imgCover)})
+        overlay->Enabled = false;  // a click goes through to the field
     Stretch(VScrollArea, 460);
     picForest.canvas = StoredPicture("picForest.bmp");
     picSlateL.canvas = StoredPicture("picSlateL.bmp");
@@ -89,6 +92,8 @@ void FieldForm::PutPanel() {
     Stretch(HScrollArea, 760);
     cmbLog.BackColor = Rgb(0, 64, 0);
     cmbLog.ForeColor = Rgb(0, 192, 0);
+    comboMode.BackColor = Rgb(24, 41, 31);
+    comboMode.ForeColor = Rgb(200, 214, 196);
     picAreaMap.BackColor = FieldGreen;
     picAreaMap.canvas = Picture(picAreaMap.Width, picAreaMap.Height, FieldGreen);
     for (PictureBox& dot : picAreaMapUnit)

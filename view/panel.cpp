@@ -42,7 +42,9 @@ void ShowHealth(const Unit& unit) {
 }
 
 // A number as the column's tips write it: a blank stands where a minus would.
-std::string Signed(int number) { return (number < 0 ? "" : " ") + std::to_string(number); }
+std::string Signed(int number) {
+    return (number < 0 ? "" : " ") + std::to_string(number);
+}
 
 void ShowDurability(const Unit& unit) {
     constexpr double Scale = 1000;
@@ -77,8 +79,8 @@ PictureRef DigitCell(int cell) {
         Array<PictureRef, 0, Cells - 1> cut;
         for (int i = 0; i < Cells; ++i) {
             auto digit = std::make_shared<Picture>(CellWidth, CellHeight);
-            BitBlt(*digit, 0, 0, CellWidth, CellHeight, StoredPicture("picBarDigits.bmp"), i % Columns * CellWidth,
-                   i / Columns * CellHeight, RasterOp::SRCCOPY);
+            BitBlt(*digit, 0, 0, CellWidth, CellHeight, StoredPicture("picBarDigits.bmp"),
+                   i % Columns * CellWidth, i / Columns * CellHeight, RasterOp::SRCCOPY);
             cut[i] = digit;
         }
         return cut;
@@ -119,4 +121,6 @@ void ShowStance(int stance) {
                     "\\pic\\stance" + std::to_string(i) + (i == stance ? "on" : "off") + ".gif");
 }
 
-void ShowWeaponBox() { frmField.picBarWeapon.canvas = *ReadPictureFile("\\pic\\weapon.gif"); }
+void ShowWeaponBox() {
+    frmField.picBarWeapon.canvas = *ReadPictureFile("\\pic\\weapon.gif");
+}

@@ -1,10 +1,11 @@
-// The status panel: bars, digits and the durability column of the current unit, its stance and its weapon's box.
+// The status panel: bars, digits and the durability column of the current unit, its stance and its weapon's
+// box.
 #pragma once
 
 #include <string_view>
 
-/// Refreshes what changed: "stance", "time", "energy", "health", "durab", or "" for the first four. Only for a unit of
-/// the player; one with too little time left then hands over to the next.
+/// Refreshes what changed: "stance", "time", "energy", "health", "durab", or "" for the first four. Only for
+/// a unit of the player; one with too little time left then hands over to the next.
 void ShowStatus(std::string_view what);
 
 /// Shows `value`, 0 to 999, in the three digits of bar 0 to 3.

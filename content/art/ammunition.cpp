@@ -103,8 +103,9 @@ void LayClip(Relief& relief, const AmmoKind& kind, int size) {
 
 void LayShells(Relief& relief, int size) {
     for (int i = 0; i < size; ++i) {
+        const int row = i / 6;
         const double x = 8 + i % 6 * 5.2;
-        const double y = size > 6 ? 5.0 + i / 6 * 17 : 12;
+        const double y = size > 6 ? 5.0 + row * 17 : 12;
         relief.Lay(Rect(x - 2.3, y, 4.6, 11, 0.8), Piece(Ink::Crimson, 1.8f, 0, 2));
         relief.Lay(Rect(x - 2.5, y + 10, 5, 5, 0.6), Piece(Ink::Gold, 2, 0, 1.8f));
     }

@@ -52,7 +52,7 @@ void Opening(Relief& relief) {
     LoosePatch(relief, Rect(1, 1, 18, 18, 5), {Ink::Slate, Ink::Cement, 1.67f, 0.7f, 0.4f, 501}, 0, 1.3f);
     relief.Lay(Rect(4.5, 4.5, 11, 11, 0.5),
                {.colour = Colour(Ink::Cement), .height = 0.35f, .round = 0.4f, .grain = 0.1f});
-    for (double at = 6.5; at < 15; at += 2.4) {
+    for (const double at : Steps(6.5, 15, 2.4)) {
         relief.StainLine(Trace({{5.2, at}, {14.8, at}}), 0.5, Colour(Ink::Slate), 0.6);
     }
     for (const auto& [x, y] : {std::pair{2.2, 3.4}, {15.8, 2.6}, {3, 15.4}, {15.4, 15}}) {
@@ -87,7 +87,7 @@ void Generator(Relief& relief) {
     SlabFloor(relief);
     relief.Lay(Rect(1.4, 2.6, 15.4, 12.4, 0.8),
                {.colour = Colour(Ink::Steel), .height = 3.6f, .round = 1, .grain = 0.06f});
-    for (double x = 2.8; x < 8.6; x += 1.4) {
+    for (const double x : Steps(2.8, 8.6, 1.4)) {
         relief.Stain(Rect(x, 4, 0.7, 9.6), Colour(Ink::Engraving), 0.85);
     }
     relief.Lay(Ellipse(12.6, 6.6, 2.7, 2.7),
@@ -102,7 +102,7 @@ void Generator(Relief& relief) {
 void Drain(Relief& relief) {
     SlabFloor(relief);
     relief.Lay(Rect(6, 6, 8, 8, 0.5), {.colour = Colour(Ink::Slate), .height = 0.4f, .round = 0.4f});
-    for (double x = 7.2; x < 13; x += 1.6)
+    for (const double x : Steps(7.2, 13, 1.6))
         relief.Lay(Rect(x, 7, 0.8, 6), {.colour = Colour(Ink::Soot), .height = -0.8f});
 }
 

@@ -63,8 +63,10 @@ void Grain(Relief& relief) {
         const float y = dice.Roll(0, 20);
         const QColor colour = Between(Ink::Stubble, Ink::Glow, static_cast<double>(dice.Roll(0, 0.75f)));
         for (int wrap = 0; wrap < 9; ++wrap) {
-            const auto left = static_cast<double>(x + static_cast<float>(wrap % 3 - 1) * 20);
-            const auto top = static_cast<double>(y + static_cast<float>(wrap / 3 - 1) * 20);
+            const int across = wrap % 3 - 1;
+            const int down = wrap / 3 - 1;
+            const double left = static_cast<double>(x) + across * 20;
+            const double top = static_cast<double>(y) + down * 20;
             relief.StainLine(Trace({{left, top}, {left + 0.7, top - 2.1}}), 0.7, colour, 0.9);
         }
     }

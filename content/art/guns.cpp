@@ -8,7 +8,7 @@
 namespace art {
 namespace {
 
-constexpr double Bore = 17;  // height of the barrel's middle in the picture
+constexpr double Bore = 19;  // height of the barrel's middle in the picture
 constexpr double SmallBore = 16;
 constexpr double LongWidth = 117;
 constexpr double SmallWidth = 42;
@@ -58,6 +58,38 @@ Plan Arrange(const Gun& gun) {
             left + total};
 }
 
+void LayThumbhole(Relief& relief, const Plan& plan) {
+    const double x = plan.buttEnd;
+    const double y = plan.bore;
+    const double to = plan.body + 2;
+    const Ink wood = plan.gun.furniture;
+    relief.Lay(Polygon({{x, y - 3.4},
+                        {to, y - 2.8},
+                        {to + 4, y + 4},
+                        {to - 2, y + 10},
+                        {to - 6, y + 9},
+                        {x + 1, y + 9.6}}),
+               Furniture(wood));
+    relief.Lay(Polygon({{x + 9, y + 2.4}, {to - 5, y + 2}, {to - 7.6, y + 6.2}, {x + 9, y + 6.6}}),
+               {.colour = Colour(Ink::Soot), .height = -1, .base = 1});
+    relief.Lay(Rect(x + 6, y - 4.6, 12, 2.4, 1), Furniture(wood, 1, 1));
+}
+
+void LayBullpup(Relief& relief, const Plan& plan) {
+    const double x = plan.buttEnd;
+    const double y = plan.bore;
+    const Ink wood = plan.gun.furniture;
+    relief.Lay(Polygon({{x, y - 3.6},
+                        {plan.guard + 2, y - 3.2},
+                        {plan.guard + 4, y + 2.6},
+                        {plan.Grip() + 10, y + 4.2},
+                        {plan.body + 2, y + 5},
+                        {x + 3, y + 8.6},
+                        {x, y + 8.6}}),
+               Furniture(wood));
+    relief.Lay(Rect(x - 0.8, y - 3.4, 2.2, 12, 0.8), Metal(Ink::Iron, 1.8f));
+}
+
 void LayStock(Relief& relief, const Plan& plan) {
     const double x = plan.buttEnd;
     const double to = plan.body + 2;
@@ -88,28 +120,9 @@ void LayStock(Relief& relief, const Plan& plan) {
                 Furniture(wood));
             return;
         case Stock::Thumbhole:
-            relief.Lay(Polygon({{x, y - 3.4},
-                                {to, y - 2.8},
-                                {to + 4, y + 4},
-                                {to - 2, y + 10},
-                                {to - 6, y + 9},
-                                {x + 1, y + 9.6}}),
-                       Furniture(wood));
-            relief.Lay(Polygon({{x + 9, y + 2.4}, {to - 5, y + 2}, {to - 7.6, y + 6.2}, {x + 9, y + 6.6}}),
-                       {.colour = Colour(Ink::Soot), .height = -1, .base = 1});
-            relief.Lay(Rect(x + 6, y - 4.6, 12, 2.4, 1), Furniture(wood, 1, 1));
-            return;
+            return LayThumbhole(relief, plan);
         case Stock::Bullpup:
-            relief.Lay(Polygon({{x, y - 3.6},
-                                {plan.guard + 2, y - 3.2},
-                                {plan.guard + 4, y + 2.6},
-                                {plan.Grip() + 10, y + 4.2},
-                                {plan.body + 2, y + 5},
-                                {x + 3, y + 8.6},
-                                {x, y + 8.6}}),
-                       Furniture(wood));
-            relief.Lay(Rect(x - 0.8, y - 3.4, 2.2, 12, 0.8), Metal(Ink::Iron, 1.8f));
-            return;
+            return LayBullpup(relief, plan);
     }
 }
 
@@ -215,7 +228,7 @@ void LayFront(Relief& relief, const Plan& plan) {
     if (gun.guard > 0) {
         relief.Lay(Rect(plan.guard, y - 2.4, gun.guard, gun.below == Below::Pump ? 3.6 : 6, 1.4),
                    Furniture(gun.furniture));
-        for (double at = plan.guard + 3; at < plan.barrel - 2; at += 3.2)
+        for (const double at : Steps(plan.guard + 3, plan.barrel - 2, 3.2))
             relief.StainLine(Trace({{at, y - 0.6}, {at, y + 2}}), 0.8, Colour(Ink::Soot), 0.55);
     }
     if (quiet)
@@ -226,7 +239,7 @@ void LayFront(Relief& relief, const Plan& plan) {
         relief.Lay(Rect(plan.end - 6.6, y - 2.5, 6.6, 5, 0.8), Metal(gun.metal, 2));
     if (gun.muzzle == Muzzle::Shroud) {
         relief.Lay(Rect(plan.guard, y - 2.4, gun.guard + gun.barrel * 0.7, 4.8, 1.4), Metal(gun.metal, 2));
-        for (double at = plan.guard + 3; at < plan.barrel + gun.barrel * 0.6; at += 4)
+        for (const double at : Steps(plan.guard + 3, plan.barrel + gun.barrel * 0.6, 4))
             relief.Stain(Ellipse(at, y, 1, 1), Colour(Ink::Soot));
     }
     if (!quiet && gun.barrel > 8)
@@ -286,7 +299,7 @@ void LayBelow(Relief& relief, const Plan& plan) {
             return;
         case Below::Launcher:
             relief.Lay(Rect(x - 3, y + 3.4, gun.guard + 8, 5.8, 1.8), Metal(Ink::Slate, 2.4f, 0.6f));
-            for (double at = x + 1; at < x + gun.guard - 4; at += 2.4)
+            for (const double at : Steps(x + 1, x + gun.guard - 4, 2.4))
                 relief.StainLine(Trace({{at, y + 4.2}, {at, y + 8.4}}), 0.8, Colour(Ink::Iron));
             relief.LayLine(Trace({{x - 2, y + 9}, {x - 2.6, y + 12}, {x + 3, y + 12}, {x + 4, y + 9}}), 1,
                            Metal(Ink::Slate));

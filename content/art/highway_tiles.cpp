@@ -65,7 +65,7 @@ void Deck(Relief& relief, bool westEast) {
 void Crossing(Relief& relief, bool westEast) {
     Highway(relief, {westEast, westEast, !westEast, !westEast});
     LoosePatch(relief, Along(westEast, 3, 17, -8, 8), AsphaltGround, 0.4f, 0.15f);
-    for (double at = -6.6; at < 6; at += 3.4) {
+    for (const double at : Steps(-6.6, 6, 3.4)) {
         relief.Stain(Along(westEast, 4, 16, at, at + 1.9), Colour(Ink::Snow), 0.8);
     }
 }

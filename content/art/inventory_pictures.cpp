@@ -37,6 +37,24 @@ QImage Outlined(const QImage& picture) {
     return outlined;
 }
 
+// The part of a pack below its pockets: a flap held by two straps.
+void LayFlap(Relief& relief, int top, int width, int bottom) {
+    if (bottom - top < 12) return;
+    relief.Lay(Rect(4, top, width - 8, bottom - top - 4, 8), {.colour = Colour(Ink::Canvas),
+                                                              .height = 3,
+                                                              .round = 4,
+                                                              .grain = 0.14f,
+                                                              .grainSize = 1.5f,
+                                                              .bump = 0.12f});
+    relief.StainLine(Rect(8, top + 4, width - 16, bottom - top - 12, 6), 1, Colour(Ink::Khaki));
+    for (const double x : {34.0, 100.0}) {
+        relief.Lay(Rect(x, top - 2, 8, bottom - top + 2, 1),
+                   {.colour = Colour(Ink::Timber), .height = 1.4f, .base = 3, .round = 1.2f, .grain = 0.12f});
+        relief.LayLine(Rect(x - 2, top + 8, 12, 9, 1), 2,
+                       {.colour = Colour(Ink::Gold), .height = 1, .base = 4.4f, .round = 0.8f});
+    }
+}
+
 // The open pack behind its pockets: three in a row, 50 pixels from one to the next.
 QImage PackBoard(int pockets) {
     constexpr int BoardWidth = 142;
@@ -45,7 +63,7 @@ QImage PackBoard(int pockets) {
     constexpr int Across = 3;
     Relief relief(BoardWidth, BoardHeight, 2, Fine, 200);
     relief.Lay(Rect(-2, -2, BoardWidth + 4, BoardHeight + 4),
-               {.colour = Colour(Ink::Olive), .grain = 0.12f, .grainSize = 1});
+               {.colour = Colour(Ink::Olive), .grain = 0.2f, .grainSize = 1.5f, .bump = 0.2f});
     const int rows = pockets / Across;
     relief.Lay(Rect(1, 1, BoardWidth - 2, rows * Pitch - 10, 4),
                {.colour = Colour(Ink::Khaki), .height = 2, .round = 2.4f, .grain = 0.12f, .grainSize = 1});
@@ -62,6 +80,7 @@ QImage PackBoard(int pockets) {
     for (int x = Pitch - 4; x < BoardWidth; x += Pitch) {
         relief.StainLine(Trace({{x + 0.0, 2.0}, {x + 0.0, rows * Pitch - 12.0}}), 1.6, Colour(Ink::Bark));
     }
+    LayFlap(relief, rows * Pitch - 4, BoardWidth, BoardHeight);
     return Settle(relief.Render(), 0.02);
 }
 

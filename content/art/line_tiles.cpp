@@ -50,7 +50,7 @@ void Strands(Relief& relief, QPointF outward, double from, double to) {
     constexpr double Sag = 0.9;
     for (const double side : {-2.6, 2.4}) {
         QPainterPath strand;
-        for (double at = from; at <= to; at += 0.5) {
+        for (const double at : Steps(from, to + 0.25, 0.5)) {
             const double sway = side + Sag * std::cos(std::numbers::pi * at / 5);
             const QPointF point = QPointF(10, 10) + outward * at + across * sway;
             if (at == from) {
@@ -62,7 +62,7 @@ void Strands(Relief& relief, QPointF outward, double from, double to) {
         relief.StainLine(strand.translated(1, 1), 0.8, Colour(Ink::Pine), 0.6);
         relief.StainLine(strand, 0.8, Colour(Ink::Chalk));
     }
-    for (double at = from + 1.25; at < to; at += 2.5) {
+    for (const double at : Steps(from + 1.25, to, 2.5)) {
         for (const double side : {-2.6, 2.4}) {
             const double sway = side + Sag * std::cos(std::numbers::pi * at / 5);
             const QPointF barb = QPointF(10, 10) + outward * at + across * sway;
@@ -108,7 +108,7 @@ void Fence(Relief& relief, const Joint& joint) {
                    {.colour = Colour(Ink::Plank), .height = 4, .round = 0.6f, .grain = 0.14f}, Qt::SquareCap,
                    Qt::MiterJoin);
     EachArm(joint, [&](QPointF outward) {
-        for (double at = 2; at < 18; at += 2) {
+        for (const double at : Steps(2, 18, 2)) {
             relief.Stain(AlongArm(outward, at, at + 0.5, -1.3, 1.3), Colour(Ink::Soil), 0.85);
         }
     });

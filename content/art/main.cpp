@@ -49,6 +49,7 @@ void WritePeople(const PictureWriter& writer, const QImage& ground) {
     writer.Write("stored/picSprites.bmp", SpriteSheet());
     for (int team = 0; team < TeamCount; ++team) {
         std::vector<QImage> men;
+        men.reserve(std::size_t{StanceCount} * FacingCount);
         for (int i = 0; i < StanceCount * FacingCount; ++i)
             men.push_back(Soldier(team, i / FacingCount, i % FacingCount));
         writer.Write("sheets/people_" + std::to_string(team) + ".png",

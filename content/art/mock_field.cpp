@@ -159,7 +159,7 @@ void Field(QImage& window, const std::vector<TileClass>& classes, const TileRow&
     const TileRow& various = classes[10].tiles;
     for (int i = 0; i < 8; ++i) {
         Place(window, Left + (2 + i % 4) * CellSize, Top + (20 + i / 4) * CellSize,
-              various[static_cast<std::size_t>(18 + i)]);
+              various[18 + static_cast<std::size_t>(i)]);
     }
     for (const Man& man : Men) {
         Place(window, Left + man.x * CellSize, Top + man.y * CellSize,

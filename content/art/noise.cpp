@@ -1,6 +1,7 @@
 #include "noise.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace art {
 namespace {
@@ -37,7 +38,7 @@ int Floor(float value) {
 }  // namespace
 
 float Noise(float x, float y, float cell, float period, std::uint32_t seed) {
-    const int count = std::max(1, static_cast<int>(period / cell + 0.5f));
+    const int count = std::max(1, static_cast<int>(std::lround(period / cell)));
     const float scale = static_cast<float>(count) / period;
     const int left = Floor(x * scale);
     const int above = Floor(y * scale);

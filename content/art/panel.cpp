@@ -93,6 +93,40 @@ void Vents(Relief& relief) {
     }
 }
 
+// A faint grid and corner marks in the weapon box: a thing lies on a board, not in a hole.
+void RuleWeaponBox(QPainter& painter) {
+    constexpr int Pitch = 13;
+    const QRect box = WeaponBox.adjusted(0, 0, -1, -1);
+    painter.setPen(Colour(Ink::Armour));
+    for (int x = box.left() + Pitch / 2; x <= box.right(); x += Pitch)
+        painter.drawLine(x, box.top(), x, box.bottom());
+    for (int y = box.top() + Pitch / 2 + 1; y <= box.bottom(); y += Pitch)
+        painter.drawLine(box.left(), y, box.right(), y);
+    painter.setPen(Colour(Ink::Edge));
+    constexpr int Arm = 5;
+    for (const int side : {1, -1}) {
+        const int x = side > 0 ? box.left() + 1 : box.right() - 1;
+        for (const int rise : {1, -1}) {
+            const int y = rise > 0 ? box.top() + 1 : box.bottom() - 1;
+            painter.drawLine(x, y, x + side * Arm, y);
+            painter.drawLine(x, y, x, y + rise * Arm);
+        }
+    }
+}
+
+// A rim around the durability column with a notch at each quarter.
+void RimColumn(QPainter& painter) {
+    constexpr int Quarter = 10;
+    const QRect rim = DurabilityColumn.adjusted(0, 0, -1, -1);
+    painter.setPen(Colour(Ink::Steel));
+    painter.drawRect(rim);
+    painter.setPen(Colour(Ink::Sheen));
+    for (int y = rim.top() + 1; y <= rim.bottom(); y += Quarter) {
+        painter.drawPoint(rim.left(), y);
+        painter.drawPoint(rim.right(), y);
+    }
+}
+
 // What the relief can't give exactly: the flat floor behind digits and the lettering.
 void Letter(QImage& picture) {
     QPainter painter(&picture);
@@ -100,6 +134,9 @@ void Letter(QImage& picture) {
     painter.fillRect(DigitWindow.adjusted(1, 1, 0, -1), floor);
     for (const int top : BarTops)
         painter.fillRect(BarLeft, top, BarLength, 3, floor);
+    painter.fillRect(WeaponBox, floor);
+    RuleWeaponBox(painter);
+    RimColumn(painter);
     painter.end();
     for (std::size_t bar = 0; bar < BarCount; ++bar) {
         const int x = BarLeft - 5 - PrintedWidth(Bars[bar].label);

@@ -18,7 +18,7 @@ constexpr std::size_t RoleCount = 9;
 
 // A part of a figure that looks east: a limb from one end to the other, an ellipse where both ends are the
 // same.
-struct Part {
+struct Limb {
     Role role;
     double x, y, toX, toY;
     double width;  // of a limb; of an ellipse its length along the facing
@@ -26,7 +26,7 @@ struct Part {
     float base, height;
 };
 
-constexpr Part Prone[] = {
+constexpr Limb Prone[] = {
     {Role::Trousers, -1.6, -1.1, -7.2, -2.7, 2.3, 0, 0, 1.2f},
     {Role::Trousers, -1.6, 1.1, -7.0, 2.9, 2.3, 0, 0, 1.2f},
     {Role::Boots, -7.0, -2.7, -8.7, -3.3, 2.0, 0, 0, 1.1f},
@@ -42,7 +42,7 @@ constexpr Part Prone[] = {
     {Role::Badge, 2.6, 0, 2.6, 0, 2.0, 1.8, 3, 0.5f},
 };
 
-constexpr Part Crouch[] = {
+constexpr Limb Crouch[] = {
     {Role::Boots, -4.4, 2.0, -3.0, 2.0, 1.9, 0, 0, 1},
     {Role::Trousers, -3.4, 1.9, -0.4, 2.1, 2.6, 0, 0.3f, 1.2f},
     {Role::Trousers, -0.6, -1.9, 2.9, -2.2, 2.9, 0, 0.6f, 1.6f},
@@ -58,7 +58,7 @@ constexpr Part Crouch[] = {
     {Role::Badge, -0.4, 0.1, -0.4, 0.1, 2.2, 2.0, 5, 0.5f},
 };
 
-constexpr Part Stand[] = {
+constexpr Limb Stand[] = {
     {Role::Boots, 0.4, -2.0, 2.8, -2.3, 2.0, 0, 0, 1.2f},
     {Role::Boots, -1.8, 2.2, 0.4, 2.4, 2.0, 0, 0, 1.2f},
     {Role::Pack, -2.3, 0, -2.3, 0, 2.4, 4.4, 2, 1.6f},
@@ -73,7 +73,7 @@ constexpr Part Stand[] = {
     {Role::Badge, -0.5, 0, -0.5, 0, 2.5, 2.2, 6.4f, 0.5f},
 };
 
-constexpr Part Run[] = {
+constexpr Limb Run[] = {
     {Role::Trousers, -1.4, 1.5, -5.6, 2.3, 2.4, 0, 0.6f, 1.4f},
     {Role::Boots, -5.8, 2.3, -8.2, 2.7, 2.1, 0, 0, 1.6f},
     {Role::Trousers, 0.6, -1.6, 5.0, -3.0, 2.5, 0, 0.6f, 1.6f},
@@ -91,7 +91,7 @@ constexpr Part Run[] = {
     {Role::Badge, 2.8, 0, 2.8, 0, 2.3, 2.1, 6, 0.5f},
 };
 
-constexpr Part Dead[] = {
+constexpr Limb Dead[] = {
     {Role::Trousers, -1.4, -1.3, -6.0, -4.2, 2.3, 0, 0, 1},
     {Role::Trousers, -1.4, 1.3, -6.8, 2.0, 2.3, 0, 0, 1},
     {Role::Boots, -6.0, -4.2, -7.4, -5.6, 2.0, 0, 0, 0.9f},
@@ -105,13 +105,13 @@ constexpr Part Dead[] = {
     {Role::Boots, 3.9, 0.4, 3.9, 0.4, 2.6, 2.9, 1.4f, 0.6f},
 };
 
-constexpr std::array<std::span<const Part>, StanceCount> Figures{Prone, Crouch, Stand, Run};
+constexpr std::array<std::span<const Limb>, StanceCount> Figures{Prone, Crouch, Stand, Run};
 
 using Uniform = std::array<Ink, RoleCount>;
 
 constexpr std::array<Uniform, TeamCount> Uniforms{{
-    // tunic         trousers      boots        pack         skin       iron       wood         head badge
-    {Ink::Khaki, Ink::Khaki, Ink::Loam, Ink::Olive, Ink::Skin, Ink::Soot, Ink::Timber, Ink::Canvas,
+    // tunic, trousers, boots, pack, skin, iron, wood, head, badge
+    {Ink::Khaki, Ink::Canvas, Ink::Soil, Ink::Olive, Ink::Skin, Ink::Soot, Ink::Timber, Ink::Stubble,
      Ink::Khaki},
     {Ink::Cellar, Ink::Slate, Ink::Soot, Ink::Asphalt, Ink::Skin, Ink::Soot, Ink::Tan, Ink::Asphalt,
      Ink::Scarlet},
@@ -133,30 +133,30 @@ bool Worn(Role role, int team) {
     return team != Civilians || (role != Role::Iron && role != Role::Wood && role != Role::Pack);
 }
 
-QPainterPath Outline(const Part& part) {
+QPainterPath Outline(const Limb& part) {
     if (part.depth > 0) return Ellipse(part.x, part.y, part.width / 2, part.depth / 2);
     return Widened(Trace({{part.x, part.y}, {part.toX, part.toY}}), part.width, Qt::RoundCap, Qt::RoundJoin);
 }
 
-Part Wider(Part part, double by) {
+Limb Wider(Limb part, double by) {
     part.width += by;
     if (part.depth > 0) part.depth += by;
     return part;
 }
 
 // A dark rim, heavier to the south-east, sets the figure off from any ground.
-void LayRim(Relief& relief, const QTransform& place, std::span<const Part> parts, int team,
+void LayRim(Relief& relief, const QTransform& place, std::span<const Limb> parts, int team,
             const QColor& rim) {
-    for (const Part& part : parts) {
+    for (const Limb& part : parts) {
         if (!Worn(part.role, team)) continue;
         const double by = part.role == Role::Iron ? 0.5 : 1.2;
         relief.Lay(place.map(Outline(Wider(part, by))).translated(0.25, 0.3), {.colour = rim, .grain = 0});
     }
 }
 
-void LayFigure(Relief& relief, const QTransform& place, std::span<const Part> parts, int team) {
+void LayFigure(Relief& relief, const QTransform& place, std::span<const Limb> parts, int team) {
     const Uniform& uniform = Uniforms[static_cast<std::size_t>(team)];
-    for (const Part& part : parts) {
+    for (const Limb& part : parts) {
         if (!Worn(part.role, team)) continue;
         if (part.role == Role::Head)
             relief.Stain(place.map(Outline(Wider(part, 1))).translated(0.3, 0.3), Colour(Ink::Peat), 0.8);
@@ -186,7 +186,7 @@ Relief Blank() {
 QImage Soldier(int team, int stance, int facing) {
     Relief relief = Blank();
     const QTransform place = Facing(Turns[static_cast<std::size_t>(facing)]);
-    const std::span<const Part> parts = Figures[static_cast<std::size_t>(stance)];
+    const std::span<const Limb> parts = Figures[static_cast<std::size_t>(stance)];
     LayRim(relief, place, parts, team, Colour(Ink::Peat));
     LayFigure(relief, place, parts, team);
     return Settle(relief.Render(true), FigureDither);

@@ -78,7 +78,9 @@ void Cobbles(Relief& relief) {
             const QColor colour = Colour(Inks4[dice.Pick(4)]);
             const auto seed = static_cast<std::uint32_t>(dice.Pick(9999));
             for (int wrap = 0; wrap < 9; ++wrap) {
-                relief.Lay(Lump(x + (wrap % 3 - 1) * 20, y + (wrap / 3 - 1) * 20, Step * 0.5, 0.14, seed),
+                const int across = wrap % 3 - 1;
+                const int down = wrap / 3 - 1;
+                relief.Lay(Lump(x + across * 20, y + down * 20, Step * 0.5, 0.14, seed),
                            {.colour = colour, .height = 0.8f, .round = 1.2f, .grain = 0.08f});
             }
         }

@@ -1,5 +1,6 @@
 #include "shapes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -72,6 +73,14 @@ QPainterPath Star(double x, double y, double outer, double inner, int points, do
     }
     path.closeSubpath();
     return path;
+}
+
+std::vector<double> Steps(double from, double to, double step) {
+    const int count = std::max(0, static_cast<int>(std::ceil((to - from) / step)));
+    std::vector<double> places(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        places[static_cast<std::size_t>(i)] = from + i * step;
+    return places;
 }
 
 QPainterPath Widened(const QPainterPath& line, double width, Qt::PenCapStyle cap, Qt::PenJoinStyle join) {

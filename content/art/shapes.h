@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <vector>
 
 #include <QPainterPath>
 #include <QPointF>
@@ -21,6 +22,9 @@ QPainterPath Lump(double x, double y, double radius, double wobble, std::uint32_
 
 // A star with `points` tips between two radii, turned by `turn` radians.
 QPainterPath Star(double x, double y, double outer, double inner, int points, double turn);
+
+// The places from one on in even steps, up or down, that lie before another.
+std::vector<double> Steps(double from, double to, double step);
 
 // The area that a pen of that width covers along the line.
 QPainterPath Widened(const QPainterPath& line, double width, Qt::PenCapStyle cap, Qt::PenJoinStyle join);

@@ -72,7 +72,7 @@ void Gangway(Relief& relief) {
     Planked(relief, true);
     relief.Lay(Rect(3, 0, 14, 20),
                {.colour = Colour(Ink::Clay), .height = 0.9f, .round = 0.4f, .grain = 0.12f});
-    for (double y = 1.4; y < 19; y += 3.2) {
+    for (const double y : Steps(1.4, 19, 3.2)) {
         relief.Lay(Rect(3.6, y, 12.8, 1.1),
                    {.colour = Colour(Ink::Bark), .height = 0.6f, .base = 0.9f, .round = 0.4f});
     }
@@ -84,7 +84,7 @@ void Hatch(Relief& relief) {
                {.colour = Colour(Ink::Bark), .height = 1.1f, .round = 0.6f, .grain = 0.12f});
     relief.Lay(Rect(4.6, 4.6, 10.8, 10.8, 0.5),
                {.colour = Colour(Ink::Iron), .height = -2.4f, .base = 0.5f, .grain = 0.1f});
-    for (double y = 6.2; y < 15; y += 2.4) {
+    for (const double y : Steps(6.2, 15, 2.4)) {
         relief.Lay(Rect(7, y, 6, 0.9),
                    {.colour = Colour(Ink::Timber), .height = 0.5f, .base = -1.6f, .round = 0.3f});
     }
@@ -111,7 +111,7 @@ void Thwart(Relief& relief) {
 
 void Rope(Relief& relief) {
     Planked(relief, true);
-    for (double radius = 6.6; radius > 1.4; radius -= 1.9) {
+    for (const double radius : Steps(6.6, 1.4, -1.9)) {
         relief.LayLine(Ellipse(9.6, 9.6, radius, radius), 1.7,
                        {.colour = Between(Ink::Straw, Ink::Sand, radius / 7),
                         .height = 1.2f + (6.6f - static_cast<float>(radius)) * 0.2f,
@@ -145,7 +145,7 @@ void Engine(Relief& relief) {
                {.colour = Colour(Ink::Slate), .height = 2.2f, .round = 0.8f, .grain = 0.06f});
     relief.Lay(Rect(4, 5.2, 8.6, 8, 0.6),
                {.colour = Colour(Ink::Brick), .height = 1.4f, .base = 2.2f, .round = 0.7f, .grain = 0.06f});
-    for (double x = 5.2; x < 12; x += 2)
+    for (const double x : Steps(5.2, 12, 2))
         relief.Stain(Rect(x, 6, 0.8, 6.4), Colour(Ink::Maroon), 0.9);
     relief.Lay(Ellipse(14.2, 9.2, 2, 3.2),
                {.colour = Colour(Ink::Concrete), .height = 1.2f, .base = 2.2f, .round = 0.8f});
@@ -184,8 +184,8 @@ void Bow(Relief& relief, bool west) {
 void Grating(Relief& relief) {
     Planked(relief, true);
     relief.Lay(Rect(1, 1, 18, 18, 0.5), {.colour = Colour(Ink::Bark), .height = 0.5f, .round = 0.4f});
-    for (double y = 2.4; y < 17; y += 2.6) {
-        for (double x = 2.4; x < 17; x += 2.6)
+    for (const double y : Steps(2.4, 17, 2.6)) {
+        for (const double x : Steps(2.4, 17, 2.6))
             relief.Lay(Rect(x, y, 1.7, 1.7), {.colour = Colour(Ink::Peat), .height = -1.2f});
     }
 }

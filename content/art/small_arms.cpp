@@ -22,7 +22,7 @@ void Blade(Relief& relief, double length, double width, double handle, Ink grip,
     QTransform place;
     place.translate(21, 21).rotate(-45).translate(-(length + handle) / 2, 0);
     relief.Lay(place.map(Rect(0, -2.2, handle, 4.4, 1.8)), Piece(grip, 2));
-    for (double at = 2; at < handle - 1; at += 2.4)
+    for (const double at : Steps(2, handle - 1, 2.4))
         relief.StainLine(place.map(Trace({{at, -1.8}, {at, 1.8}})), 0.7, Colour(Ink::Soot), 0.6);
     const double top = doubleEdged ? -width / 2 : -width * 0.4;
     relief.Lay(place.map(Polygon({{handle, top},
@@ -228,7 +228,7 @@ void Radio(Relief& relief) {
     relief.Lay(Rect(10, 10, 22, 29, 2), Piece(Ink::Olive, 3, 0, 2));
     relief.Lay(Rect(13, 13, 16, 8, 1), Piece(Ink::Iron, -0.6f, 3, 0.6f));
     relief.Stain(Rect(14.4, 14.6, 9, 3), Colour(Ink::Signal));
-    for (double y = 24; y < 35; y += 2.4)
+    for (const double y : Steps(24, 35, 2.4))
         relief.StainLine(Trace({{14, y}, {24, y}}), 1.1, Colour(Ink::Soot), 0.9);
     for (const double y : {26.0, 32.0})
         relief.Lay(Ellipse(28, y, 2, 2), Piece(Ink::Ash, 1.2f, 3));
@@ -245,6 +245,52 @@ void Binocular(Relief& relief) {
     }
     relief.Lay(Rect(14, 14, 14, 6, 1.4), Piece(Ink::Slate, 2.4f));
     relief.Lay(Ellipse(21, 13, 3, 3), Piece(Ink::Ash, 2, 1));
+}
+
+void FieldMap(Relief& relief) {
+    relief.Lay(Polygon({{4, 9}, {14, 6}, {24, 10}, {38, 6}, {38, 34}, {24, 38}, {14, 34}, {4, 37}}),
+               Piece(Ink::Shell, 1.4f));
+    for (const double x : {14.0, 24.0})
+        relief.StainLine(Trace({{x, 8}, {x, 36}}), 1, Colour(Ink::Plank), 0.8);
+    relief.Stain(Lump(10, 16, 4, 0.3, 41), Colour(Ink::Sprout), 0.9);
+    relief.Stain(Lump(31, 28, 5, 0.3, 43), Colour(Ink::Sprout), 0.9);
+    relief.StainLine(Trace({{5, 28}, {12, 25}, {20, 27}, {28, 18}, {37, 16}}), 2, Colour(Ink::Brook));
+    relief.StainLine(Trace({{18, 9}, {20, 20}, {16, 34}}), 1.2, Colour(Ink::Brick));
+    relief.StainLine(Trace({{26, 11}, {31, 16}}), 1.6, Colour(Ink::Crimson));
+    relief.StainLine(Trace({{31, 11}, {26, 16}}), 1.6, Colour(Ink::Crimson));
+}
+
+void Canteen(Relief& relief) {
+    relief.Lay(Rect(17, 4, 9, 9, 2), Piece(Ink::Iron, 2.6f));
+    relief.Lay(Rect(9, 11, 25, 27, 9), Piece(Ink::Olive, 5, 0, 8));
+    relief.Lay(Rect(9.6, 21, 23.8, 16.4, 6), Piece(Ink::Khaki, 1.4f, 4.6f, 3));
+    relief.StainLine(Trace({{10, 21.6}, {33, 21.6}}), 1.4, Colour(Ink::Jacket));
+    relief.LayLine(Trace({{21.5, 12}, {21.5, 29}}), 3, Piece(Ink::Bark, 1, 5.4f));
+    relief.Lay(Ellipse(21.5, 28, 1.8, 1.8), Piece(Ink::Gold, 1, 6));
+}
+
+void Ration(Relief& relief) {
+    relief.Lay(Rect(5, 12, 24, 24, 1.6), Piece(Ink::Clay, 3, 0, 2.4f));
+    relief.Stain(Rect(8, 18, 18, 9), Colour(Ink::Shell), 0.9);
+    for (const double y : {20.6, 23.4})
+        relief.StainLine(Trace({{10, y}, {23, y}}), 1.1, Colour(Ink::Soil));
+    relief.Lay(Rect(25, 18, 13, 17, 2), Piece(Ink::Cement, 3, 2, 3));
+    relief.Lay(Ellipse(31.5, 18.4, 6.5, 2.8), Piece(Ink::Chalk, 1.2f, 5));
+    relief.Stain(Rect(25.4, 22, 12.2, 8), Colour(Ink::Crimson), 0.9);
+    relief.Stain(Ellipse(31.5, 26, 2.4, 2.4), Colour(Ink::Gold));
+}
+
+void Papers(Relief& relief) {
+    for (const auto& [turn, ink] : {std::pair{-14.0, Ink::Chalk}, {4.0, Ink::Snow}}) {
+        QTransform place;
+        place.translate(21, 21).rotate(turn);
+        relief.Lay(place.map(Rect(-12, -15, 24, 31, 0.6)), Piece(ink, 1, turn > 0 ? 1.2f : 0.0f, 0.8f));
+        if (turn < 0) continue;
+        for (const double y : Steps(-10, 11, 3))
+            relief.StainLine(place.map(Trace({{-9, y}, {y > 6 ? 2.0 : 9.0, y}})), 1, Colour(Ink::Cement));
+        relief.Stain(place.map(Ellipse(6.4, 10.4, 3.6, 3.6)), Colour(Ink::Crimson), 0.9);
+        relief.StainLine(place.map(Trace({{-11, -15}, {-6, -15}, {-6, -10}})), 1.2, Colour(Ink::Ash));
+    }
 }
 
 }  // namespace
@@ -285,7 +331,7 @@ void LayPistol(Relief& relief, const Pistol& pistol, int capacity) {
                         {grip + 9.4 - pistol.rake, gripTop + pistol.grip},
                         {grip - 0.6 - pistol.rake, gripTop + pistol.grip}}),
                Piece(pistol.plates, 2.2f, 0, 2.6f));
-    for (double y = gripTop + 3; y < gripTop + pistol.grip - 2; y += 2)
+    for (const double y : Steps(gripTop + 3, gripTop + pistol.grip - 2, 2))
         relief.StainLine(Trace({{grip + 1 - pistol.rake * 0.6, y}, {grip + 7 - pistol.rake * 0.6, y}}), 0.7,
                          Colour(Ink::Soot), 0.5);
     QPainterPath bow(QPointF(grip + 9, gripTop - 1));
@@ -335,6 +381,10 @@ const std::vector<SimpleThing>& SimpleThings() {
         {"pack", false, Pack},
         {"radio", false, Radio},
         {"binocular", false, Binocular},
+        {"map", false, FieldMap},
+        {"canteen", false, Canteen},
+        {"ration", false, Ration},
+        {"papers", false, Papers},
     };
     return table;
 }

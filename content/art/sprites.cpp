@@ -45,7 +45,7 @@ QImage Pile() {
     relief.Lay(Rect(2.7, 4, 10.6, 8.2, 0.4),
                {.colour = Colour(Ink::Plank), .height = 2, .round = 0.6f, .grain = 0.12f});
     relief.Lay(Rect(4, 5.3, 8, 5.6, 0.2), {.colour = Colour(Ink::Soil), .height = -1.4f, .base = 2});
-    for (double x = 4.6; x < 11; x += 1.8)
+    for (const double x : Steps(4.6, 11, 1.8))
         relief.Lay(Rect(x, 5.8, 1.2, 4.6, 0.5),
                    {.colour = Colour(Ink::Gold), .height = 0.8f, .base = 0.6f, .round = 0.5f});
     relief.Lay(Lump(14, 6.4, 2.9, 0.15, 981), {.colour = Colour(Ink::Peat), .grain = 0});

@@ -78,8 +78,9 @@ void LooseWall(Relief& relief, bool westEast) {
     Dice dice(571);
     constexpr Ink Inks3[] = {Ink::Limestone, Ink::Fieldstone, Ink::Concrete};
     for (int i = 0; i < 18; ++i) {
+        const int place = i / 3;
         const auto along =
-            static_cast<double>(static_cast<float>(i / 3) * 3.4f + 1.4f + dice.Roll(-0.5f, 0.5f));
+            static_cast<double>(static_cast<float>(place) * 3.4f + 1.4f + dice.Roll(-0.5f, 0.5f));
         const auto off = static_cast<double>(static_cast<float>(i % 3 - 1) * 2.5f + dice.Roll(-0.4f, 0.4f));
         const auto radius = static_cast<double>(dice.Roll(1.1f, 1.75f));
         const double x = westEast ? along : 10 + off;

@@ -19,7 +19,7 @@ void Rug(Relief& relief) {
     relief.StainLine(Rect(3, 4.2, 13.8, 11.4), 0.9, Colour(Ink::Straw), 0.9);
     relief.Stain(Polygon({{9.9, 5.6}, {14.4, 9.9}, {9.9, 14.2}, {5.4, 9.9}}), Colour(Ink::Navy), 0.9);
     relief.Stain(Polygon({{9.9, 7.8}, {12.1, 9.9}, {9.9, 12}, {7.7, 9.9}}), Colour(Ink::Straw), 0.95);
-    for (double y = 3.2; y < 17; y += 1.5) {
+    for (const double y : Steps(3.2, 17, 1.5)) {
         relief.StainLine(Trace({{0.5, y}, {1.6, y}}), 0.6, Colour(Ink::Straw));
         relief.StainLine(Trace({{18.2, y}, {19.3, y}}), 0.6, Colour(Ink::Straw));
     }
@@ -134,7 +134,7 @@ void Bones(Relief& relief) {
     relief.LayLine(Trace({{4.4, 13.6}, {12.4, 16}}), 1.3, bone);
     for (const auto& [x, y] : {std::pair{4.0, 13.0}, {4.2, 14.4}, {12.8, 15.4}, {12.6, 16.8}})
         relief.Lay(Ellipse(x, y, 1, 1), bone);
-    for (double x = 9; x < 17; x += 2) {
+    for (const double x : Steps(9, 17, 2)) {
         QPainterPath rib(QPointF(x, 10.6));
         rib.quadTo(x + 2, 8.4, x + 0.6, 5.4);
         relief.LayLine(rib, 0.9, bone);
@@ -177,7 +177,7 @@ void FlatCrates(Relief& relief) {
     for (const auto& [x, y, width, depth] : {std::array{2.0, 3.0, 9.0, 6.4}, {9.4, 9.8, 8.4, 6}}) {
         relief.Lay(Rect(x, y, width, depth, 0.3),
                    {.colour = Colour(Ink::Canvas), .height = 1.4f, .round = 0.6f, .grain = 0.1f});
-        for (double at = y + 1.8; at < y + depth - 0.5; at += 2)
+        for (const double at : Steps(y + 1.8, y + depth - 0.5, 2))
             relief.StainLine(Trace({{x + 0.4, at}, {x + width - 0.4, at}}), 0.45, Colour(Ink::Olive), 0.9);
         relief.Stain(Rect(x + 1.6, y + 0.2, 1, depth - 0.4), Colour(Ink::Olive), 0.7);
         relief.Stain(Rect(x + width - 2.6, y + 0.2, 1, depth - 0.4), Colour(Ink::Olive), 0.7);
@@ -209,7 +209,7 @@ void Stump(Relief& relief) {
                {.colour = Colour(Ink::Bark), .height = 1, .round = 2, .grain = 0.25f});
     relief.Lay(Lump(9.4, 9.4, 4.8, 0.08, 971),
                {.colour = Colour(Ink::Clay), .height = 2, .round = 0.5f, .grain = 0.08f});
-    for (double radius = 3.9; radius > 0.6; radius -= 1.1)
+    for (const double radius : Steps(3.9, 0.6, -1.1))
         relief.StainLine(Ellipse(9.2, 9.2, radius, radius), 0.4, Colour(Ink::Timber), 0.9);
     relief.StainLine(Trace({{9.2, 9.2}, {12.8, 11.6}}), 0.5, Colour(Ink::Bark));
 }
@@ -221,7 +221,7 @@ void Papers(Relief& relief) {
         place.translate(x, y).rotate(turn);
         relief.Lay(place.map(Rect(-2, -2.6, 4, 5.2, 0.2)),
                    {.colour = Colour(Ink::Snow), .height = 0.4f, .round = 0.2f, .grain = 0});
-        for (double line = -1.8; line < 2; line += 1)
+        for (const double line : Steps(-1.8, 2, 1))
             relief.StainLine(place.map(Trace({{-1.4, line}, {1.2, line}})), 0.4, Colour(Ink::Cement), 0.9);
     }
 }

@@ -22,7 +22,7 @@ void Wheels(Relief& relief) {
         for (const double y : {3.4, 30.4}) {
             relief.Lay(Rect(x, y, 10.5, 5, 1.6),
                        {.colour = Colour(Ink::Asphalt), .height = 2.4f, .round = 1.4f, .grain = 0.1f});
-            for (double tread = x + 1; tread < x + 10; tread += 1.8) {
+            for (const double tread : Steps(x + 1, x + 10, 1.8)) {
                 relief.StainLine(Trace({{tread, y + 0.4}, {tread + 0.6, y + 4.6}}), 0.6, Colour(Ink::Soot),
                                  0.8);
             }
@@ -73,7 +73,7 @@ void Hatches(Relief& relief) {
     }
     relief.Lay(Ellipse(56, 14.8, 2.9, 2.9), Armour(Ink::Canvas, 0.9f, 7.4f));
     relief.StainLine(Ellipse(56, 14.8, 1.9, 1.9), 0.5, Colour(Ink::Jacket), 0.8);
-    for (double y = 21.4; y < 27; y += 1.5)
+    for (const double y : Steps(21.4, 27, 1.5))
         relief.Stain(Rect(51.4, y, 8.4, 0.8), Colour(Ink::Jacket), 0.95);
 }
 
@@ -103,7 +103,7 @@ void Fittings(Relief& relief) {
 
 }  // namespace
 
-std::array<QImage, VehicleColumns * VehicleRows> VehicleCells() {
+std::array<QImage, VehicleCellCount> VehicleCells() {
     Relief relief(VehicleColumns * CellSize, VehicleRows * CellSize);
     GrassGround(relief);
     relief.Stain(Rect(4, 4, 72, 32, 8), Colour(Ink::Moss), 0.5);
@@ -114,10 +114,15 @@ std::array<QImage, VehicleColumns * VehicleRows> VehicleCells() {
     Turret(relief);
     Fittings(relief);
     const QImage whole = Settle(relief.Render());
-    std::array<QImage, VehicleColumns * VehicleRows> cells;
-    for (int i = 0; i < VehicleColumns * VehicleRows; ++i) {
-        cells[static_cast<std::size_t>(i)] =
-            whole.copy(i % VehicleColumns * CellSize, i / VehicleColumns * CellSize, CellSize, CellSize);
+    std::array<QImage, VehicleCellCount> cells;
+    int x = 0;
+    int y = 0;
+    for (QImage& cell : cells) {
+        cell = whole.copy(x, y, CellSize, CellSize);
+        x += CellSize;
+        if (x < whole.width()) continue;
+        x = 0;
+        y += CellSize;
     }
     return cells;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 #include <QImage>
 
@@ -9,8 +10,9 @@ namespace art {
 
 constexpr int VehicleColumns = 4;
 constexpr int VehicleRows = 2;
+constexpr std::size_t VehicleCellCount = 8;
 
 // Its cells: the upper row west to east, then the lower one.
-std::array<QImage, VehicleColumns * VehicleRows> VehicleCells();
+std::array<QImage, VehicleCellCount> VehicleCells();
 
 }  // namespace art

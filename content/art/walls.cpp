@@ -29,7 +29,7 @@ void Shards(Relief& relief, bool westEast, double reach) {
 void Pane(Relief& relief, bool westEast) {
     relief.Lay(Along(westEast, WindowStub, Side - WindowStub, -1.5, 1.5),
                {.colour = Colour(Ink::Shallow), .height = 3.2f, .round = 0.4f, .grain = 0});
-    for (double at = WindowStub; at < Side - WindowStub; at += 3.3) {
+    for (const double at : Steps(WindowStub, Side - WindowStub, 3.3)) {
         relief.Stain(Along(westEast, at + 0.6, at + 1.5, -1.4, 1.4), Colour(Ink::Snow), 0.85);
     }
 }

@@ -46,14 +46,14 @@ void Splintered(Relief& relief) {
         double x, y, length, turn;
         Ink ink;
     };
-    constexpr Plank Planks[] = {{7, 6, 9, 28, Ink::Timber},    {13, 8, 8, -36, Ink::Bark},
-                                {8, 13, 10, -12, Ink::Plank},  {13.5, 14, 7, 52, Ink::Timber},
-                                {5, 10, 6, 78, Ink::Plank},    {11, 10.4, 6, 8, Ink::Timber},
-                                {15.6, 5, 3.5, 12, Ink::Bark}, {4, 15.6, 3.6, 40, Ink::Bark}};
+    constexpr Plank Planks[] = {{7, 6, 9, 28, Ink::Clay},       {13, 8, 8, -36, Ink::Plank},
+                                {8, 13, 10, -12, Ink::Sand},    {13.5, 14, 7, 52, Ink::Clay},
+                                {5, 10, 6, 78, Ink::Sand},      {11, 10.4, 6, 8, Ink::Clay},
+                                {15.6, 5, 3.5, 12, Ink::Plank}, {4, 15.6, 3.6, 40, Ink::Plank}};
     float height = 0.7f;
     for (const Plank& plank : Planks) {
-        Board(relief, plank.x, plank.y, plank.length, 1.7, plank.turn, plank.ink, height);
-        height += 0.12f;
+        Board(relief, plank.x, plank.y, plank.length, 1.9, plank.turn, plank.ink, height);
+        height += 0.3f;
     }
 }
 

@@ -1,4 +1,5 @@
-// Missing, truncated and garbled versions of every data file: each gives one message that names the file and the place.
+// Missing, truncated and garbled versions of every data file: each gives one message that names the file and
+// the place.
 #include <random>
 
 #include "data/campaign_files.h"
@@ -13,8 +14,12 @@ struct DataFile {
     void (*read)();  // what opens it
 };
 
-void StartMission() { Main(1); }
-void OpenDossier() { FacingText(7); }
+void StartMission() {
+    Main(1);
+}
+void OpenDossier() {
+    FacingText(7);
+}
 
 constexpr DataFile Files[] = {
     {"dat/weapons.dat", StartMission}, {"dat/countries.dat", StartMission}, {"dat/save.dat", StartMission},
@@ -48,7 +53,8 @@ TEST_P(BrokenFiles, ATruncatedOneIsNamedWithItsPlace) {
     ExpectPlace(Message(whole.substr(0, 10)), "ten bytes");
     const bool text = whole.ends_with('\n');
     const std::size_t lastLine = whole.rfind('\n', whole.size() - 2) + 1;
-    ExpectPlace(Message(whole.substr(0, text ? lastLine + 5 : whole.size() - 5)), "within its last line or record");
+    ExpectPlace(Message(whole.substr(0, text ? lastLine + 5 : whole.size() - 5)),
+                "within its last line or record");
 }
 
 TEST_P(BrokenFiles, AGarbledOneIsNamedWithItsPlace) {

@@ -1,4 +1,5 @@
-// The campaign's binary files: field by field against bytes laid out by hand, round trips of the built content.
+// The campaign's binary files: field by field against bytes laid out by hand, round trips of the built
+// content.
 #include "data/campaign_files.h"
 
 #include "data/campaign_layout.h"
@@ -13,7 +14,9 @@ class CampaignFilesTest : public GameTest {
   protected:
     CampaignFilesTest() { InitTables(); }
 
-    static void Place(std::string& bytes, std::size_t at, const std::string& what) { bytes.replace(at, what.size(), what); }
+    static void Place(std::string& bytes, std::size_t at, const std::string& what) {
+        bytes.replace(at, what.size(), what);
+    }
 };
 
 TEST_F(CampaignFilesTest, ASoldiersFieldsLieWhereTheFormatSays) {
@@ -22,12 +25,19 @@ TEST_F(CampaignFilesTest, ASoldiersFieldsLieWhereTheFormatSays) {
     const std::size_t second = 882 * 2;
     Place(file, second, std::string("\x34\x12\x07", 3));
     Place(file, second + 3, "Zo\xEB Brandt                     ");
-    Place(file, second + 33, "FR" "f " "b\x0Cj");
+    Place(file, second + 33,
+          "FR"
+          "f "
+          "b\x0Cj");
     for (int i = 0; i < 14; ++i)
         file[second + 40 + static_cast<std::size_t>(i)] = static_cast<char>(100 + i);
     Place(file, second + 54, std::string("\x05\x06\x07\x03\xFF\xFF\x50\x00\x2C\x01\x01\x00", 12));
     const std::size_t slot21 = second + 66 + 21 * 37;
-    Place(file, slot21, std::string("7ak       \x00\x09\x00" "7ak       \x1F\x1D" "          \x00\x00", 37));
+    Place(file, slot21,
+          std::string("7ak       \x00\x09\x00"
+                      "7ak       \x1F\x1D"
+                      "          \x00\x00",
+                      37));
     folder.Write("dat/save.dat", file);
     LoadRoster();
     EXPECT_EQ(teamLast[RosterTeam], 1);
@@ -41,9 +51,9 @@ TEST_F(CampaignFilesTest, ASoldiersFieldsLieWhereTheFormatSays) {
     EXPECT_EQ(soldier.faceNo, 12);
     EXPECT_EQ(soldier.faceType, "j");
     const u8 Unit::*const attributes[] = {
-        &Unit::vitality, &Unit::strength, &Unit::agility, &Unit::perception, &Unit::intelligence,
-        &Unit::mood, &Unit::marksmanship, &Unit::stealth, &Unit::melee, &Unit::sidearms,
-        &Unit::smgs, &Unit::rifles, &Unit::machineguns, &Unit::explosives};
+        &Unit::vitality, &Unit::strength,     &Unit::agility,     &Unit::perception, &Unit::intelligence,
+        &Unit::mood,     &Unit::marksmanship, &Unit::stealth,     &Unit::melee,      &Unit::sidearms,
+        &Unit::smgs,     &Unit::rifles,       &Unit::machineguns, &Unit::explosives};
     int expected = 100;
     for (const auto attribute : attributes)
         EXPECT_EQ(soldier.*attribute, expected++);
@@ -72,7 +82,8 @@ TEST_F(CampaignFilesTest, EveryFieldOfTheBuiltRosterSurvivesWritingAndReading) {
         Record record(RosterLength, "roster");
         WriteFields(record, 0, UnitTable[60 + i]);
         for (int slot = 0; slot < RosterItems; ++slot)
-            WriteFields(record, RosterItemsAt + static_cast<std::size_t>(slot) * ItemLength, UnitTable[60 + i].items[slot]);
+            WriteFields(record, RosterItemsAt + static_cast<std::size_t>(slot) * ItemLength,
+                        UnitTable[60 + i].items[slot]);
         written.append(record.Bytes().begin(), record.Bytes().end());
     }
     folder.Write("dat/save.dat", written);
@@ -148,7 +159,8 @@ TEST_F(CampaignFilesTest, GroundThingsLieOnTheirCellsUnderOneMarkerEach) {
     file[1112] = 76;
     folder.Write("map/tg.map", file);
     EXPECT_EQ(ErrorOf([] { LoadGroundItems("t"); }),
-              "Run-time error 2: Subscript out of range: map/tg.map: record 2, byte 0: expected a cell of the field, "
+              "Run-time error 2: Subscript out of range: map/tg.map: record 2, byte 0: expected a cell of "
+              "the field, "
               "found 76, 45");
 }
 
@@ -170,7 +182,8 @@ TEST_F(CampaignFilesTest, EachFacingHasItsText) {
     folder.Write("dat/ori.dat", "0,1,2,zero,4\r\n1,1,1,one,1\r\n2\r\n2\r\n2\r\ntwo\r\n2\r\n");
     EXPECT_EQ(FacingText(0), "zero");
     EXPECT_EQ(FacingText(2), "two");
-    EXPECT_NE(ErrorOf([] { FacingText(3); }).find("dat/ori.dat:8:1: expected five values"), std::string::npos);
+    EXPECT_NE(ErrorOf([] { FacingText(3); }).find("dat/ori.dat:8:1: expected five values"),
+              std::string::npos);
 }
 
 }  // namespace

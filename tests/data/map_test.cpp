@@ -42,24 +42,24 @@ TEST_F(MapTest, ATileGivesACellItsStrengthAndWhatItStops) {
     };
     // The ends of each range of the rules, and the tiles on both sides of it.
     constexpr Case Cases[] = {
-        {0, Surface, 200, 0},    {31, Surface, 200, 0},   {0, Water, 0, 1},        {1, Water, 0, 0},
-        {12, Water, 0, 0},       {13, Water, 0, 1},       {14, Water, 0, 0},       {0, Trees, 0, 2},
-        {1, Trees, 0, 0},        {12, Trees, 0, 0},       {13, Trees, 0, 2},       {16, Trees, 0, 2},
-        {17, Trees, 0, 0},       {18, Trees, 0, 0},       {19, Trees, 0, 2},       {21, Trees, 0, 2},
-        {22, Trees, 0, 0},       {0, Wooden, 80, 3},      {10, Wooden, 80, 3},     {11, Wooden, 5, 1},
-        {12, Wooden, 5, 1},      {13, Wooden, 0, 0},      {15, Wooden, 0, 0},      {16, Wooden, 10, 1},
-        {19, Wooden, 10, 1},     {20, Wooden, 0, 0},      {23, Wooden, 0, 0},      {10, Concrete, 220, 3},
-        {11, Concrete, 100, 1},  {12, Concrete, 100, 1},  {13, Concrete, 140, 0},  {15, Concrete, 140, 0},
-        {16, Concrete, 220, 1},  {17, Concrete, 220, 1},  {18, Concrete, 220, 3},  {19, Concrete, 220, 3},
-        {20, Concrete, 140, 0},  {23, Concrete, 140, 0},  {24, Concrete, 0, 0},    {12, Stone, 220, 3},
-        {13, Stone, 100, 3},     {14, Stone, 100, 3},     {15, Stone, 100, 0},     {16, Stone, 100, 0},
-        {17, Stone, 220, 3},     {18, Stone, 220, 3},     {19, Stone, 220, 0},     {15, Roads, 0, 0},
-        {16, Roads, 100, 0},     {17, Roads, 0, 0},       {19, Roads, 100, 0},     {0, Trenches, 0, 0},
-        {16, Trenches, 0, 0},    {0, Prickles, 40, 1},    {14, Prickles, 40, 1},   {15, Prickles, 0, 0},
-        {10, Ships, 80, 3},      {11, Ships, 5, 1},       {13, Ships, 0, 0},       {16, Ships, 10, 1},
-        {19, Ships, 10, 1},      {20, Ships, 0, 0},       {6, Various, 0, 0},      {17, Various, 0, 0},
-        {18, Various, 140, 3},   {25, Various, 140, 3},   {26, Various, 0, 0},     {10, Highways, 100, 0},
-        {11, Highways, 0, 0},    {10, Fence, 30, 3},      {11, Fence, 0, 0},       {0, 13, 0, 0},
+        {0, Surface, 200, 0},   {31, Surface, 200, 0},  {0, Water, 0, 1},       {1, Water, 0, 0},
+        {12, Water, 0, 0},      {13, Water, 0, 1},      {14, Water, 0, 0},      {0, Trees, 0, 2},
+        {1, Trees, 0, 0},       {12, Trees, 0, 0},      {13, Trees, 0, 2},      {16, Trees, 0, 2},
+        {17, Trees, 0, 0},      {18, Trees, 0, 0},      {19, Trees, 0, 2},      {21, Trees, 0, 2},
+        {22, Trees, 0, 0},      {0, Wooden, 80, 3},     {10, Wooden, 80, 3},    {11, Wooden, 5, 1},
+        {12, Wooden, 5, 1},     {13, Wooden, 0, 0},     {15, Wooden, 0, 0},     {16, Wooden, 10, 1},
+        {19, Wooden, 10, 1},    {20, Wooden, 0, 0},     {23, Wooden, 0, 0},     {10, Concrete, 220, 3},
+        {11, Concrete, 100, 1}, {12, Concrete, 100, 1}, {13, Concrete, 140, 0}, {15, Concrete, 140, 0},
+        {16, Concrete, 220, 1}, {17, Concrete, 220, 1}, {18, Concrete, 220, 3}, {19, Concrete, 220, 3},
+        {20, Concrete, 140, 0}, {23, Concrete, 140, 0}, {24, Concrete, 0, 0},   {12, Stone, 220, 3},
+        {13, Stone, 100, 3},    {14, Stone, 100, 3},    {15, Stone, 100, 0},    {16, Stone, 100, 0},
+        {17, Stone, 220, 3},    {18, Stone, 220, 3},    {19, Stone, 220, 0},    {15, Roads, 0, 0},
+        {16, Roads, 100, 0},    {17, Roads, 0, 0},      {19, Roads, 100, 0},    {0, Trenches, 0, 0},
+        {16, Trenches, 0, 0},   {0, Prickles, 40, 1},   {14, Prickles, 40, 1},  {15, Prickles, 0, 0},
+        {10, Ships, 80, 3},     {11, Ships, 5, 1},      {13, Ships, 0, 0},      {16, Ships, 10, 1},
+        {19, Ships, 10, 1},     {20, Ships, 0, 0},      {6, Various, 0, 0},     {17, Various, 0, 0},
+        {18, Various, 140, 3},  {25, Various, 140, 3},  {26, Various, 0, 0},    {10, Highways, 100, 0},
+        {11, Highways, 0, 0},   {10, Fence, 30, 3},     {11, Fence, 0, 0},      {0, 13, 0, 0},
     };
     int x = 0;
     for (const Case& c : Cases)
@@ -114,14 +114,17 @@ TEST_F(MapTest, ABrokenLayerIsNamedWithItsPlace) {
     const std::string whole = rows;
     rows.erase(78 * 4 + 10, 3);
     EXPECT_EQ(Load(),
-              "Run-time error 4: Bad data: map/t2.map:5:74: expected a line of 76 cells, found the end of the line");
+              "Run-time error 4: Bad data: map/t2.map:5:74: expected a line of 76 cells, found the end of "
+              "the line");
     rows = whole;
     rows.insert(78 * 4 + 10, "x");
-    EXPECT_EQ(Load(), "Run-time error 4: Bad data: map/t2.map:5:77: expected the end of the line after 76 cells");
+    EXPECT_EQ(Load(),
+              "Run-time error 4: Bad data: map/t2.map:5:77: expected the end of the line after 76 cells");
     rows = whole;
     third.resize(78 * 45 + 75);
     EXPECT_EQ(Load(),
-              "Run-time error 4: Bad data: map/t3.map:46:76: expected a line of 76 cells, found the end of the file");
+              "Run-time error 4: Bad data: map/t3.map:46:76: expected a line of 76 cells, found the end of "
+              "the file");
 }
 
 TEST_F(MapTest, TheFieldIsPaintedWholeAndTheMiniMapWithIt) {

@@ -12,7 +12,8 @@ class TablesTest : public GameTest {
   protected:
     void WriteWeapons(const std::string& rows) { folder.Write("dat/weapons.dat", rows); }
 
-    static constexpr const char* Hand = "-\tw\thand\tpunch\t9\t100\t8\t1\t1000\t_\t0000010\tknife\t_\t_\t_\t_\t_\t_\tHands\t_\n";
+    static constexpr const char* Hand =
+        "-\tw\thand\tpunch\t9\t100\t8\t1\t1000\t_\t0000010\tknife\t_\t_\t_\t_\t_\t_\tHands\t_\n";
 };
 
 TEST_F(TablesTest, TheBuiltInRowsStandAtTheirPlaces) {
@@ -37,8 +38,9 @@ TEST_F(TablesTest, TheBuiltInRowsStandAtTheirPlaces) {
 }
 
 TEST_F(TablesTest, AWeaponRowFillsItsColumns) {
-    WriteWeapons("# a comment\n\n" + std::string(Hand) +
-                 "\tm\tak\t\t\tak47\t30\t60\t12\t40\t500\t7\t1002100\t7ak\t40gren\t1\t2\t1\t3\tRU\tAK_m\tRifle\n");
+    WriteWeapons(
+        "# a comment\n\n" + std::string(Hand) +
+        "\tm\tak\t\t\tak47\t30\t60\t12\t40\t500\t7\t1002100\t7ak\t40gren\t1\t2\t1\t3\tRU\tAK_m\tRifle\n");
     ReadWeapons();
     ASSERT_EQ(weaponTable.size(), 2U);
     const WeaponInfo& ak = WeaponInfoByName("ak");
@@ -69,7 +71,8 @@ TEST_F(TablesTest, AWeaponRowFillsItsColumns) {
 }
 
 TEST_F(TablesTest, AThingThatIsNoWeaponKeepsItsFightingFieldsEmpty) {
-    WriteWeapons(std::string(Hand) + "\ti\thelmet\tnoise\t9\tx\t9\t9\t9\t9\tx\thelmet\t_\t_\t_\t_\t_\t_\tHelmet\t_\n");
+    WriteWeapons(std::string(Hand) +
+                 "\ti\thelmet\tnoise\t9\tx\t9\t9\t9\t9\tx\thelmet\t_\t_\t_\t_\t_\t_\tHelmet\t_\n");
     ReadWeapons();
     EXPECT_EQ(weaponTable[1].sound, "");
     EXPECT_EQ(weaponTable[1].power, 0);

@@ -45,8 +45,9 @@ TEST_F(FilesTest, RecordsAreCountedFromOneAndEmptyBeyondTheEnd) {
     EXPECT_EQ(reader.Read(4).ReadText(0, 6), "");
     EXPECT_EQ(ErrorOf([&] { reader.Read(3); }),
               "Run-time error 4: Bad data: dat/t.dat: record 3: expected 6 bytes, found 1");
-    EXPECT_EQ(ErrorOf([&] { reader.ReadCounted(4, "a soldier"); }),
-              "Run-time error 4: Bad data: dat/t.dat: record 4: expected a soldier, found the end of the file");
+    EXPECT_EQ(
+        ErrorOf([&] { reader.ReadCounted(4, "a soldier"); }),
+        "Run-time error 4: Bad data: dat/t.dat: record 4: expected a soldier, found the end of the file");
 }
 
 TEST_F(FilesTest, RecordTextsAreEightBitAndRefuseControlCharacters) {
@@ -79,7 +80,8 @@ TEST_F(FilesTest, AFileThatCanNotBeReplacedStaysAsItWas) {
     EXPECT_NE(ErrorOf([] { ReplaceFile("\\dat\\folder", "new"); }), "");
     EXPECT_TRUE(std::filesystem::is_directory(folder.Path() / "dat/folder/inside"));
     EXPECT_FALSE(FileExists("\\dat\\folder.new")) << "what was written aside is taken away";
-    EXPECT_NE(ErrorOf([] { ReplaceFile("\\nowhere\\t.dat", "new"); }).find("nowhere/t.dat"), std::string::npos);
+    EXPECT_NE(ErrorOf([] { ReplaceFile("\\nowhere\\t.dat", "new"); }).find("nowhere/t.dat"),
+              std::string::npos);
 }
 
 TEST(InputEvents, TextAndBackGiveTheSameEvent) {

@@ -16,8 +16,8 @@ TEST(Rounding, TiesGoToTheEvenNeighbour) {
         double value;
         double rounded;
     };
-    constexpr Case Cases[] = {{0.5, 0},   {1.5, 2},    {2.5, 2},    {392.5, 392}, {-0.5, 0},
-                              {-1.5, -2}, {-2.5, -2},  {2.4999, 2}, {2.5001, 3},  {-3.2, -3}};
+    constexpr Case Cases[] = {{0.5, 0},   {1.5, 2},   {2.5, 2},    {392.5, 392}, {-0.5, 0},
+                              {-1.5, -2}, {-2.5, -2}, {2.4999, 2}, {2.5001, 3},  {-3.2, -3}};
     for (const Case& c : Cases)
         EXPECT_EQ(RoundHalfEven(c.value), c.rounded) << c.value;
 }
@@ -60,11 +60,12 @@ TEST(BoundedArrays, AnIndexOutsideTheDeclaredBoundsIsAnError) {
     EXPECT_EQ(spots[-20] + spots[40], 3);
     EXPECT_THROW(spots[-21], RunTimeError);
     EXPECT_THROW(spots[41], RunTimeError);
-    EXPECT_EQ(RunTimeError(Fault::Subscript, "x").what(), std::string("Run-time error 2: Subscript out of range: x"));
+    EXPECT_EQ(RunTimeError(Fault::Subscript, "x").what(),
+              std::string("Run-time error 2: Subscript out of range: x"));
 }
 
-// The generator is the standard's mt19937, whose 10,000th value from the seed 5489 the standard itself states:
-// 4123659995. Its upper 24 bits are the float.
+// The generator is the standard's mt19937, whose 10,000th value from the seed 5489 the standard itself
+// states: 4123659995. Its upper 24 bits are the float.
 TEST(RandomSource, DrawsTheStandardEnginesUpper24Bits) {
     SeedRandom(5489);
     EXPECT_EQ(NextRandom(), static_cast<float>(3499211612U >> 8) / 16777216.0F);

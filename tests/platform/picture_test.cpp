@@ -99,12 +99,12 @@ std::string TinyBitmap() {
         for (int shift = 0; shift < 32; shift += 8)
             file.push_back(static_cast<char>(value >> shift & 0xFF));
     };
-    put32(62);          // file size
+    put32(62);  // file size
     put32(0);
-    put32(54);          // offset of the pixels
-    put32(40);          // header size
-    put32(2);           // width
-    put32(1);           // height
+    put32(54);            // offset of the pixels
+    put32(40);            // header size
+    put32(2);             // width
+    put32(1);             // height
     put32(24 << 16 | 1);  // one plane, 24 bits
     for (int i = 0; i < 6; ++i)
         put32(0);
@@ -137,7 +137,8 @@ TEST(PictureFiles, WhatIsNoPictureIsNamed) {
         DecodePicture("MZ, no picture", "\\pic\\x.gif");
         FAIL();
     } catch (const RunTimeError& error) {
-        EXPECT_EQ(std::string(error.what()).find("Run-time error 4: Bad data: pic/x.gif: expected a picture"), 0U);
+        EXPECT_EQ(std::string(error.what()).find("Run-time error 4: Bad data: pic/x.gif: expected a picture"),
+                  0U);
     }
 }
 

@@ -35,7 +35,8 @@ TEST_F(SetupTest, TheSquadLandsColumnByColumnFromTheTopLeftCorner) {
         EXPECT_EQ(cellGrid[unit.cellY][unit.cellX].occupant, i);
         EXPECT_EQ(unit.pixelX, unit.cellX * 20);
         EXPECT_EQ(unit.pixelY, unit.cellY * 20);
-        EXPECT_EQ(unit.hand.name == "hand", i > 0) << "a weapon is taken up when its soldier is first selected";
+        EXPECT_EQ(unit.hand.name == "hand", i > 0)
+            << "a weapon is taken up when its soldier is first selected";
         EXPECT_EQ(unit.enemyTeam, EnemyTeam);
         const int order = unit.cellX * FieldHeight + unit.cellY;
         EXPECT_GT(order, earlier) << "unit " << i;

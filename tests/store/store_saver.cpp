@@ -1,5 +1,5 @@
-// Saves the vehicle store over and over, with one of two contents by turns, until it is killed; or checks that the
-// store in a folder is wholly one of the two. The script beside it does the killing.
+// Saves the vehicle store over and over, with one of two contents by turns, until it is killed; or checks
+// that the store in a folder is wholly one of the two. The script beside it does the killing.
 #include <cstdio>
 #include <cstring>
 #include <string>

@@ -24,7 +24,8 @@ ProgramFolder::ProgramFolder() {
         fs::copy(built / copied, path / copied);
     for (const char* linked : {"pic", "wav"})
         fs::create_directory_symlink(built / linked, path / linked);
-    fs::copy_file(STOCK_STORE, path / "dat/apc.dat", fs::copy_options::overwrite_existing);  // not the player's
+    fs::copy_file(STOCK_STORE, path / "dat/apc.dat",
+                  fs::copy_options::overwrite_existing);  // not the player's
 }
 
 ProgramFolder::~ProgramFolder() {
@@ -41,7 +42,9 @@ void ProgramFolder::Write(const std::string& name, const std::string& content) c
     std::ofstream(path / name, std::ios::binary) << content;
 }
 
-void ProgramFolder::Remove(const std::string& name) const { fs::remove(path / name); }
+void ProgramFolder::Remove(const std::string& name) const {
+    fs::remove(path / name);
+}
 
 GameTest::GameTest() : host(Dispatch) {
     SetProgramFolder(folder.Path());
@@ -49,7 +52,9 @@ GameTest::GameTest() : host(Dispatch) {
     ResetForms();
 }
 
-void GameTest::StartGame(unsigned seed) { Main(seed); }
+void GameTest::StartGame(unsigned seed) {
+    Main(seed);
+}
 
 std::string GameTest::Log(std::size_t first) const {
     std::string lines;

@@ -1,4 +1,5 @@
-// What tests of the rules stand on: a program folder of their own, a headless host and a game put to its start.
+// What tests of the rules stand on: a program folder of their own, a headless host and a game put to its
+// start.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -9,7 +10,8 @@
 #include "platform/headless_host.h"
 #include "platform/run_time_error.h"
 
-/// A temporary copy of the built game's data, with its pictures and sounds linked in; removed with the object.
+/// A temporary copy of the built game's data, with its pictures and sounds linked in; removed with the
+/// object.
 class ProgramFolder {
   public:
     ProgramFolder();

@@ -37,7 +37,8 @@ class PaintingTest : public GameTest {
         unit.pixelY = y * CellSize;
         unit.status = Active;
         cellGrid[y][x].occupant = index;
-        BitBlt(frmField.picBuffer[index], 0, 0, 20, 20, frmField.area.canvas, x * 20, y * 20, RasterOp::SRCCOPY);
+        BitBlt(frmField.picBuffer[index], 0, 0, 20, 20, frmField.area.canvas, x * 20, y * 20,
+               RasterOp::SRCCOPY);
     }
 
     Picture CellPicture(int x, int y) const {
@@ -53,11 +54,13 @@ class PaintingTest : public GameTest {
     }
 
     // `under` with the sprite at (x, y) of `sheet` over it: the sheet's colour wherever its mask is black.
-    static Picture WithSprite(const Picture& under, const Picture& sheet, int x, int y, int maskX, int maskY) {
+    static Picture WithSprite(const Picture& under, const Picture& sheet, int x, int y, int maskX,
+                              int maskY) {
         Picture shown = under;
         for (int j = 0; j < 20; ++j)
             for (int i = 0; i < 20; ++i)
-                if (sheet.Pixel(maskX + i, maskY + j) == Rgb(0, 0, 0)) shown.SetPixel(i, j, sheet.Pixel(x + i, y + j));
+                if (sheet.Pixel(maskX + i, maskY + j) == Rgb(0, 0, 0))
+                    shown.SetPixel(i, j, sheet.Pixel(x + i, y + j));
         return shown;
     }
 
@@ -124,7 +127,8 @@ TEST_F(PaintingTest, ADeadSoldierShowsTheDeadSprite) {
     const Picture under = CellPicture(6, 5);
     PaintUnit(0, 0);
     const Picture& sprites = StoredPicture("picSprites.bmp");
-    EXPECT_TRUE(CellPicture(6, 5).SameAs(WithSprite(under, sprites, DeadSprite * 20, 0, DeadSprite * 20, 160)));
+    EXPECT_TRUE(
+        CellPicture(6, 5).SameAs(WithSprite(under, sprites, DeadSprite * 20, 0, DeadSprite * 20, 160)));
     EXPECT_TRUE(host.sounds.empty());
 }
 
@@ -171,9 +175,10 @@ TEST_F(PaintingTest, AStepSoundsTwiceAndTakesItsTimeByStance) {
         int stance;
         milliseconds time;
     };
-    constexpr int StanceRun = 3;  // the fixture has a Run of its own
-    constexpr Case Cases[] = {{Prone, milliseconds(400)}, {Crouch, milliseconds(300)},
-                              {Stand, milliseconds(200)}, {StanceRun, milliseconds(100)}};
+    constexpr Case Cases[] = {{Prone, milliseconds(400)},
+                              {Crouch, milliseconds(300)},
+                              {Stand, milliseconds(200)},
+                              {Stance::Run, milliseconds(100)}};
     for (const Case& c : Cases) {
         PutUnit(0, 6, 5);
         UnitTable[0].stance = c.stance;
@@ -204,11 +209,10 @@ TEST_F(PaintingTest, AWalkerAwayFromTheMiddlePullsTheViewAlong) {
         int x, dx, scrolled, scrolledTo;
     };
     constexpr Case Cases[] = {
-        {30, 1, 0, 20},     // right of the middle, going right
-        {30, -1, 200, 200}, // right of the middle at scroll 200, going back
-        {20, -1, 200, 180}, // left of it, going left
-        {20, 1, 200, 200},
-        {60, 1, 760, 760},  // at the end of the bar
+        {30, 1, 0, 20},                         // right of the middle, going right
+        {30, -1, 200, 200},                     // right of the middle at scroll 200, going back
+        {20, -1, 200, 180},                     // left of it, going left
+        {20, 1, 200, 200},  {60, 1, 760, 760},  // at the end of the bar
         {5, -1, 0, 0},
     };
     for (const Case& c : Cases) {

@@ -19,15 +19,11 @@ TEST_F(SoundTest, AColumnIsPannedByItsPlaceOnTheScreen) {
         int column, unitColumn, scroll, pan, volume;
     };
     constexpr Case Cases[] = {
-        {5, 0, 0, -750, -750},
-        {60, 0, 0, 2000, -2000},
-        {60, 0, 760, 100, -100},  // screen column 22
-        {20, 0, 760, 0, 0},       // the centre, however the field is scrolled
-        {88, 0, 0, -1000, -1000},
-        {88, 20, 760, 0, 0},      // a unit in column 20 sounds centred
-        {88, 30, 200, 0, 0},
-        {30, 0, 190, 0, 0},       // 30 - 9.5 is 20.5, to the even 20
-        {31, 0, 190, 100, -100},  // 21.5, to the even 22
+        {5, 0, 0, -750, -750},    {60, 0, 0, 2000, -2000}, {60, 0, 760, 100, -100},  // screen column 22
+        {20, 0, 760, 0, 0},                             // the centre, however the field is scrolled
+        {88, 0, 0, -1000, -1000}, {88, 20, 760, 0, 0},  // a unit in column 20 sounds centred
+        {88, 30, 200, 0, 0},      {30, 0, 190, 0, 0},   // 30 - 9.5 is 20.5, to the even 20
+        {31, 0, 190, 100, -100},                        // 21.5, to the even 22
     };
     for (const Case& c : Cases) {
         UnitTable[0].cellX = c.unitColumn;

@@ -1,0 +1,65 @@
+// An operation keeps its unit; the hand-over waits for its end.
+#include "state/operation.h"
+
+#include "combat/costs.h"
+#include "state/state.h"
+#include "state/turns.h"
+#include "tests/support/drawn_field.h"
+#include "tests/support/game_test.h"
+
+namespace {
+
+class OperationTest : public GameTest {
+  protected:
+    OperationTest() {
+        ClearField();
+        for (int i : {0, 1, 2})
+            PutUnit(i, 10, 10 + i);
+    }
+};
+
+TEST_F(OperationTest, AHandOverWaitsForTheOutermostAndComesOnce) {
+    RunOperation([] {
+        RunOperation([] {
+            Spend(78, "time");
+            EXPECT_EQ(curUnit, 0);
+        });
+        EXPECT_EQ(curUnit, 0) << "an inner operation's end hands nothing over";
+        Spend(1, "time");
+    });
+    EXPECT_EQ(curUnit, 1);
+}
+
+TEST_F(OperationTest, OutsideOfOneItIsImmediate) {
+    Spend(78, "time");
+    EXPECT_EQ(curUnit, 1);
+}
+
+TEST_F(OperationTest, TimeThatComesBackKeepsTheSelection) {
+    RunOperation([] {
+        Spend(78, "time");
+        Spend(-10, "time");
+    });
+    EXPECT_EQ(curUnit, 0);
+}
+
+TEST_F(OperationTest, WhatEventsSelectInItsMiddleStaysSelectedAfterIt) {
+    RunOperation([] {
+        PumpKeepingUnit([] { SelectNextUnit(); });
+        EXPECT_EQ(curUnit, 0) << "the operation goes on with its own unit";
+        Spend(78, "time");
+    });
+    EXPECT_EQ(curUnit, 1) << "what was selected, and the spent one's wish is void";
+}
+
+TEST_F(OperationTest, OutsideOfOneAPumpMaySelect) {
+    PumpKeepingUnit([] { SelectNextUnit(); });
+    EXPECT_EQ(curUnit, 1);
+}
+
+TEST_F(OperationTest, AnErrorLeavesNoOperationBehind) {
+    EXPECT_THROW(RunOperation([] { throw RunTimeError(Fault::Overflow, "x"); }), RunTimeError);
+    EXPECT_EQ(game.operationDepth, 0);
+}
+
+}  // namespace

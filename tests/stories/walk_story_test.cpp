@@ -1,0 +1,116 @@
+// Whole stories, driven through the door for input as a player drives them.
+#include "field/geometry.h"
+#include "platform/blit.h"
+#include "state/state.h"
+#include "tests/support/drawn_field.h"
+#include "tests/support/game_test.h"
+#include "view/events.h"
+#include "view/field_form.h"
+#include "view/stored_pictures.h"
+
+namespace {
+
+class StoryTest : public GameTest {
+  protected:
+    static void Click(int cellX, int cellY) {
+        Dispatch({EventKind::MouseDown, "frmField.area", -1, 1, 0, static_cast<float>(cellX * 20 + 10),
+                  static_cast<float>(cellY * 20 + 10)});
+    }
+
+    static void EndTurn() { Dispatch({EventKind::Click, "frmField.cmdNextTurn"}); }
+
+    // Whether a cell of the field shows its bare tile.
+    static bool IsBare(int x, int y) {
+        Picture shown(20, 20);
+        BitBlt(shown, 0, 0, 20, 20, frmField.area.canvas, x * 20, y * 20, RasterOp::SRCCOPY);
+        Picture tile(20, 20);
+        const Cell& cell = cellGrid[y][x];
+        BitBlt(tile, 0, 0, 20, 20, StoredPicture("picMap.bmp"), cell.tileX * 20, cell.tileY * 20,
+               RasterOp::SRCCOPY);
+        return shown.SameAs(tile);
+    }
+};
+
+TEST_F(StoryTest, FromTheLandingCornerIntoTheVillage) {
+    StartGame();
+    Unit& soldier = UnitTable[11];
+    ASSERT_EQ(soldier.cellX, 2);
+    ASSERT_EQ(soldier.cellY, 5);
+    soldier.agility = 74;
+    soldier.strength = 60;
+    soldier.time = 148;
+    soldier.energy = 100;
+    soldier.facing = East;
+    soldier.stance = Stand;
+
+    Click(2, 5);
+    ASSERT_EQ(curUnit, 11);
+    EXPECT_NE(Log().find("Selected " + soldier.name + " (#11)  from team #0\n"), std::string::npos);
+
+    // To the road before the first house: fifteen steps east, then one turn of 45 degrees and two steps
+    // south-east.
+    Click(19, 7);
+    EXPECT_EQ(soldier.time, 148) << "east already";
+    Click(19, 7);
+    EXPECT_EQ(soldier.cellX, 19);
+    EXPECT_EQ(soldier.cellY, 7);
+    EXPECT_EQ(soldier.facing, SouthEast);
+    EXPECT_EQ(soldier.time, 148 - 17 * 4 - 1);
+    EXPECT_EQ(soldier.energy, 100 - 17);
+
+    EndTurn();
+    EXPECT_EQ(curTeam, SquadTeam);
+    EXPECT_EQ(soldier.time, 148);
+    EXPECT_EQ(soldier.energy, 83 + 30);
+
+    // Through the door at (22, 6) onto the rug: two steps east, one north-east, two north, and three turns.
+    Click(19, 7);
+    ASSERT_EQ(curUnit, 11);
+    Click(22, 4);
+    const int turned = 148 - soldier.time;  // toward the click: from south-east to north-east
+    EXPECT_EQ(turned, 2);
+    Click(22, 4);
+    EXPECT_EQ(soldier.cellX, 22);
+    EXPECT_EQ(soldier.cellY, 4);
+    EXPECT_EQ(soldier.facing, North);
+    EXPECT_EQ(soldier.time, 148 - turned - 5 * 4 - 3);
+    EXPECT_EQ(soldier.energy, 113 - 5);
+    EXPECT_EQ(cellGrid[4][22].occupant, 11);
+    EXPECT_EQ(cellGrid[5][2].occupant, -1);
+}
+
+TEST_F(StoryTest, AnEnemyIsSightedDrawnHiddenAndSightedAgain) {
+    ClearField();
+    DrawField(10, 10, {"0.........", ".........."});
+    PutUnit(1, 40, 30);
+    PutUnit(20, 45, 30);
+    UnitTable[0].facing = West;
+    for (int x : {10, 40, 45})
+        cellGrid[x == 10 ? 10 : 30][x].tileX = 0;
+    frmField.area.canvas.Fill(0);
+    for (int y = 0; y < FieldHeight; ++y)
+        for (int x = 0; x < FieldWidth; ++x)
+            BitBlt(frmField.area.canvas, x * 20, y * 20, 20, 20, StoredPicture("picMap.bmp"), 0, 0,
+                   RasterOp::SRCCOPY);
+    for (int unit : {0, 1, 20})
+        BitBlt(frmField.picBuffer[unit], 0, 0, 20, 20, frmField.area.canvas, 0, 0, RasterOp::SRCCOPY);
+
+    Click(40, 30);
+    ASSERT_EQ(curUnit, 1);
+    EXPECT_EQ(UnitTable[1].seen[0], 1);
+    EXPECT_FALSE(IsBare(45, 30));
+    EXPECT_EQ(frmField.imgEnemyCount.ToolTipText, "1 enemy sighted");
+
+    EndTurn();
+    ASSERT_EQ(curUnit, 0);
+    EXPECT_EQ(UnitTable[1].seen[0], 0);
+    EXPECT_TRUE(IsBare(45, 30));
+    EXPECT_FALSE(frmField.imgEnemyCount.Visible);
+
+    Click(40, 30);
+    EXPECT_EQ(UnitTable[1].seen[0], 1);
+    EXPECT_FALSE(IsBare(45, 30));
+    EXPECT_TRUE(frmField.imgEnemyCount.Visible);
+}
+
+}  // namespace
