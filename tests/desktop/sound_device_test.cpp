@@ -15,7 +15,11 @@
 
 #include "desktop/sound_device.h"
 #include "platform/files.h"
+#include "platform/headless_host.h"
 #include "platform/run_time_error.h"
+#include "state/state.h"
+#include "view/field_form.h"
+#include "view/sound.h"
 
 namespace {
 
@@ -143,6 +147,27 @@ TEST_F(SoundDeviceTest, EachSideHasTheLevelThatVolumeAndPanAskFor) {
         const Heard heard = Hear();
         EXPECT_NEAR(Decibel(heard.left), row.left, 0.5) << row.volume << " " << row.pan;
         EXPECT_NEAR(Decibel(heard.right), row.right, 0.5) << row.volume << " " << row.pan;
+    }
+}
+
+// The whole way of a sound: from its map column, by the game's formula, to what is heard on each side.
+TEST_F(SoundDeviceTest, EachColumnSoundsAtItsLevels) {
+    struct ColumnCase {
+        int column;
+        double left, right;  // decibels: half a decibel down for each column off the middle, the far side twice that
+    };
+    constexpr ColumnCase Cases[] = {{0, -10, -20}, {10, -5, -10}, {20, 0, 0}, {35, -15, -7.5}, {60, -40, -20}};
+    Sound("sine", SineWave(PlayedRate / 5));
+    ResetState();
+    ResetForms();
+    voiceCycle = 1;
+    for (const ColumnCase& row : Cases) {
+        HeadlessHost host([](const InputEvent&) {});
+        PlaySoundAt("sine", row.column);
+        device.Play(host.sounds.at(0));
+        const Heard heard = Hear();
+        EXPECT_NEAR(Decibel(heard.left), row.left, 0.5) << row.column;
+        EXPECT_NEAR(Decibel(heard.right), row.right, 0.5) << row.column;
     }
 }
 
