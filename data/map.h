@@ -10,11 +10,5 @@ struct FieldForm;
 /// the form's `area`. Throws RunTimeError with line and column.
 void LoadMap(FieldForm& form, const std::string& name);
 
-/// The strength of a fresh cell with this tile.
-int CellDurab(int tileX, int tileY);
-
 /// What the cell stops by its present tile: 0 nothing, 1 steps, 2 the view, 3 both.
 int CellBlock(int x, int y);
-
-/// The word for a terrain class, as "trees"; nullptr outside the classes.
-const char* TerrainName(int tileY);

@@ -1,4 +1,5 @@
 #include "field/geometry.h"
+#include "data/terrain.h"
 
 FacingWay WayOf(int facing) {
     return facing >= 0 && facing < FacingCount ? FacingWays[static_cast<std::size_t>(facing)]

@@ -13,8 +13,6 @@ constexpr int TeamStride = 20;  // team t owns the units from t * 20
 constexpr int FieldWidth = 76;  // cells of the field proper; the grid has one column and one row more
 constexpr int FieldHeight = 46;
 constexpr int CellItemSlots = 30;   // things that can lie on one cell; also the slots of the vehicle store
-constexpr int FirstStoreTile = 18;  // tiles of class "various" that show the squad's vehicle
-constexpr int LastStoreTile = 25;
 constexpr int TimeToAct = 4;     // time without which a unit is passed over: what the cheapest command costs
 constexpr int RosterSize = 20;   // soldiers' places in the roster
 constexpr int ChargeBase = 100;  // pseudo-units of the set charges start here, team 5
@@ -26,23 +24,6 @@ enum Status { NotLanded, Active, Wounded, Immobile, Dead };
 
 // Entries of teamLast.
 enum Team { SquadTeam = 0, EnemyTeam = 1, RosterTeam = 3, ChargeList = 5, PileList = 6, LandingSpotList = 7 };
-
-// Rows of the map's terrain classes.
-enum Terrain {
-    Surface,
-    Water,
-    Trees,
-    Wooden,
-    Concrete,
-    Stone,
-    Roads,
-    Trenches,
-    Prickles,
-    Ships,
-    Various,
-    Highways,
-    Fence
-};
 
 /// A thing in an inventory, on the ground or in the vehicle store.
 struct InvItem {

@@ -6,7 +6,7 @@
 
 #include "combat/actions.h"
 #include "combat/costs.h"
-#include "data/map.h"
+#include "data/terrain.h"
 #include "field/geometry.h"
 #include "field/walking.h"
 #include "platform/rounding.h"

@@ -1,5 +1,6 @@
 #include "view/unit_painting.h"
 
+#include "data/terrain.h"
 #include "field/sightings.h"
 #include "platform/blit.h"
 #include "platform/host.h"

@@ -106,7 +106,7 @@ int AxisColumn(const MapSource& map, int x, int y) {
 }
 
 bool IsLand(const MapSource& map, int x, int y) {
-    return InField(x, y) && map.At(x, y).terrain != Terrain::Water && !map.At(x, y).steep;
+    return InField(x, y) && map.At(x, y).terrain != Water && !map.At(x, y).steep;
 }
 
 // Scatters the cells over `count` choices so that neighbours differ; the same cell always gets the same.

@@ -64,8 +64,15 @@ std::vector<int> ColumnsOf(const SourceWord& word) {
     return columns;
 }
 
+std::vector<std::string> TerrainWords() {
+    std::vector<std::string> words;
+    for (int terrain = 0; terrain < TerrainCount; ++terrain)
+        words.emplace_back(TerrainName(terrain));
+    return words;
+}
+
 Terrain TerrainOf(const SourceWord& word) {
-    return static_cast<Terrain>(IndexOf(word, TerrainNames(), "terrain class"));
+    return static_cast<Terrain>(IndexOf(word, TerrainWords(), "terrain class"));
 }
 
 const WayRule& WayRuleOf(const SourceWord& word) {

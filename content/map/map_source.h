@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "source_text.h"
-#include "terrain.h"
+#include "tile_grid.h"
 
 /// How a glyph's cell chooses its tile.
 enum class Way {
@@ -22,7 +22,7 @@ enum class Way {
 
 struct Glyph {
     bool defined = false;
-    Terrain terrain = Terrain::Surface;
+    Terrain terrain = Surface;
     Way way = Way::Tile;
     std::vector<int> columns;
     int width = 1, height = 1;   // of a Block, in cells

@@ -1,6 +1,7 @@
 // Map layers: what a character becomes, what its cell stops and bears, landing spots, broken layers.
 #include "data/map.h"
 
+#include "data/terrain.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"
 #include "view/field_form.h"

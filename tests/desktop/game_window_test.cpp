@@ -103,13 +103,14 @@ TEST_F(GameWindowDeathTest, BrokenDataEndsTheProcessWithAMessageThatNamesTheFile
             folder.Write(file.name, file.breakIt(folder.Read(file.name)));
         QTimer accept;
         accept.callOnTimeout([] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->accept();
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                box->accept();
         });
         accept.start(20);
         Start();
     };
-    for (const char* name : {"dat/weapons.dat", "dat/countries.dat", "dat/save.dat", "dat/apc.dat", "map/491.map",
-                             "map/492.map", "map/493.map", "map/49g.map"})
+    for (const char* name : {"dat/weapons.dat", "dat/countries.dat", "dat/save.dat", "dat/apc.dat",
+                             "map/491.map", "map/492.map", "map/493.map", "map/49g.map"})
         for (const auto breakIt : {static_cast<std::string (*)(std::string)>(nullptr), &CutShort, &Garble})
             EXPECT_EXIT(start({name, breakIt}), testing::ExitedWithCode(1), name);
 }

@@ -154,9 +154,11 @@ TEST_F(SoundDeviceTest, EachSideHasTheLevelThatVolumeAndPanAskFor) {
 TEST_F(SoundDeviceTest, EachColumnSoundsAtItsLevels) {
     struct ColumnCase {
         int column;
-        double left, right;  // decibels: half a decibel down for each column off the middle, the far side twice that
+        double left,
+            right;  // decibels: half a decibel down for each column off the middle, the far side twice that
     };
-    constexpr ColumnCase Cases[] = {{0, -10, -20}, {10, -5, -10}, {20, 0, 0}, {35, -15, -7.5}, {60, -40, -20}};
+    constexpr ColumnCase Cases[] = {
+        {0, -10, -20}, {10, -5, -10}, {20, 0, 0}, {35, -15, -7.5}, {60, -40, -20}};
     Sound("sine", SineWave(PlayedRate / 5));
     ResetState();
     ResetForms();

@@ -1,6 +1,7 @@
 // What lies in the field, what is open, which team a unit belongs to, the vehicle ahead.
 #include "field/geometry.h"
 
+#include "data/terrain.h"
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 

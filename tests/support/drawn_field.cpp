@@ -2,6 +2,7 @@
 
 #include "data/map.h"
 #include "data/tables.h"
+#include "data/terrain.h"
 #include "state/state.h"
 #include "view/field_form.h"
 #include "view/painting.h"

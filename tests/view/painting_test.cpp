@@ -1,6 +1,7 @@
 // What is painted on the field: cells in layers, units, their moves, tree tops, and the view that follows.
 #include "view/painting.h"
 
+#include "data/terrain.h"
 #include "platform/blit.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"

@@ -1,47 +1,37 @@
-// The terrain classes of the tile sheet and what their tiles stop.
+// The grid of tiles that a map is compiled to.
 #pragma once
 
 #include <array>
 #include <cstddef>
-#include <string>
-#include <vector>
+
+#include "data/terrain.h"
 
 constexpr int MapWidth = 76;
 constexpr int MapHeight = 46;
 constexpr int SheetColumns = 32;
 
-enum class Terrain {
-    Surface,
-    Water,
-    Trees,
-    Wooden,
-    Concrete,
-    Stone,
-    Roads,
-    Trenches,
-    Prickles,
-    Ships,
-    Various,
-    Highways,
-    Fence
-};
-
-/// The class words in the order of Terrain.
-const std::vector<std::string>& TerrainNames();
-
 struct Tile {
     int column = 0;
-    Terrain terrain = Terrain::Surface;
+    Terrain terrain = Surface;
 };
 
-bool StopsStep(const Tile& tile);
-bool StopsView(const Tile& tile);
+inline bool StopsStep(const Tile& tile) {
+    return (TileBlock(tile.column, tile.terrain) & 1) != 0;
+}
+
+inline bool StopsView(const Tile& tile) {
+    return (TileBlock(tile.column, tile.terrain) & 2) != 0;
+}
 
 /// True for the tile that marks a landing spot of the computer's team.
-bool IsLandingSpot(const Tile& tile);
+inline bool IsLandingSpot(const Tile& tile) {
+    return tile.terrain == Various && tile.column == LandingMark;
+}
 
 /// True for a tile of the squad's vehicle.
-bool IsVehicle(const Tile& tile);
+inline bool IsVehicle(const Tile& tile) {
+    return tile.terrain == Various && tile.column >= FirstStoreTile && tile.column <= LastStoreTile;
+}
 
 using TileGrid = std::array<std::array<Tile, MapWidth>, MapHeight>;
 

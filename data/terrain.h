@@ -1,0 +1,36 @@
+// The terrain classes, and what the rules derive from a tile alone: how strong it is and what it stops.
+// Shared by the game and the compiler of maps.
+#pragma once
+
+/// The rows of the tile sheet.
+enum Terrain {
+    Surface,
+    Water,
+    Trees,
+    Wooden,
+    Concrete,
+    Stone,
+    Roads,
+    Trenches,
+    Prickles,
+    Ships,
+    Various,
+    Highways,
+    Fence
+};
+
+constexpr int TerrainCount = Fence + 1;
+
+constexpr int LandingMark =
+    7;  // tile of class "various": in a map file, a landing spot of the computer's team
+constexpr int FirstStoreTile = 18;  // tiles of class "various" that show the squad's vehicle
+constexpr int LastStoreTile = 25;
+
+/// The strength of a fresh cell with this tile.
+int CellDurab(int tileX, int tileY);
+
+/// What a cell with this tile stops: 0 nothing, 1 steps, 2 the view, 3 both.
+int TileBlock(int tileX, int tileY);
+
+/// The word for a terrain class, as "trees"; nullptr outside the classes.
+const char* TerrainName(int tileY);
