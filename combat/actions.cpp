@@ -5,9 +5,16 @@
 #include <vector>
 
 #include "combat/costs.h"
+#include "combat/shooting.h"
+#include "combat/things.h"
+#include "combat/tools.h"
 #include "data/weapons_file.h"
+#include "field/geometry.h"
+#include "state/operation.h"
 #include "state/state.h"
 #include "view/field_form.h"
+#include "view/log.h"
+#include "view/sound.h"
 
 namespace {
 
@@ -98,6 +105,39 @@ std::vector<std::string> OfferedModes(const std::string& name) {
     return ModesOfRow(WeaponInfoByName(name));
 }
 
+// Folding a tool changes what it is, and costs nothing.
+void Refold(const char* logWord, const char* name, int count) {
+    Unit& unit = UnitTable[curUnit];
+    AddToLog(logWord, 1);
+    unit.items[0].name = name;
+    unit.items[0].count = count;
+    ShowSlot(0, frmField);
+    unit.hand.name = name;
+    ListActions();
+}
+
+void Dig(const char* logWord, int delta) {
+    const Unit& unit = UnitTable[curUnit];
+    if (!Spend(static_cast<float>(unit.hand.time), "time")) return;
+    AddToLog(logWord, 1);
+    PlaySoundAt("weapons\\" + unit.hand.sound, AtCurrentUnit);
+    SurfaceChange(unit.cellX, unit.cellY, delta);
+}
+
+void UseTool(int targetX, int targetY) {
+    constexpr int Spadeful = 20;  // of 200 levels of the ground
+    const std::string mode = frmField.comboMode.Text;
+    AddToLog("dig it: ", 0);
+    if (mode == "Fold") Refold("fold", "etoolfold", 0);
+    if (mode == "Unfold") Refold("unfold", "etool", 1);
+    if (mode == "Dig") Dig("dig", -Spadeful);
+    if (mode == "Fill") Dig("fill", Spadeful);
+    if (mode == "Hit") {
+        AddToLog("hit", 1);
+        MeleeHit(targetX, targetY);
+    }
+}
+
 }  // namespace
 
 std::string_view ActionFamily() {
@@ -109,6 +149,20 @@ std::string_view ActionFamily() {
     if (hand.weaponClass == "knife" && mode == "Throw") return "throw";
     if (hand.name == "med") return "cure";
     return hand.kind == "m" || hand.kind == "w" ? "fire" : "";
+}
+
+void ActOnTarget(int x, int y) {
+    RunOperation([x, y] {
+        const std::string_view family = ActionFamily();
+        if (family == "cure")
+            CureAt(CellOfPixel(x), CellOfPixel(y));
+        else if (family == "hit")
+            MeleeHit(CellOfPixel(x), CellOfPixel(y));
+        else if (family == "dig")
+            UseTool(CellOfPixel(x), CellOfPixel(y));
+        else
+            ShootAt(x, y, family);
+    });
 }
 
 void ListActions() {

@@ -8,6 +8,10 @@
 /// rule applies.
 std::string_view ActionFamily();
 
+/// Carries out what the current unit's held thing and the chosen fire mode do to the field pixel (x, y). What
+/// is refused on the way stays undone, what has been paid stays paid.
+void ActOnTarget(int x, int y);
+
 /// Fills the list of fire modes for the current unit and chooses the first.
 void ListActions();
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "combat/actions.h"
+#include "combat/hits.h"
 #include "platform/numbers.h"
 #include "state/state.h"
 #include "view/field_form.h"
@@ -89,4 +90,5 @@ void MeleeHit(int x, int y) {
     bulletPower = unit.hand.power;
     bulletAccur = unit.hand.accur;
     bulletHorizon = unit.hand.range * CellSize;
+    UnitHit(curUnit, cellGrid[y][x].occupant);
 }

@@ -43,7 +43,7 @@ std::vector<Sample> SamplesOf(int facing) {
 using Offsets = std::vector<std::int8_t>;
 
 Offsets OffsetsFrom(int cell, const std::vector<Sample>& samples, float Sample::*along) {
-    const auto centre = static_cast<float>(cell * CellSize + CellSize / 2);
+    const auto centre = static_cast<float>(cell * CellSize + HalfCell);
     Offsets offsets;
     for (const Sample& sample : samples) {
         const float pixel = centre + sample.*along;

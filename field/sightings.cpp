@@ -44,7 +44,9 @@ class EnemyCells {
     }
 
   private:
-    static std::size_t Place(int x, int y) { return static_cast<std::size_t>(y * FieldWidth + x); }
+    static std::size_t Place(int x, int y) {
+        return static_cast<std::size_t>(y) * FieldWidth + static_cast<std::size_t>(x);
+    }
 
     int first;
     int last;

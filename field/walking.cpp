@@ -94,10 +94,9 @@ bool IsTwice(int larger, int smaller) {
 
 // The distance in pixels from a unit's centre; within its own square it counts as none.
 int DistanceFromCentre(float pixel, int unitPixel) {
-    constexpr int OwnSquare = CellSize / 2;
     const int distance = static_cast<int>(
-        RoundHalfEven(static_cast<double>(pixel - static_cast<float>(unitPixel + CellSize / 2))));
-    return std::abs(distance) <= OwnSquare ? 0 : distance;
+        RoundHalfEven(static_cast<double>(pixel - static_cast<float>(unitPixel + HalfCell))));
+    return std::abs(distance) <= HalfCell ? 0 : distance;
 }
 
 // Whether the walk that began with order number `order` on `unit` is still what the player wants.
@@ -106,7 +105,7 @@ bool StillWanted(int order, int unit) {
 }
 
 float CentreOf(int cell) {
-    return static_cast<float>(cell * CellSize + CellSize / 2);
+    return static_cast<float>(cell * CellSize + HalfCell);
 }
 
 bool WalkPlan(const std::vector<PlanStep>& plan, int order, int walker) {

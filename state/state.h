@@ -8,6 +8,7 @@
 #include "platform/arrays.h"
 #include "platform/numbers.h"
 
+constexpr int HalfCell = 10;    // from a cell's edge to its centre
 constexpr int CellSize = 20;    // pixels of one cell's side
 constexpr int TeamStride = 20;  // team t owns the units from t * 20
 constexpr int FieldWidth = 76;  // cells of the field proper; the grid has one column and one row more
@@ -170,6 +171,10 @@ struct GameState {
     i16 walkOn;      // go-ahead of a walk in progress
     i16 lastClickX;  // the cell that a left click last chose as a destination
     i16 lastClickY;
+    i16 muzzleX;  // pixel where the next flight starts
+    i16 muzzleY;
+    i16 impactX;  // cell where the last flight ended, which may lie outside the field
+    i16 impactY;
     i16 bulletPower;  // strengths of the bullet, worn down on its way
     i16 bulletAccur;
     i16 bulletHorizon;      // pixel steps that the flight may take
@@ -206,6 +211,10 @@ inline auto& fieldBusy = game.fieldBusy;
 inline auto& walkOn = game.walkOn;
 inline auto& lastClickX = game.lastClickX;
 inline auto& lastClickY = game.lastClickY;
+inline auto& muzzleX = game.muzzleX;
+inline auto& muzzleY = game.muzzleY;
+inline auto& impactX = game.impactX;
+inline auto& impactY = game.impactY;
 inline auto& bulletPower = game.bulletPower;
 inline auto& bulletAccur = game.bulletAccur;
 inline auto& bulletHorizon = game.bulletHorizon;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "combat/actions.h"
+#include "combat/explosions.h"
 #include "combat/things.h"
 #include "field/sightings.h"
 #include "state/mission_end.h"
@@ -102,6 +103,7 @@ void Grant(i16 Unit::*purse, const char* what) {
 }  // namespace
 
 void NewTurn() {
+    ChargeTick();
     PassToNextTeam();
     AddToLog("New turn for team #" + std::to_string(curTeam), 1);
     for (int i = 0; i <= teamLast[curTeam]; ++i)

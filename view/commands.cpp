@@ -89,6 +89,18 @@ void OrderByClick(int cellX, int cellY, float x, float y) {
     TurnTowards(x, y);
 }
 
+int WholePixel(float pixel) {
+    return static_cast<int>(RoundHalfEven(static_cast<double>(pixel)));
+}
+
+// A click with the right button: turn there and act, one order of one soldier.
+void ActByClick(float x, float y) {
+    RunOperation([x, y] {
+        TurnTowards(x, y);
+        ActOnTarget(WholePixel(x), WholePixel(y));
+    });
+}
+
 constexpr float StanceStepCost = 4;
 constexpr float SwitchCost = 4;
 constexpr int SwitchColumn = 30;  // where the switch's voice sounds
@@ -104,13 +116,12 @@ void Form_KeyDown(int code) {
 
 void area_MouseDown(int button, float x, float y) {
     ++game.orders;
-    if (button == 2) TurnTowards(x, y);
+    if (button == 2) ActByClick(x, y);
     if (button == 1) OrderByClick(CellUnder(x), CellUnder(y), x, y);
 }
 
 void area_MouseMove(float x, float y) {
-    AreaTooltip(static_cast<int>(RoundHalfEven(static_cast<double>(x))),
-                static_cast<int>(RoundHalfEven(static_cast<double>(y))), frmField);
+    AreaTooltip(WholePixel(x), WholePixel(y), frmField);
 }
 
 void SetStance(int newStance) {

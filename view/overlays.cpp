@@ -28,6 +28,11 @@ constexpr DelayMode Modes[] = {
     {"mode2", 100, 23'077'000, true},
 };
 
+std::chrono::nanoseconds LengthOf(int n, const DelayMode& mode) {
+    const Picoseconds time(std::int64_t{n} * n * mode.passes * mode.passTime);
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(time);
+}
+
 constexpr int FrameCount = 5;
 constexpr int RestLeft = 660;
 constexpr int RestTop = 20;
@@ -50,15 +55,19 @@ void PutOnCell(ImageControl& image, int x, int y) {
 void Delay(int n, std::string_view mode) {
     for (const DelayMode& entry : Modes) {
         if (entry.word != mode || n <= 0) continue;
-        const Picoseconds time(std::int64_t{n} * n * entry.passes * entry.passTime);
-        const auto wait = [&] {
-            TheHost().Wait(std::chrono::duration_cast<std::chrono::nanoseconds>(time), entry.pumps);
-        };
         if (entry.pumps)
-            PumpKeepingUnit(wait);
+            PumpKeepingUnit([&] { TheHost().Wait(LengthOf(n, entry), true); });
         else
-            wait();
+            TheHost().Wait(LengthOf(n, entry), false);
     }
+}
+
+void DelayThen(int n, const std::function<void()>& putBack) {
+    constexpr const DelayMode& Shown = Modes[1];
+    TheHost().Refresh(frmField.area);
+    TheHost().Wait(LengthOf(n, Shown), false);
+    putBack();
+    PumpKeepingUnit([] { TheHost().PumpEvents(); });
 }
 
 void RestOverlay(ImageControl& image) {

@@ -2,6 +2,7 @@
 // everything seen.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,10 @@ struct ImageControl;
 /// Waits for a time that grows with the square of `n`. "normal" lets no events run; "mode1" and "mode2" do,
 /// and "mode2" is a tenth of "mode1". Any other word returns at once.
 void Delay(int n, std::string_view mode);
+
+/// Delay(n, "mode1") for something that is shown only meanwhile: `putBack` takes it away before any event
+/// runs.
+void DelayThen(int n, const std::function<void()>& putBack);
 
 /// Plays the explosion over three by three cells, its top left one at (x, y), which may lie outside the
 /// field. The first argument is not looked at, here and below.

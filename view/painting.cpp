@@ -13,12 +13,10 @@ namespace {
 constexpr int SpritesInRow = 32;
 constexpr int MaskBelow = 160;  // pixels from a sprite to its mask
 
-// ODDITY: the background saved is that under the current unit, whoever stands on the repainted cell; for
-// another unit it is merely renewed from what stands there. Charges and piles have no background.
-void SaveCurrentBackground(const Picture& target) {
-    if (curUnit >= ChargeBase) return;
-    const Unit& unit = UnitTable[curUnit];
-    BitBlt(frmField.picBuffer[curUnit], 0, 0, CellSize, CellSize, target, unit.pixelX, unit.pixelY,
+// The unit on a repainted cell gets the new picture for its background, so that it stays when the unit goes.
+void SaveBackground(int index, const Picture& target) {
+    const Unit& unit = UnitTable[index];
+    BitBlt(frmField.picBuffer[index], 0, 0, CellSize, CellSize, target, unit.pixelX, unit.pixelY,
            RasterOp::SRCCOPY);
 }
 
@@ -37,7 +35,7 @@ void PaintCell(int x, int y, Picture& target, int tileX, int tileY) {
     if (CountAt(x, y, ChargeBase) > 0) PaintSprite(ChargeSprite, left, top);
     if (CountAt(x, y, PileBase) > 0) PaintSprite(PileSprite, left, top);
     if (fieldBusy == True || cell.occupant < 0) return;
-    SaveCurrentBackground(target);
+    SaveBackground(cell.occupant, target);
     PaintUnitAtCell(x, y);
 }
 

@@ -66,6 +66,7 @@ std::vector<int> ColumnsOf(const SourceWord& word) {
 
 std::vector<std::string> TerrainWords() {
     std::vector<std::string> words;
+    words.reserve(TerrainCount);
     for (int terrain = 0; terrain < TerrainCount; ++terrain)
         words.emplace_back(TerrainName(terrain));
     return words;

@@ -1,0 +1,175 @@
+#include "combat/shooting.h"
+
+#include <array>
+#include <cmath>
+#include <string>
+
+#include "combat/costs.h"
+#include "combat/explosions.h"
+#include "combat/flight.h"
+#include "combat/things.h"
+#include "data/weapons_file.h"
+#include "field/geometry.h"
+#include "platform/random.h"
+#include "platform/rounding.h"
+#include "state/state.h"
+#include "view/field_form.h"
+#include "view/log.h"
+#include "view/sound.h"
+
+namespace {
+
+constexpr int PelletsOfShell = 30;
+constexpr int FullAutoRounds = 20;
+constexpr int BurstPlace = 2;  // of WeaponInfo::modes: the rounds of a burst
+
+struct FamilyWord {
+    std::string_view family;
+    const char* log;     // what the log says
+    const char* launch;  // the sound of a secondary barrel besides the shot's own
+};
+
+// clang-format off
+constexpr FamilyWord FamilyWords[] = {
+    {"shot",    "shotgun party",    "weapons\\shot"},
+    {"bloop",   "bloop'em",         "weapons\\bloop"},
+    {"gren",    "fire in the hole", nullptr},
+    {"charge",  "kaboom",           nullptr},
+    {"throw",   "throw it",         nullptr},
+    {"dart",    "psst",             nullptr},
+    {"varmint", "varmint",          nullptr},
+};
+
+struct Offset {
+    int x;
+    int y;
+};
+
+// Where the muzzle is, from the left top corner of the unit's cell, by facing.
+constexpr std::array<Offset, FacingCount> Muzzles = {
+    {{20, 10}, {0, 10}, {10, 0}, {10, 20}, {20, 0}, {20, 20}, {0, 20}, {0, 0}}};
+// clang-format on
+
+const FamilyWord* WordOf(std::string_view family) {
+    for (const FamilyWord& word : FamilyWords)
+        if (word.family == family) return &word;
+    return nullptr;
+}
+
+void PlaceMuzzle(const Unit& unit) {
+    const Offset& muzzle = Muzzles.at(static_cast<std::size_t>(int{unit.facing}));
+    muzzleX = unit.pixelX + muzzle.x;
+    muzzleY = unit.pixelY + muzzle.y;
+}
+
+int RoundsOf(const std::string& mode, const WeaponInfo& hand) {
+    if (mode >= "Burst [0]" && mode <= "Burst [9]") return WeaponInfoByName(hand.name).modes[BurstPlace];
+    return mode == "Full auto" ? FullAutoRounds : 1;
+}
+
+void SoundLaunch(const Unit& unit, const FamilyWord* word) {
+    if (word == nullptr || word->launch == nullptr || frmField.comboMode.Text != "Secondary") return;
+    if (unit.time >= unit.hand.time && unit.handRounds >= 1) PlaySoundAt(word->launch, AtCurrentUnit);
+}
+
+// Pays for one round; the first refusal ends the order.
+// ODDITY: without rounds the weapon's time and condition stay spent; the player pays for the empty click.
+bool PayRound(const Unit& unit) {
+    if (!Spend(1, "durab")) {
+        PlaySoundAt("ric\\wood", AtCurrentUnit);
+        return false;
+    }
+    if (!Spend(static_cast<float>(unit.hand.time), "time")) {
+        Spend(-1, "durab");
+        return false;
+    }
+    if (!Spend(1, "ammo")) {
+        PlaySoundAt("weapons\\empty", AtCurrentUnit);
+        return false;
+    }
+    return true;
+}
+
+// What the bullets of one order share.
+struct Aim {
+    int x;  // pixel that the next bullet scatters around
+    int y;
+    int targetX;  // cell first aimed at
+    int targetY;
+};
+
+i16 DistanceTo(const Unit& unit, const Aim& aim) {
+    const double dx = unit.cellX - aim.targetX;
+    const double dy = unit.cellY - aim.targetY;
+    return std::sqrt(dy * dy + dx * dx);
+}
+
+i16 ScatterOf(const Unit& unit, int distance) {
+    i16 spread = (100 - unit.marksmanship) + (100 - unit.hand.accur) + distance;
+    if (spread < 0) spread = 0;
+    const i16 product = distance * spread;
+    return product / 20.0;
+}
+
+// A pixel up to `scatter` to either side, in single precision.
+i16 Scattered(int pixel, int scatter) {
+    return static_cast<float>(pixel - scatter) + static_cast<float>(2 * scatter) * NextRandom();
+}
+
+// ODDITY: each bullet scatters around the point that the one before it was aimed at, while the distance still
+// counts from the cell first aimed at; so a burst wanders off the longer it lasts.
+void FireBullet(const Unit& unit, Aim& aim, std::string_view family) {
+    bulletPower = unit.hand.power;
+    bulletAccur = unit.hand.accur;
+    bulletHorizon = unit.hand.range * CellSize;
+    if (family == "shot") bulletPower = unit.hand.power / static_cast<double>(PelletsOfShell);
+    const int scatter = ScatterOf(unit, DistanceTo(unit, aim));
+    aim.x = Scattered(aim.x, scatter);
+    aim.y = Scattered(aim.y, scatter);
+    BulletFly(muzzleX, muzzleY, aim.x, aim.y);
+}
+
+// Leaves the held thing on the ground where the flight ended, with one round in it.
+void LayDown(const InvItem& held) {
+    if (!InField(impactX, impactY)) return AddToLog(held.name + " is lost outside the field", 1);
+    for (InvItem& place : groundItems[impactY][impactX]) {
+        if (!place.name.empty()) continue;
+        place = held;
+        place.roundsMain = 1;
+        return;
+    }
+}
+
+void EndOrder(std::string_view family) {
+    const InvItem& held = UnitTable[curUnit].items[0];
+    const bool lies = family == "throw" || family == "charge";
+    const bool inField = InField(impactX, impactY);
+    if (lies) LayDown(held);
+    if (family == "gren" || family == "bloop") ChargeBlow(impactX, impactY);
+    if (family == "throw" && inField) WeaponAdd(impactX, impactY);
+    if (family == "charge" && inField) ChargeAdd(impactX, impactY);
+    if ((lies || family == "gren") && held.roundsMain == 0) {
+        ClearItem(0);
+        RefreshHand();
+    }
+}
+
+}  // namespace
+
+void ShootAt(int x, int y, std::string_view family) {
+    const Unit& unit = UnitTable[curUnit];
+    Aim aim{x, y, CellOfPixel(x), CellOfPixel(y)};
+    const FamilyWord* word = WordOf(family);
+    PlaceMuzzle(unit);
+    if (word != nullptr) AddToLog(word->log, 1);
+    const int rounds = RoundsOf(frmField.comboMode.Text, unit.hand);
+    const int pellets = family == "shot" ? PelletsOfShell : 1;
+    SoundLaunch(unit, word);
+    for (int round = 0; round < rounds; ++round) {
+        if (!PayRound(unit)) return;
+        PlaySoundAt("weapons\\" + unit.hand.sound, AtCurrentUnit);
+        for (int pellet = 0; pellet < pellets; ++pellet)
+            FireBullet(unit, aim, family);
+    }
+    EndOrder(family);
+}

@@ -1,0 +1,9 @@
+// One order of a unit that shoots, throws or sets something: its rounds, their scatter, and what lies or
+// bursts at the end.
+#pragma once
+
+#include <string_view>
+
+/// All rounds of the current unit's order at the field pixel (x, y), for a family that `family` names; empty
+/// shoots too.
+void ShootAt(int x, int y, std::string_view family);

@@ -1,0 +1,102 @@
+#include "combat/tools.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
+#include "combat/costs.h"
+#include "data/terrain.h"
+#include "field/geometry.h"
+#include "platform/host.h"
+#include "platform/random.h"
+#include "state/operation.h"
+#include "state/state.h"
+#include "state/turns.h"
+#include "view/field_form.h"
+#include "view/log.h"
+#include "view/painting.h"
+#include "view/panel.h"
+#include "view/sound.h"
+
+namespace {
+
+constexpr float CureTime = 10;
+constexpr int CurePower = -10;
+constexpr int CureAccur = 200;
+constexpr int CureHorizon = 20;
+constexpr int CureChance = 60;  // of 101
+constexpr const char* CureSound = "weapons\\med";
+
+// The look of the ground by its level.
+struct GroundLook {
+    int lowest;
+    int tileX;
+    int tileY;
+};
+
+constexpr int HighestGround = 200;
+
+constexpr GroundLook GroundLooks[] = {
+    {100, 0, Surface},  // plain ground
+    {1, 15, Trenches},  // shallow trench
+    {0, 16, Trenches},  // full trench
+};
+
+void Cure(const std::string& healer, Unit& target) {
+    const int gain = RandomInt(bulletPower, 0);
+    // ODDITY: the gain is drawn, and told, as a negative number.
+    AddToLog(healer + " cured " + target.name + " for " + std::to_string(gain) + " points", 1);
+    target.health = std::min(target.health - gain, static_cast<int>(target.vitality));
+    PlaySoundAt(CureSound, AtCurrentUnit);
+    CheckStatus();
+}
+
+}  // namespace
+
+void CureAt(int x, int y) {
+    // ODDITY: a cure works only in the first 35 columns and 16 rows of the field, as a blow does.
+    constexpr int LastColumn = 34;
+    constexpr int LastRow = 15;
+    const Unit& unit = UnitTable[curUnit];
+    if (!Spend(CureTime, "time")) return;
+    if (!Spend(1, "ammo")) return PlaySoundAt("weapons\\empty", AtCurrentUnit);
+    if (x < 0 || x > LastColumn || y < 0 || y > LastRow) return;
+    if (std::abs(x - unit.cellX) > 1 || std::abs(y - unit.cellY) > 1) return;
+    if (cellGrid[y][x].occupant == -1) return;
+    PlaySoundAt(CureSound, AtCurrentUnit);
+    bulletPower = CurePower;
+    bulletAccur = CureAccur;
+    bulletHorizon = CureHorizon;
+    CureUnit(curUnit, cellGrid[y][x].occupant);
+}
+
+void CureUnit(int healer, int target) {
+    Unit& unit = UnitTable[target];
+    if (unit.status == Dead) return;
+    RunOperation([&] {
+        const i16 keptUnit = curUnit;
+        const i16 keptTeam = curTeam;
+        curUnit = target;
+        if (RandomInt(100, 0) < CureChance) Cure(UnitTable[healer].name, unit);
+        curUnit = keptUnit;
+        curTeam = keptTeam;
+        ShowStatus("");
+    });
+}
+
+void SurfaceChange(int x, int y, int delta) {
+    if (!InField(x, y)) return;
+    Cell& cell = cellGrid[y][x];
+    if (cell.tileY != Surface && cell.tileY != Trenches) return;
+    if (delta < 0 && cell.durab == 0) return;
+    if (delta > 0 && cell.durab == HighestGround) return;
+    cell.durab = std::clamp(cell.durab + delta, 0, HighestGround);
+    for (const GroundLook& look : GroundLooks) {
+        if (cell.durab < look.lowest) continue;
+        cell.tileX = look.tileX;
+        cell.tileY = look.tileY;
+        break;
+    }
+    PaintCell(x, y, frmField.area.canvas);
+    TheHost().Refresh(frmField.area);
+}

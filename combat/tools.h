@@ -1,0 +1,12 @@
+// Tools that work on the field or on a comrade without firing: the medical kit, digging and filling.
+#pragma once
+
+/// The current unit uses its medical kit on cell (x, y).
+void CureAt(int x, int y);
+
+/// The roll of a cure and its effect.
+void CureUnit(int healer, int target);
+
+/// Raises or lowers the ground of a cell by `delta` and shows it. Only plain ground and trenches change;
+/// outside the field nothing does.
+void SurfaceChange(int x, int y, int delta);
