@@ -11,7 +11,7 @@
 #include "desktop/sound_device.h"
 #include "platform/host.h"
 
-class DesktopHost final : public Host {
+class DesktopHost : public Host {
   public:
     /// `mainForm` is the window whose close button ends the program; `otherForms` are shown when they turn
     /// visible. Events go to `dispatchRoutine`. Installs itself for as long as it lives.
@@ -36,7 +36,7 @@ class DesktopHost final : public Host {
   private:
     void Receive(const InputEvent& event);
     void Sync();
-    [[noreturn]] void Fail(const std::string& text);
+    void Fail(const std::string& text);
     void CloseQuietDevice();
 
     const EventSink dispatch;
