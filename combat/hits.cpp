@@ -98,13 +98,10 @@ void UnitHit(int shooter, int target) {
     Unit& unit = UnitTable[target];
     if (unit.status == Dead) return;
     RunOperation([&] {
-        const i16 keptUnit = curUnit;
-        const i16 keptTeam = curTeam;
-        curUnit = target;
-        if (RollHit(shooter, target)) TakeDamage(shooter, unit);
-        if (unit.health == 0) Die(unit);
-        curUnit = keptUnit;
-        curTeam = keptTeam;
+        AsCurrentUnit(target, [&] {
+            if (RollHit(shooter, target)) TakeDamage(shooter, unit);
+            if (unit.health == 0) Die(unit);
+        });
         ShowStatus("");
     });
 }

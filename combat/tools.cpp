@@ -74,12 +74,9 @@ void CureUnit(int healer, int target) {
     Unit& unit = UnitTable[target];
     if (unit.status == Dead) return;
     RunOperation([&] {
-        const i16 keptUnit = curUnit;
-        const i16 keptTeam = curTeam;
-        curUnit = target;
-        if (RandomInt(100, 0) < CureChance) Cure(UnitTable[healer].name, unit);
-        curUnit = keptUnit;
-        curTeam = keptTeam;
+        AsCurrentUnit(target, [&] {
+            if (RandomInt(100, 0) < CureChance) Cure(UnitTable[healer].name, unit);
+        });
         ShowStatus("");
     });
 }

@@ -67,10 +67,11 @@ void ApplyGains(Samples& samples, const SoundRequest& sound) {
 }
 
 // The file's sound as the device plays it, at the rate that was asked for.
-Samples Convert(const SDL_AudioSpec& spec, std::span<const std::uint8_t> wave, const SoundRequest& sound) {
+Samples Convert(const SDL_AudioSpec& wavFormat, std::span<const std::uint8_t> wave,
+                const SoundRequest& sound) {
     SDL_AudioCVT conversion;
-    if (SDL_BuildAudioCVT(&conversion, spec.format, spec.channels, sound.frequency, DeviceFormat, DeviceSides,
-                          DeviceFrequency) < 0)
+    if (SDL_BuildAudioCVT(&conversion, wavFormat.format, wavFormat.channels, sound.frequency, DeviceFormat,
+                          DeviceSides, DeviceFrequency) < 0)
         Refuse(sound);
     std::vector<std::uint8_t> work(wave.size() * static_cast<std::size_t>(conversion.len_mult));
     std::copy(wave.begin(), wave.end(), work.begin());
@@ -84,12 +85,13 @@ Samples Convert(const SDL_AudioSpec& spec, std::span<const std::uint8_t> wave, c
 }
 
 Samples Load(const SoundRequest& sound) {
-    SDL_AudioSpec spec{};
+    SDL_AudioSpec wavFormat{};
     Uint8* loaded = nullptr;
     Uint32 length = 0;
-    if (SDL_LoadWAV(ProgramPath(sound.fileName).c_str(), &spec, &loaded, &length) == nullptr) Refuse(sound);
+    if (SDL_LoadWAV(ProgramPath(sound.fileName).c_str(), &wavFormat, &loaded, &length) == nullptr)
+        Refuse(sound);
     const std::unique_ptr<Uint8, decltype(&SDL_FreeWAV)> wave(loaded, SDL_FreeWAV);
-    Samples samples = Convert(spec, {wave.get(), length}, sound);
+    Samples samples = Convert(wavFormat, {wave.get(), length}, sound);
     ApplyGains(samples, sound);
     return samples;
 }

@@ -4,10 +4,23 @@
 
 #include <functional>
 
+#include "state/state.h"
+
 /// Runs `body` as an operation. While one runs, the hand-over of a spent soldier waits; when the outermost
 /// has ended and the current unit asked for it, the next one is selected, once. What events selected in the
 /// middle stays selected.
 void RunOperation(const std::function<void()>& body);
+
+/// Runs `body` with `unit` current, and then puts back the unit and the team that were.
+template <typename Body>
+void AsCurrentUnit(int unit, Body body) {
+    const i16 keptUnit = curUnit;
+    const i16 keptTeam = curTeam;
+    curUnit = unit;
+    body();
+    curUnit = keptUnit;
+    curTeam = keptTeam;
+}
 
 /// A soldier of the player has too little time to act: selects the next one, now or when the running
 /// operation has ended.

@@ -2,6 +2,7 @@
 
 #include "combat/things.h"
 #include "platform/blit.h"
+#include "state/operation.h"
 #include "state/state.h"
 #include "view/field_form.h"
 #include "view/mini_map.h"
@@ -41,13 +42,7 @@ void PaintCell(int x, int y, Picture& target, int tileX, int tileY) {
 
 void PaintUnitAtCell(int x, int y) {
     const int occupant = cellGrid[y][x].occupant;
-    if (occupant < 0) return;
-    const i16 keptUnit = curUnit;
-    const i16 keptTeam = curTeam;
-    curUnit = occupant;
-    PaintUnit(0, 0);
-    curUnit = keptUnit;
-    curTeam = keptTeam;
+    if (occupant >= 0) AsCurrentUnit(occupant, [] { PaintUnit(0, 0); });
 }
 
 void PaintSprite(int sprite, int pixelX, int pixelY) {

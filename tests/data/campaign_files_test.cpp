@@ -73,33 +73,19 @@ TEST_F(CampaignFilesTest, ASoldiersFieldsLieWhereTheFormatSays) {
     EXPECT_EQ(UnitTable[62].name, "") << "records beyond the end stay empty";
 }
 
-TEST_F(CampaignFilesTest, EveryFieldOfTheBuiltRosterSurvivesWritingAndReading) {
+TEST_F(CampaignFilesTest, TheBuiltRosterComesBackByteForByte) {
     LoadRoster();
     const std::string original = folder.Read("dat/save.dat");
     ASSERT_EQ(original.size(), 882U * 21);
-    std::string written = original.substr(0, 882);
-    for (int i = 0; i < RosterSize; ++i) {
+    for (int i = 0; i <= teamLast[RosterTeam]; ++i) {
         Record record(RosterLength, "roster");
         WriteFields(record, 0, UnitTable[60 + i]);
         for (int slot = 0; slot < RosterItems; ++slot)
             WriteFields(record, RosterItemsAt + static_cast<std::size_t>(slot) * ItemLength,
                         UnitTable[60 + i].items[slot]);
-        written.append(record.Bytes().begin(), record.Bytes().end());
-    }
-    folder.Write("dat/save.dat", written);
-    std::vector<Unit> before(UnitTable.begin(), UnitTable.end());
-    ResetState();
-    InitTables();
-    LoadRoster();
-    for (int i = 60; i < 80; ++i) {
-        const Unit& kept = before[static_cast<std::size_t>(i)];
-        EXPECT_EQ(UnitTable[i].name, kept.name);
-        EXPECT_EQ(UnitTable[i].explosives, kept.explosives);
-        EXPECT_EQ(UnitTable[i].health, kept.health);
-        for (int slot = 0; slot < RosterItems; ++slot) {
-            EXPECT_EQ(UnitTable[i].items[slot].name, kept.items[slot].name);
-            EXPECT_EQ(UnitTable[i].items[slot].roundsSecond, kept.items[slot].roundsSecond);
-        }
+        const std::string written(record.Bytes().begin(), record.Bytes().end() - 2);
+        EXPECT_EQ(written, original.substr(882U * static_cast<unsigned>(i + 1), 880))
+            << UnitTable[60 + i].name;
     }
 }
 
