@@ -111,10 +111,18 @@ void EnemyCounter(std::string_view command) {
 
 void imgEnemyCount_Click() {
     const Unit& unit = UnitTable[curUnit];
+    // The counter may still show what another unit saw, in the moment in which a unit is being selected.
+    const int last = teamLast[unit.enemyTeam];
+    const auto anySeen = [&unit, last] {
+        for (int place = 0; place <= last; ++place)
+            if (unit.seen[place] >= 1) return true;
+        return false;
+    };
+    if (!anySeen()) return;
     int i = frmField.lastSeenEnemy;
     do {
         ++i;
-        if (i > teamLast[unit.enemyTeam]) i = 0;
+        if (i > last) i = 0;
     } while (unit.seen[i] < 1);
     frmField.lastSeenEnemy = i;
     frmField.imgEnemyCount.ToolTipText = "last seen enemy #" + std::to_string(i);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "ai/computer_player.h"
 #include "combat/actions.h"
 #include "combat/explosions.h"
 #include "combat/things.h"
@@ -84,6 +85,7 @@ bool BeginAct(Unit& unit) {
     if (unit.team == SquadTeam) ScrollToUnit(curUnit);
     EnemyCounter("clear");
     UnitLookEnemies();
+    if (unit.team == EnemyTeam) AiAct();
     return unit.team == SquadTeam;
 }
 

@@ -6,6 +6,7 @@
 #include "field/sightings.h"
 #include "platform/controls.h"
 #include "state/mission_end.h"
+#include "state/state.h"
 #include "state/turns.h"
 #include "view/commands.h"
 #include "view/field_form.h"
@@ -15,29 +16,33 @@ namespace {
 
 using Event = const InputEvent&;
 
+// Who may give it: orders are the player's, and only in his turn; the rest looks at the game or ends it.
+enum class Kind { Order, View };
+
 struct Handler {
     std::string_view control;
-    EventKind kind;
+    EventKind event;
+    Kind kind;
     void (*run)(Event);
 };
 
+// clang-format off
 constexpr Handler Handlers[] = {
-    {"frmField", EventKind::KeyDown, [](Event e) { Form_KeyDown(e.code); }},
-    {"frmField.area", EventKind::MouseMove, [](Event e) { area_MouseMove(e.x, e.y); }},
-    {"frmField.area", EventKind::MouseDown, [](Event e) { area_MouseDown(e.code, e.x, e.y); }},
-    {"frmField.cmdNextTurn", EventKind::Click, [](Event) { NewTurn(); }},
-    {"frmField.mnuExit", EventKind::Click, [](Event) { EndGame(); }},
-    {"frmField.imgStance", EventKind::Click, [](Event e) { SetStance(e.index); }},
-    {"frmField.imgStop", EventKind::Click, [](Event) { imgStop_Click(); }},
-    {"frmField.imgEnemyCount", EventKind::Click, [](Event) { imgEnemyCount_Click(); }},
-    {"frmField.comboMode", EventKind::Choose, [](Event e) { ChooseMode(e.code); }},
-    {"frmField.HScrollArea", EventKind::Scroll, [](Event e) { ScrollThumb(frmField.HScrollArea, e.code); }},
-    {"frmField.VScrollArea", EventKind::Scroll, [](Event e) { ScrollThumb(frmField.VScrollArea, e.code); }},
-    {"frmField.HScrollArea", EventKind::Change,
-     [](Event e) { SetScrollValue(frmField.HScrollArea, e.code); }},
-    {"frmField.VScrollArea", EventKind::Change,
-     [](Event e) { SetScrollValue(frmField.VScrollArea, e.code); }},
+    {"frmField",               EventKind::KeyDown,   Kind::Order, [](Event e) { Form_KeyDown(e.code); }},
+    {"frmField.area",          EventKind::MouseDown, Kind::Order, [](Event e) { area_MouseDown(e.code, e.x, e.y); }},
+    {"frmField.cmdNextTurn",   EventKind::Click,     Kind::Order, [](Event) { NewTurn(); }},
+    {"frmField.imgStance",     EventKind::Click,     Kind::Order, [](Event e) { SetStance(e.index); }},
+    {"frmField.imgStop",       EventKind::Click,     Kind::Order, [](Event) { imgStop_Click(); }},
+    {"frmField.imgEnemyCount", EventKind::Click,     Kind::Order, [](Event) { imgEnemyCount_Click(); }},
+    {"frmField.comboMode",     EventKind::Choose,    Kind::Order, [](Event e) { ChooseMode(e.code); }},
+    {"frmField.area",          EventKind::MouseMove, Kind::View,  [](Event e) { area_MouseMove(e.x, e.y); }},
+    {"frmField.mnuExit",       EventKind::Click,     Kind::View,  [](Event) { EndGame(); }},
+    {"frmField.HScrollArea",   EventKind::Scroll,    Kind::View,  [](Event e) { ScrollThumb(frmField.HScrollArea, e.code); }},
+    {"frmField.VScrollArea",   EventKind::Scroll,    Kind::View,  [](Event e) { ScrollThumb(frmField.VScrollArea, e.code); }},
+    {"frmField.HScrollArea",   EventKind::Change,    Kind::View,  [](Event e) { SetScrollValue(frmField.HScrollArea, e.code); }},
+    {"frmField.VScrollArea",   EventKind::Change,    Kind::View,  [](Event e) { SetScrollValue(frmField.VScrollArea, e.code); }},
 };
+// clang-format on
 
 bool IsShown(const Control* control) {
     for (; control != nullptr && control->kind != ControlKind::Form; control = control->parent)
@@ -57,7 +62,10 @@ bool CanHappen(Event event) {
 }  // namespace
 
 void Dispatch(const InputEvent& event) {
-    for (const Handler& handler : Handlers)
-        if (handler.kind == event.kind && handler.control == event.control && CanHappen(event))
-            return handler.run(event);
+    for (const Handler& handler : Handlers) {
+        if (handler.event != event.kind || handler.control != event.control) continue;
+        const bool allowed = handler.kind == Kind::View || curTeam == SquadTeam;
+        if (allowed && CanHappen(event)) handler.run(event);
+        return;
+    }
 }

@@ -164,7 +164,11 @@ TEST_F(SightTest, ClicksOnTheCounterGoRoundTheSightedOnes) {
     EXPECT_EQ(frmField.shpSelect.Left, 34 * 20);
     click();
     EXPECT_EQ(frmField.lastSeenEnemy, 0);
+    UnitTable[0].seen[0] = UnitTable[0].seen[2] = 0;
+    click();
+    EXPECT_EQ(frmField.lastSeenEnemy, 0) << "what another unit saw is nowhere to be found";
     EnemyCounter("clear");
+    UnitTable[0].seen[2] = 1;
     click();
     EXPECT_EQ(frmField.lastSeenEnemy, 0) << "a hidden counter takes no clicks";
 }

@@ -181,6 +181,7 @@ TEST_F(TurnsTest, ASquadOfTheDeadAndTheDyingBleedsToDefeat) {
 
 TEST_F(TurnsTest, TheSquadsTurnEndHidesTheEnemyAgain) {
     MakeTeams(2, 2);
+    UnitTable[20].agility = UnitTable[21].agility = 0;  // they stay where they are
     UnitTable[0].seen[1] = 1;
     UnitTable[1].seen[1] = 1;
     UnitTable[21].cellX = 30;

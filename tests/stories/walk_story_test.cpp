@@ -85,6 +85,7 @@ TEST_F(StoryTest, AnEnemyIsSightedDrawnHiddenAndSightedAgain) {
     PutUnit(1, 40, 30);
     PutUnit(20, 45, 30);
     UnitTable[0].facing = West;
+    UnitTable[20].agility = 0;  // it stays where it is
     for (int x : {10, 40, 45})
         cellGrid[x == 10 ? 10 : 30][x].tileX = 0;
     frmField.area.canvas.Fill(0);
