@@ -172,8 +172,8 @@ void ListActions() {
 
 void ChooseMode(int index) {
     ComboBox& combo = frmField.comboMode;
-    const bool any = !combo.List.empty();
-    combo.ListIndex = any ? index : -1;
-    combo.Text = any ? combo.List.at(static_cast<std::size_t>(index)) : "";
+    const bool offered = index >= 0 && index < static_cast<int>(combo.List.size());
+    combo.ListIndex = offered ? index : -1;
+    combo.Text = offered ? combo.List[static_cast<std::size_t>(index)] : "";
     HandSync("real2fake");
 }

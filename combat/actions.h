@@ -15,5 +15,6 @@ void ActOnTarget(int x, int y);
 /// Fills the list of fire modes for the current unit and chooses the first.
 void ListActions();
 
-/// Chooses an entry of the list of fire modes, as a click on it does; in an empty list none is chosen.
+/// Chooses an entry of the list of fire modes, as a click on it does; where the list has no such entry, none
+/// is chosen.
 void ChooseMode(int index);

@@ -22,9 +22,7 @@
 namespace {
 
 void StepMode(int by) {
-    const ComboBox& combo = frmField.comboMode;
-    const int index = combo.ListIndex + by;
-    if (index >= 0 && index < static_cast<int>(combo.List.size())) ChooseMode(index);
+    comboMode_Click(frmField.comboMode.ListIndex + by);
 }
 
 struct KeyCommand {
@@ -122,6 +120,10 @@ void area_MouseDown(int button, float x, float y) {
 
 void area_MouseMove(float x, float y) {
     AreaTooltip(WholePixel(x), WholePixel(y), frmField);
+}
+
+void comboMode_Click(int index) {
+    if (index >= 0 && index < static_cast<int>(frmField.comboMode.List.size())) ChooseMode(index);
 }
 
 void SetStance(int newStance) {

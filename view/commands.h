@@ -16,6 +16,9 @@ void area_MouseMove(float x, float y);
 /// Changes the current unit's stance, 0 to 3, at 4 time for each step between the two.
 void SetStance(int newStance);
 
+/// A fire mode was chosen from its list; one that the list no longer has is none.
+void comboMode_Click(int index);
+
 /// Switches between "stop for fire" and "fire in motion", for all units, at 4 time of the current one.
 void imgStop_Click();
 

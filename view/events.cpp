@@ -34,7 +34,7 @@ constexpr Handler Handlers[] = {
     {"frmField.imgStance",     EventKind::Click,     Kind::Order, [](Event e) { SetStance(e.index); }},
     {"frmField.imgStop",       EventKind::Click,     Kind::Order, [](Event) { imgStop_Click(); }},
     {"frmField.imgEnemyCount", EventKind::Click,     Kind::Order, [](Event) { imgEnemyCount_Click(); }},
-    {"frmField.comboMode",     EventKind::Choose,    Kind::Order, [](Event e) { ChooseMode(e.code); }},
+    {"frmField.comboMode",     EventKind::Choose,    Kind::Order, [](Event e) { comboMode_Click(e.code); }},
     {"frmField.area",          EventKind::MouseMove, Kind::View,  [](Event e) { area_MouseMove(e.x, e.y); }},
     {"frmField.mnuExit",       EventKind::Click,     Kind::View,  [](Event) { EndGame(); }},
     {"frmField.HScrollArea",   EventKind::Scroll,    Kind::View,  [](Event e) { ScrollThumb(frmField.HScrollArea, e.code); }},

@@ -241,18 +241,24 @@ TEST_F(WalkingTest, NestedOrdersDoNotCrash) {
     };
     const auto anyEvent = [&]() -> InputEvent {
         static constexpr int Keys[] = {32, 33, 34, 35, 36, 37, 38, 39, 40, 97, 103, 219, 221};
-        switch (draw(6)) {
+        switch (draw(10)) {
             case 0:
                 return {EventKind::KeyDown, "frmField", -1, Keys[draw(13)]};
             case 1:
                 return {EventKind::Click, "frmField.imgStance", draw(4)};
             case 2:
                 return {EventKind::Click, "frmField.imgEnemyCount"};
+            case 3:
+                return {EventKind::Click, "frmField.cmdNextTurn"};
+            case 4:
+                return {EventKind::Choose, "frmField.comboMode", -1, draw(9) - 1};
+            case 5:
+                return {EventKind::Click, "frmField.imgStop"};
             default:
                 return ClickOn(1 + draw(30), 1 + draw(14), 1 + draw(2));
         }
     };
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 400; ++round) {
         const InputEvent first = anyEvent();
         for (int i = 0; i < 4; ++i)
             host.Queue(anyEvent(), host.pumps + draw(40));
@@ -260,7 +266,7 @@ TEST_F(WalkingTest, NestedOrdersDoNotCrash) {
             Dispatch(first);
             Dispatch(first);
         } catch (const ProcessEnded&) {
-            StartGame(static_cast<unsigned>(round));
+            StartGame(static_cast<unsigned>(round));  // the mission was won or lost
         }
         for (int i : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 20, 21, 22}) {
             const Unit& any = UnitTable[i];
