@@ -124,7 +124,7 @@ TEST_F(PathSearchTest, AThousandRandomFieldsGiveThePlainScansPlan) {
         const bool edge =
             round % 10 == 0;  // also from the first row and column, where the trace may leave the field
         const int walkerX = edge ? Draw(2) : Draw(FieldWidth);
-        const int walkerY = edge ? Draw(FieldHeight) : Draw(FieldHeight);
+        const int walkerY = Draw(FieldHeight);
         const bool own = round % 37 == 0;
         const int x = own ? walkerX : Draw(FieldWidth);
         const int y = own ? walkerY : Draw(FieldHeight);

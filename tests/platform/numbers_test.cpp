@@ -38,7 +38,7 @@ TEST(CheckedNumbers, OverflowIsThrownAtTheFirstValueThatDoesNotFit) {
     u8 byte = 255;
     EXPECT_THROW(byte += 1, RunTimeError);
     EXPECT_THROW(byte = -1, RunTimeError);
-    EXPECT_THROW(i16(std::numeric_limits<double>::quiet_NaN()), RunTimeError);
+    EXPECT_THROW(i16{std::numeric_limits<double>::quiet_NaN()}, RunTimeError);
     EXPECT_THROW(i16(4e9), RunTimeError);
 }
 
