@@ -70,7 +70,7 @@ void HandSync(std::string_view direction) {
         CopyFeed(direction, unit.handCap, unit.handRounds, held.capSecond, held.roundsSecond);
     else
         CopyFeed(direction, unit.handCap, unit.handRounds, held.capMain, held.roundsMain);
-    ShowWeaponBox();
+    ShowWeaponBox(unit.handRounds);
     const int mode = frmField.comboMode.ListIndex;
     unit.fireMode = mode < 0 ? 0 : mode;
 }

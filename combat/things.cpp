@@ -137,7 +137,10 @@ void RefreshHand() {
 void ShowSlot(int slot, Form& form) {
     const InvItem& item = UnitTable[curUnit].items[slot];
     ImageControl& image = SlotImage(slot, form);
-    if (item.name.empty()) return LoadPicture(image, "");
+    if (item.name.empty()) {
+        image.ToolTipText = "";
+        return LoadPicture(image, "");
+    }
     FitSlot(slot, form);
     const WeaponInfo& row = WeaponInfoByName(item.name);
     image.ToolTipText = row.fullName;

@@ -1,14 +1,18 @@
 #include "desktop/appearance.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QToolTip>
+
+#include "desktop/scale.h"
 
 namespace {
 
-constexpr int FontHeight = 12;  // pixels; the controls' sizes are fixed, so is their text
+constexpr int FontHeight = 12;  // in the records' pixels; the controls' sizes are fixed, so is their text
 
 constexpr QRgb Engraving = 0xFF0E1A14;
 constexpr QRgb Armour = 0xFF18291F;
@@ -50,6 +54,35 @@ constexpr RoleColour Colours[] = {
     // clang-format on
 };
 
+// The style sizes its arrows and frames by the resolution of the font that an option comes with: this is the
+// option at the resolution that goes with the windows' scale.
+template <typename Option>
+Option AtScale(const Option& option, const QFont& font) {
+    constexpr double InchesInMetre = 1 / 0.0254;
+    const int resolution = qRound(PlainResolution * ScaleFactor() * InchesInMetre);
+    QImage device(1, 1, QImage::Format_RGB32);
+    device.setDotsPerMeterX(resolution);
+    device.setDotsPerMeterY(resolution);
+    Option scaled = option;
+    scaled.fontMetrics = QFontMetrics(font, &device);
+    return scaled;
+}
+
+// Does `what` with the option at scale: lists and scroll bars have parts of a fixed size.
+template <typename Routine>
+auto WithScaled(const QStyleOptionComplex* option, const QWidget* widget, const Routine& what) {
+    const QFont font = widget != nullptr ? widget->font() : QApplication::font();
+    if (const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
+        const QStyleOptionSlider scaled = AtScale(*bar, font);
+        return what(&scaled);
+    }
+    if (const auto* const box = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
+        const QStyleOptionComboBox scaled = AtScale(*box, font);
+        return what(&scaled);
+    }
+    return what(option);
+}
+
 // A list unfolds below its box and scrolls, however long a log has grown; buttons carry words alone.
 class SteelStyle : public QProxyStyle {
   public:
@@ -59,6 +92,26 @@ class SteelStyle : public QProxyStyle {
                   QStyleHintReturn* returned) const override {
         if (hint == SH_ComboBox_Popup || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
         return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        if (option != nullptr) return QProxyStyle::pixelMetric(metric, option, widget);
+        const QStyleOption scaled = AtScale(QStyleOption(), QApplication::font());
+        return QProxyStyle::pixelMetric(metric, &scaled, widget);
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override {
+        WithScaled(option, widget, [&](const QStyleOptionComplex* scaled) {
+            QProxyStyle::drawComplexControl(control, scaled, painter, widget);
+        });
+    }
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override {
+        return WithScaled(option, widget, [&](const QStyleOptionComplex* scaled) {
+            return QProxyStyle::subControlRect(control, scaled, part, widget);
+        });
     }
 };
 
@@ -74,7 +127,7 @@ void SetAppearance(QApplication& application) {
     application.setPalette(palette);
     QToolTip::setPalette(palette);
     QFont font = application.font();
-    font.setPixelSize(FontHeight);
+    font.setPixelSize(ToScreen(FontHeight));
     application.setFont(font);
     QToolTip::setFont(font);
 }

@@ -3,5 +3,5 @@
 
 class QApplication;
 
-/// Gives every widget of `application` its style, colours and font.
+/// Gives every widget of `application` its style, colours and font, at the scale of the windows.
 void SetAppearance(QApplication& application);

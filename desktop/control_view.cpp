@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include <QCursor>
-#include <QToolTip>
+#include "desktop/scale.h"
 
 namespace {
 
@@ -29,6 +28,10 @@ std::string CaptionOf(const Control& control) {
             return static_cast<const Form&>(control).Caption;
         case ControlKind::Button:
             return static_cast<const Button&>(control).Caption;
+        case ControlKind::Label:
+            return static_cast<const Label&>(control).Caption;
+        case ControlKind::Text:
+            return static_cast<const TextBox&>(control).Text;
         case ControlKind::Menu:
             return static_cast<const MenuItem&>(control).Caption;
         default:
@@ -60,7 +63,15 @@ void ControlView::Sync() {
     if (widget.isHidden() == record.Visible) widget.setVisible(record.Visible);
 }
 
+// The widget's place in its parent's widget: both have their edges where the window's pixels round them to.
 QRect ControlView::Place() const {
+    QPoint origin;
+    for (const Control* in = record.parent; in != record.form; in = in->parent)
+        origin += QPoint(in->Left, in->Top);
+    return ToScreen(Extent().translated(origin)).translated(-ToScreen(origin.x()), -ToScreen(origin.y()));
+}
+
+QRect ControlView::Extent() const {
     return {record.Left, record.Top, std::max(record.Width, 0), std::max(record.Height, 0)};
 }
 
@@ -68,14 +79,15 @@ void ControlView::Send(EventKind kind, int code) const {
     sink(EventOf(record, kind, code));
 }
 
+QString ControlView::Tip() const {
+    return QString::fromStdString(record.ToolTipText);
+}
+
 void ControlView::SyncTip() {
-    if (record.ToolTipText == shownTip) return;
-    shownTip = record.ToolTipText;
-    const QString tip = QString::fromStdString(shownTip);
+    const QString tip = Tip();
+    if (widget.toolTip() == tip) return;
     widget.setToolTip(tip);
     widget.setAccessibleName(SpokenName(record));
-    // A tip that is on show follows the pointer at once.
-    if (QToolTip::isVisible() && widget.underMouse()) QToolTip::showText(QCursor::pos(), tip, &widget);
 }
 
 InputEvent EventOf(const Control& control, EventKind kind, int code) {
@@ -90,6 +102,7 @@ InputEvent EventOf(const Control& control, EventKind kind, int code) {
 QString SpokenName(const Control& control) {
     std::string caption = CaptionOf(control);
     std::erase(caption, '&');
+    std::replace(caption.begin(), caption.end(), '\r', ' ');
     if (!caption.empty()) return QString::fromStdString(caption);
     if (!control.ToolTipText.empty()) return QString::fromStdString(control.ToolTipText);
     return InWords(control.name);

@@ -34,18 +34,21 @@ class ControlView {
     /// The part that is the kind's own.
     virtual void SyncContent() = 0;
 
-    /// Where the widget lies in its parent.
-    virtual QRect Place() const;
+    /// Where the control lies in its parent, in the records' pixels.
+    virtual QRect Extent() const;
+
+    /// What the pointer reads on the control.
+    virtual QString Tip() const;
 
     void Send(EventKind kind, int code) const;
 
   private:
+    QRect Place() const;
     void SyncTip();
 
     Control& record;
     QWidget& widget;
     const EventSink& sink;
-    std::string shownTip;
 };
 
 /// An event of `control`, named as Dispatch expects it, as "frmField.imgStance".

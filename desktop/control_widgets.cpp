@@ -11,6 +11,8 @@
 #include <QWheelEvent>
 
 #include "desktop/picture_widget.h"
+#include "desktop/pointer_events.h"
+#include "desktop/text_widget.h"
 
 namespace {
 
@@ -23,6 +25,7 @@ ScrollBarWidget::ScrollBarWidget(ScrollBar& shown, QWidget& parent, const EventS
     : QScrollBar(shown.kind == ControlKind::HScrollBar ? Qt::Horizontal : Qt::Vertical, &parent),
       ControlView(shown, *this, to),
       bar(shown) {
+    new PointerEvents(*this, shown, to, Reports::Moves);
     setContextMenuPolicy(Qt::NoContextMenu);
     connect(this, &QScrollBar::sliderMoved, this, [this](int under) { Send(EventKind::Scroll, under); });
     connect(this, &QScrollBar::sliderReleased, this, [this] { Send(EventKind::Change, value()); });
@@ -74,6 +77,7 @@ QVariant EntryModel::data(const QModelIndex& index, int role) const {
 
 ComboWidget::ComboWidget(ComboBox& shown, QWidget& parent, const EventSink& to)
     : QComboBox(&parent), ControlView(shown, *this, to), combo(shown), entries(new EntryModel(shown, this)) {
+    new PointerEvents(*this, shown, to, Reports::Moves);
     setModel(entries);
     setMaxVisibleItems(RowsUnfolded);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -131,6 +135,7 @@ void ComboWidget::wheelEvent(QWheelEvent* event) {
 
 ButtonWidget::ButtonWidget(Button& shown, QWidget& parent, const EventSink& to)
     : QPushButton(&parent), ControlView(shown, *this, to), button(shown) {
+    new PointerEvents(*this, shown, to, Reports::Moves);
     connect(this, &QPushButton::clicked, this, [this] { Send(EventKind::Click, 0); });
 }
 
@@ -155,6 +160,10 @@ ControlView* MakeControlView(Control& control, QWidget& parent, const EventSink&
             return new ComboWidget(static_cast<ComboBox&>(control), parent, to);
         case ControlKind::Button:
             return new ButtonWidget(static_cast<Button&>(control), parent, to);
+        case ControlKind::Label:
+            return new LabelWidget(static_cast<Label&>(control), parent, to);
+        case ControlKind::Text:
+            return new TextBoxWidget(static_cast<TextBox&>(control), parent, to);
         case ControlKind::Shape:
         case ControlKind::Line:
             return new OutlineWidget(static_cast<Shape&>(control), parent, to);

@@ -106,11 +106,17 @@ void DesktopHost::Wait(std::chrono::nanoseconds time, bool pump) {
 }
 
 void DesktopHost::ShowModal(Form& form) {
-    WindowOf(form).setWindowModality(Qt::WindowModal);
+    FormWindow& window = WindowOf(form);
+    const bool outermost = !window.isModal();
+    if (outermost) {
+        window.hide();  // a window takes its modality when it is shown
+        window.setWindowModality(Qt::WindowModal);
+    }
     Sync();
     while (form.Visible)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     Sync();
+    if (outermost) window.setWindowModality(Qt::NonModal);
 }
 
 void DesktopHost::ShowMessage(const std::string& text) {

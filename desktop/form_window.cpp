@@ -1,5 +1,6 @@
 #include "desktop/form_window.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QAction>
@@ -7,13 +8,16 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 
 #include "desktop/control_widgets.h"
 #include "desktop/key_codes.h"
+#include "desktop/picture_widget.h"
 #include "desktop/pointer_events.h"
+#include "desktop/scale.h"
 
 namespace {
 
@@ -25,7 +29,8 @@ FormWindow::FormWindow(Form& shown, QWidget* owner, EventSink to)
     : QWidget(owner, owner != nullptr ? Qt::Dialog : Qt::Window),
       form(shown),
       sink(std::move(to)),
-      client(new QWidget(this)) {
+      client(new CanvasSurface(form.canvas, form.BackColor, *this)),
+      tips(*client) {
     setObjectName(QString::fromStdString(form.name));
     setFocusPolicy(Qt::StrongFocus);
     auto* layout = new QVBoxLayout(this);
@@ -33,7 +38,6 @@ FormWindow::FormWindow(Form& shown, QWidget* owner, EventSink to)
     layout->setSpacing(0);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(client);
-    client->setAutoFillBackground(true);
     client->setAccessibleName(SpokenName(form));
     client->setAttribute(Qt::WA_NoMousePropagation);
     new PointerEvents(*client, form, sink);
@@ -46,8 +50,13 @@ void FormWindow::Build() {
             AddMenuEntry(static_cast<MenuItem&>(*control));
             continue;
         }
+        if (control->kind == ControlKind::Timer) {
+            timers.push_back(std::make_unique<FormTimer>(static_cast<Timer&>(*control), sink));
+            continue;
+        }
         QWidget* const parent = control->parent == &form ? client : WidgetOf(*control->parent);
         views.push_back(MakeControlView(*control, *parent, sink));
+        tips.Watch(views.back()->Widget());
     }
 }
 
@@ -74,11 +83,14 @@ void FormWindow::Sync() {
     SyncMenu();
     for (ControlView* view : views)
         view->Sync();
+    for (const auto& timer : timers)
+        timer->Sync();
     SyncVisible();
+    tips.Sync();
 }
 
 void FormWindow::SyncFrame() {
-    const QSize inside(form.Width, form.Height);
+    const QSize inside = ToScreen(QRect(0, 0, form.Width, form.Height)).size();
     if (client->size() != inside || client->minimumSize() != inside) client->setFixedSize(inside);
     if (shownCaption != form.Caption) {
         shownCaption = form.Caption;
@@ -88,8 +100,9 @@ void FormWindow::SyncFrame() {
         shownColour = form.BackColor;
         QPalette colours = client->palette();
         colours.setColor(QPalette::Window, QColor(shownColour));
-        client->setPalette(colours);
+        client->setPalette(colours);  // the native controls take the colour of their frames from it
     }
+    client->SyncCanvas();
 }
 
 void FormWindow::SyncMenu() {
@@ -105,11 +118,22 @@ void FormWindow::SyncVisible() {
     if (isHidden() != form.Visible) return;
     if (form.Visible) {
         adjustSize();
-        if (QWidget* const owner = parentWidget())
-            move(owner->frameGeometry().center() - QRect({0, 0}, size()).center());
+        if (const QWidget* const owner = parentWidget()) move(PlaceBefore(*owner));
         justShown = true;
     }
     setVisible(form.Visible);
+}
+
+// In the owner's middle, but wholly on the screen. The desktop gives both windows the same frame.
+QPoint FormWindow::PlaceBefore(const QWidget& owner) const {
+    QRect place({0, 0}, size() + owner.frameGeometry().size() - owner.size());
+    place.moveCenter(owner.frameGeometry().center());
+    const QRect screen = owner.screen()->availableGeometry();
+    place.moveRight(std::min(place.right(), screen.right()));
+    place.moveBottom(std::min(place.bottom(), screen.bottom()));
+    place.moveLeft(std::max(place.left(), screen.left()));
+    place.moveTop(std::max(place.top(), screen.top()));
+    return place.topLeft();
 }
 
 void FormWindow::PaintNow() {

@@ -2,12 +2,16 @@
 // events.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include <QWidget>
 
 #include "desktop/control_view.h"
+#include "desktop/form_timer.h"
+#include "desktop/tips.h"
 
+class CanvasSurface;
 class QAction;
 class QMenuBar;
 
@@ -26,7 +30,7 @@ class FormWindow : public QWidget {
     /// window came on the screen this waits for the window system to show it.
     void PaintNow();
 
-    /// The widget of one of the form's controls, nullptr for a menu entry.
+    /// The widget of one of the form's controls, nullptr for a menu entry or a timer.
     QWidget* WidgetOf(const Control& control) const;
 
   protected:
@@ -46,15 +50,18 @@ class FormWindow : public QWidget {
     void SyncMenu();
     void SyncFrame();
     void SyncVisible();
+    QPoint PlaceBefore(const QWidget& owner) const;
     void SendKey(EventKind kind, const QKeyEvent& key) const;
     void AwaitExposure();
 
     Form& form;
     const EventSink sink;
-    QWidget* client;           // the inside, below the menu
+    CanvasSurface* client;  // the inside, below the menu
+    Tips tips;
     QMenuBar* menu = nullptr;  // only where the form has menu entries
     std::vector<MenuEntry> menuEntries;
     std::vector<ControlView*> views;  // in the order of the form's controls
+    std::vector<std::unique_ptr<FormTimer>> timers;
     std::string shownCaption;
     Colour shownColour = 0;
     bool justShown = false;

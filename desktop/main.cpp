@@ -2,18 +2,22 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <vector>
 
 #include <QApplication>
 #include <QIcon>
+#include <QScreen>
 #include <QTimer>
 
 #include "desktop/appearance.h"
 #include "desktop/desktop_host.h"
+#include "desktop/scale.h"
 #include "platform/files.h"
 #include "platform/run_time_error.h"
 #include "state/setup.h"
 #include "view/events.h"
 #include "view/field_form.h"
+#include "view/forms.h"
 
 namespace {
 
@@ -43,6 +47,21 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
     std::_Exit(EXIT_FAILURE);
 }
 
+// As the desktop wants it, by its resolution and its factor for programs.
+double WantedScale(const QByteArray& factor) {
+    bool isNumber = false;
+    const double number = factor.toDouble(&isNumber);
+    const double resolution = QGuiApplication::primaryScreen()->logicalDotsPerInch();
+    return (isNumber ? number : 1.0) * resolution / PlainResolution;
+}
+
+std::vector<const Form*> ShownForms() {
+    const std::vector<Form*> others = OtherForms();
+    std::vector<const Form*> forms(others.begin(), others.end());
+    forms.push_back(&frmField);
+    return forms;
+}
+
 }  // namespace
 
 int main(int /*count*/, char** arguments) {
@@ -51,19 +70,23 @@ int main(int /*count*/, char** arguments) {
         return EXIT_FAILURE;
     }
     qputenv("QT_NO_GLIB", "1");  // the other event dispatcher can leave keys lying until the next one comes
-    // Pictures are shown at whole multiples of their size, so that every pixel is as large as its neighbour.
-    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::RoundPreferFloor);
+    int countOfName = 1;         // the game takes no arguments
+    // The windows do their own scaling; the toolkit works in screen pixels.
+    const QByteArray factor = qgetenv("QT_SCALE_FACTOR");
+    qunsetenv("QT_SCALE_FACTOR");
+    qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
     const QtMessageHandler usual = qInstallMessageHandler(EndWithoutDisplay);
-    int countOfName = 1;  // the game takes no arguments
     QApplication application(countOfName, arguments);
     qInstallMessageHandler(usual);
     std::setlocale(LC_NUMERIC, "C");  // the game's numbers have a decimal point everywhere
     QApplication::setQuitOnLastWindowClosed(false);
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    SetScale(FittingScale(WantedScale(factor), screen, ShownForms()));
     SetAppearance(application);
     QApplication::setWindowIcon(GameIcon());
     SetProgramFolder(QApplication::applicationDirPath().toStdString());
 
-    DesktopHost host(frmField, {&frmProgress}, Dispatch);
+    DesktopHost host(frmField, OtherForms(), Dispatch);
     // Within the event loop, so that the game can wait, and show boxes, from its first moment.
     QTimer begin;
     begin.setSingleShot(true);

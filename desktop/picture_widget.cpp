@@ -1,50 +1,47 @@
 #include "desktop/picture_widget.h"
 
-#include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
 
 #include "desktop/pointer_events.h"
+#include "desktop/scale.h"
 
 namespace {
 
-// The picture's own pixels, not a copy: for as long as the picture stays as it is.
-QImage Wrapped(const Picture& picture, QImage::Format format) {
-    const auto* bytes = reinterpret_cast<const uchar*>(picture.Row(0));
-    return {bytes, picture.Width(), picture.Height(),
-            static_cast<qsizetype>(sizeof(Colour)) * picture.Width(), format};
-}
-
-QRect Rect(const Rectangle& rectangle) {
-    return {rectangle.left, rectangle.top, rectangle.width, rectangle.height};
+void DrawParts(QPainter& painter, const Picture& picture, const QRegion& parts, Ground ground) {
+    for (const QRect& part : parts)
+        painter.drawImage(part.topLeft(), Enlarged(picture, part, ground));
 }
 
 }  // namespace
 
-CanvasWidget::CanvasWidget(PictureBox& shown, QWidget& parent, const EventSink& to)
-    : QWidget(&parent), ControlView(shown, *this, to), box(shown), shownColour(shown.BackColor) {
+CanvasSurface::CanvasSurface(Picture& toShow, const Colour& aroundIt, QWidget& parent)
+    : QWidget(&parent), canvas(toShow), colour(aroundIt), shownColour(aroundIt) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    new PointerEvents(*this, shown, to);
 }
 
-void CanvasWidget::SyncContent() {
-    const Rectangle changed = box.canvas.TakeChanged();
-    const Colour* pixels = box.canvas.Bounds().Empty() ? nullptr : box.canvas.Row(0);
-    if (pixels != shownPixels || box.BackColor != shownColour)
+void CanvasSurface::SyncCanvas() {
+    const Rectangle changed = canvas.TakeChanged();
+    const Colour* pixels = canvas.Bounds().Empty() ? nullptr : canvas.Row(0);
+    if (pixels != shownPixels || colour != shownColour)
         update();
     else if (!changed.Empty())
-        update(Rect(changed));
+        update(Touched(changed));
     shownPixels = pixels;
-    shownColour = box.BackColor;
+    shownColour = colour;
 }
 
-void CanvasWidget::paintEvent(QPaintEvent* event) {
+void CanvasSurface::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    const QRect drawn = event->rect();
-    const QRect canvas = Rect(box.canvas.Bounds());
-    if (!canvas.contains(drawn)) painter.fillRect(drawn, QColor(box.BackColor));
-    const QRect copied = canvas & drawn;
-    if (!copied.isEmpty()) painter.drawImage(copied, Wrapped(box.canvas, QImage::Format_RGB32), copied);
+    const QRect shown = Touched(canvas.Bounds());
+    for (const QRect& beyond : event->region() - shown)
+        painter.fillRect(beyond, QColor(colour));
+    DrawParts(painter, canvas, event->region() & shown, Ground::Opaque);
+}
+
+CanvasWidget::CanvasWidget(PictureBox& shown, QWidget& parent, const EventSink& to)
+    : CanvasSurface(shown.canvas, shown.BackColor, parent), ControlView(shown, *this, to) {
+    new PointerEvents(*this, shown, to);
 }
 
 ImageWidget::ImageWidget(ImageControl& shown, QWidget& parent, const EventSink& to)
@@ -60,9 +57,9 @@ void ImageWidget::SyncContent() {
 
 void ImageWidget::paintEvent(QPaintEvent* event) {
     if (shownPicture == nullptr) return;
-    const QRect copied = event->rect() & Rect(shownPicture->Bounds());
-    if (copied.isEmpty()) return;
-    QPainter(this).drawImage(copied, Wrapped(*shownPicture, QImage::Format_ARGB32), copied);
+    QPainter painter(this);
+    const QRegion drawn = event->region() & Touched(shownPicture->Bounds());
+    DrawParts(painter, *shownPicture, drawn, Ground::SeenThrough);
 }
 
 OutlineWidget::OutlineWidget(Shape& shown, QWidget& parent, const EventSink& to)
@@ -77,16 +74,23 @@ void OutlineWidget::SyncContent() {
 }
 
 // A line's end is a pixel of its own.
-QRect OutlineWidget::Place() const {
-    const QRect place = ControlView::Place();
-    return shape.kind == ControlKind::Line ? place.adjusted(0, 0, 1, 1) : place;
+QRect OutlineWidget::Extent() const {
+    const QRect extent = ControlView::Extent();
+    return shape.kind == ControlKind::Line ? extent.adjusted(0, 0, 1, 1) : extent;
 }
 
 void OutlineWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setPen(QColor(shape.BorderColor));
-    if (shape.kind == ControlKind::Line)
-        painter.drawLine(0, 0, shape.Width, shape.Height);
-    else
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const QColor colour(shape.BorderColor);
+    const int breadth = ToScreen(1);
+    const QRect inner = rect().adjusted(breadth, breadth, -breadth, -breadth);
+    if (shape.kind == ControlKind::Shape) {
+        painter.setClipRegion(QRegion(rect()) - inner);
+        painter.fillRect(rect(), colour);
+    } else if (shape.Width == 0 || shape.Height == 0) {
+        painter.fillRect(rect(), colour);
+    } else {
+        painter.setPen(QPen(colour, breadth));
+        painter.drawLine(rect().topLeft(), rect().bottomRight());
+    }
 }

@@ -1,24 +1,37 @@
 // The widgets that show pixels: canvases that the game draws into, loaded pictures, and outlines. The game
-// content is copied to the screen as it is.
+// content is copied to the screen as it is, at the windows' scale.
 #pragma once
 
 #include <QWidget>
 
 #include "desktop/control_view.h"
 
-/// A picture box: its canvas, and its colour where no canvas is. Paints only what was changed.
-class CanvasWidget : public QWidget, public ControlView {
+/// Shows a canvas from the left top corner, and a colour where no canvas is. Paints only what was changed.
+class CanvasSurface : public QWidget {
+  public:
+    /// `toShow` and `aroundIt` must outlive the widget.
+    CanvasSurface(Picture& toShow, const Colour& aroundIt, QWidget& parent);
+
+    /// Takes what was changed since the last call, to be painted next.
+    void SyncCanvas();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    Picture& canvas;
+    const Colour& colour;
+    const Colour* shownPixels = nullptr;  // where the canvas had its pixels; a new canvas has them elsewhere
+    Colour shownColour;
+};
+
+/// A picture box.
+class CanvasWidget : public CanvasSurface, public ControlView {
   public:
     CanvasWidget(PictureBox& shown, QWidget& parent, const EventSink& to);
 
   protected:
-    void SyncContent() override;
-    void paintEvent(QPaintEvent* event) override;
-
-  private:
-    PictureBox& box;
-    const Colour* shownPixels = nullptr;  // where the canvas had its pixels; a new canvas has them elsewhere
-    Colour shownColour;
+    void SyncContent() override { SyncCanvas(); }
 };
 
 /// An image: its picture from the left top corner, cut at the control's size, what lies beneath seen through
@@ -36,14 +49,14 @@ class ImageWidget : public QWidget, public ControlView {
     PictureRef shownPicture;
 };
 
-/// The outline of a rectangle, one pixel wide, or a line to its opposite corner. The mouse doesn't meet it.
+/// The outline of a rectangle, a pixel wide, or a line to its opposite corner. The mouse doesn't meet it.
 class OutlineWidget : public QWidget, public ControlView {
   public:
     OutlineWidget(Shape& shown, QWidget& parent, const EventSink& to);
 
   protected:
     void SyncContent() override;
-    QRect Place() const override;
+    QRect Extent() const override;
     void paintEvent(QPaintEvent* event) override;
 
   private:

@@ -1,6 +1,7 @@
 #include "desktop/pointer_events.h"
 
 #include "desktop/key_codes.h"
+#include "desktop/scale.h"
 
 namespace {
 
@@ -15,14 +16,15 @@ int ButtonCode(Qt::MouseButtons buttons) {
 
 }  // namespace
 
-PointerEvents::PointerEvents(QWidget& target, const Control& ofControl, const EventSink& to)
-    : QObject(&target), widget(target), control(ofControl), sink(to) {
+PointerEvents::PointerEvents(QWidget& target, const Control& ofControl, const EventSink& to, Reports what)
+    : QObject(&target), widget(target), control(ofControl), sink(to), reports(what) {
     widget.setMouseTracking(true);
     widget.installEventFilter(this);
 }
 
 bool PointerEvents::eventFilter(QObject* /*watched*/, QEvent* event) {
     const auto mouse = [event]() -> const QMouseEvent& { return static_cast<const QMouseEvent&>(*event); };
+    if (reports == Reports::Moves && event->type() != QEvent::MouseMove) return false;
     switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
@@ -30,7 +32,7 @@ bool PointerEvents::eventFilter(QObject* /*watched*/, QEvent* event) {
             return true;
         case QEvent::MouseMove:
             Send(EventKind::MouseMove, ButtonCode(mouse().buttons()), mouse());
-            return true;
+            return reports == Reports::Everything;
         case QEvent::MouseButtonRelease:
             Release(mouse());
             return true;
@@ -42,8 +44,9 @@ bool PointerEvents::eventFilter(QObject* /*watched*/, QEvent* event) {
 void PointerEvents::Send(EventKind kind, int code, const QMouseEvent& mouse) const {
     InputEvent event = EventOf(control, kind, code);
     event.shift = ShiftState(mouse.modifiers());
-    event.x = static_cast<float>(mouse.position().x());
-    event.y = static_cast<float>(mouse.position().y());
+    const QPointF at = FromScreen(mouse.position());
+    event.x = static_cast<float>(at.x());
+    event.y = static_cast<float>(at.y());
     sink(event);
 }
 

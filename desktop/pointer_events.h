@@ -1,4 +1,5 @@
-// The mouse on what the game itself draws: presses, moves, releases and clicks as input events.
+// The mouse on the windows' widgets as input events: presses, moves, releases and clicks on what the game
+// itself draws, moves alone on the native controls.
 #pragma once
 
 #include <QMouseEvent>
@@ -6,12 +7,17 @@
 
 #include "desktop/control_view.h"
 
-/// Sends everything that the mouse does on a widget; the widget owns it. A click with the left button sends
-/// MouseDown, MouseUp and Click; the second press of a double click is a press like any other.
+/// What is sent: everything, and the widget itself sees nothing of it; or moves, and the widget goes on to
+/// handle all as it does.
+enum class Reports { Everything, Moves };
+
+/// Sends what the mouse does on a widget; the widget owns it. A click with the left button sends MouseDown,
+/// MouseUp and Click; the second press of a double click is a press like any other.
 class PointerEvents : public QObject {
   public:
     /// `ofControl` is what `target` shows; `to` must outlive it.
-    PointerEvents(QWidget& target, const Control& ofControl, const EventSink& to);
+    PointerEvents(QWidget& target, const Control& ofControl, const EventSink& to,
+                  Reports what = Reports::Everything);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -23,4 +29,5 @@ class PointerEvents : public QObject {
     QWidget& widget;
     const Control& control;
     const EventSink& sink;
+    const Reports reports;
 };

@@ -20,7 +20,8 @@ enum class ControlKind {
     List,   // a combo box whose text is always one of its list
     Button,
     Label,
-    Text,
+    Text,   // a text box; for reading alone
+    Timer,  // not seen; sends an event again and again
     Shape,  // a rectangle's outline
     Line,
     Menu,
@@ -85,6 +86,25 @@ struct Button : Control {
     std::string Caption;  // "&" stands before the letter of its shortcut
 };
 
+struct Label : Control {
+    Label() : Control(ControlKind::Label) {}
+    std::string Caption;  // lines parted by carriage returns
+    Colour BackColor = Rgb(0, 0, 0);
+    Colour ForeColor = Rgb(255, 255, 255);
+};
+
+struct TextBox : Control {
+    TextBox() : Control(ControlKind::Text) {}
+    std::string Text;
+    Colour BackColor = Rgb(0, 0, 0);
+    Colour ForeColor = Rgb(255, 255, 255);
+};
+
+struct Timer : Control {
+    Timer() : Control(ControlKind::Timer) {}
+    int Interval = 0;  // milliseconds from one tick to the next while Enabled; 0: none come
+};
+
 struct Shape : Control {
     explicit Shape(ControlKind ofKind = ControlKind::Shape) : Control(ofKind) {}
     Colour BorderColor = Rgb(0, 0, 0);
@@ -100,6 +120,7 @@ struct Form : Control {
     Form() : Control(ControlKind::Form) { form = this; }
     std::string Caption;
     Colour BackColor = Rgb(212, 208, 200);
+    Picture canvas;  // the background, where the form has a picture for one; drawn into
     std::vector<Control*> controls;
 
     /// The control of this name and place in its array, -1 for one on its own; nullptr when there is none.

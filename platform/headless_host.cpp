@@ -1,5 +1,7 @@
 #include "platform/headless_host.h"
 
+#include <stdexcept>
+
 HeadlessHost::HeadlessHost(DispatchRoutine routine) : dispatch(routine) {
     InstallHost(this);
 }
@@ -33,7 +35,9 @@ void HeadlessHost::Wait(std::chrono::nanoseconds time, bool pump) {
 void HeadlessHost::ShowModal(Form& form) {
     while (form.Visible && !queue.empty())
         PumpEvents();
-    form.Visible = false;
+    if (!form.Visible) return;
+    dispatch({EventKind::CloseRequest, form.name});
+    if (form.Visible) throw std::logic_error(form.name + " refuses to close, and no event is left for it");
 }
 
 void HeadlessHost::ShowMessage(const std::string& text) {

@@ -28,6 +28,8 @@ class HeadlessHost : public Host {
     void Refresh(Control& control) override;
     void PumpEvents() override;
     void Wait(std::chrono::nanoseconds time, bool pump) override;
+    /// Plays the queue for as long as the form is shown; when nothing is left, its close button is pressed.
+    /// Throws std::logic_error for a form that refuses.
     void ShowModal(Form& form) override;
     void ShowMessage(const std::string& text) override;
     void PlaySound(const SoundRequest& sound) override;

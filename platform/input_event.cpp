@@ -12,7 +12,7 @@ struct KindName {
     std::string_view name;
 };
 
-constexpr std::array<KindName, 10> KindNames = {{
+constexpr std::array<KindName, 11> KindNames = {{
     {EventKind::KeyDown, "KeyDown"},
     {EventKind::KeyUp, "KeyUp"},
     {EventKind::MouseDown, "MouseDown"},
@@ -23,6 +23,7 @@ constexpr std::array<KindName, 10> KindNames = {{
     {EventKind::Scroll, "Scroll"},
     {EventKind::Change, "Change"},
     {EventKind::CloseRequest, "CloseRequest"},
+    {EventKind::Timer, "Timer"},
 }};
 
 }  // namespace

@@ -15,6 +15,7 @@ enum class EventKind {
     Scroll,        // a scroll bar's thumb moves: `code` is the value under it
     Change,        // a scroll bar came to rest: `code` is its value
     CloseRequest,  // the window's close button
+    Timer,         // a timer's tick
 };
 
 struct InputEvent {

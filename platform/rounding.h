@@ -16,3 +16,8 @@ inline double RoundHalfEven(double value) {
 constexpr int FloorDivide(int value, int divisor) {
     return value >= 0 ? value / divisor : -((-value + divisor - 1) / divisor);
 }
+
+/// The pixel that a pointer's position falls on, half to even.
+inline int WholePixel(float position) {
+    return static_cast<int>(RoundHalfEven(static_cast<double>(position)));
+}

@@ -50,6 +50,15 @@ void AskHandOver() {
         SelectNextUnit();
 }
 
+void HoldHandOver(const std::function<void()>& body) {
+    const std::vector<int> askedBefore = game.handOverAsked;
+    {
+        const Running running;
+        body();
+    }
+    game.handOverAsked = askedBefore;
+}
+
 void PumpKeepingUnit(const std::function<void()>& pump) {
     const int unit = curUnit;
     pump();

@@ -26,6 +26,9 @@ void AsCurrentUnit(int unit, Body body) {
 /// operation has ended.
 void AskHandOver();
 
+/// Runs `body`, in which nobody hands over: the selection itself goes on to the next.
+void HoldHandOver(const std::function<void()>& body);
+
 /// Lets events run in the middle of whatever goes on, through `pump`, and makes the unit current again that
 /// was before.
 void PumpKeepingUnit(const std::function<void()>& pump);

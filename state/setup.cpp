@@ -15,7 +15,9 @@
 #include "state/state.h"
 #include "state/turns.h"
 #include "view/field_form.h"
+#include "view/forms.h"
 #include "view/log.h"
+#include "view/mini_map.h"
 #include "view/unit_painting.h"
 
 namespace {
@@ -163,6 +165,7 @@ void NewGame() {
     MakeEnemyTeam();
     LandTeams();
     frmField.area.Visible = true;
+    RefreshMiniMapWindow();
     curTeam = -1;
     NewTurn();
 }

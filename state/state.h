@@ -166,6 +166,11 @@ struct GameState {
     i32 money;
     i16 voiceOn;
     i16 weaponPage;  // row shown in the catalogue
+    i16 feedStep;    // size step of its feed there
+    i16 groundPage;  // page, 0 to 2, of the list of things at the soldier's feet
+    i16 lineStartX;  // where the typewriter's line began, and its pen
+    i16 penX;
+    i16 penY;
     i16 voiceCycle;  // the next of the sound slots 1 to 4
     i16 fieldBusy;   // True while the whole map is painted
     i16 walkOn;      // go-ahead of a walk in progress
@@ -206,6 +211,11 @@ inline auto& countryList = game.countryList;
 inline auto& money = game.money;
 inline auto& voiceOn = game.voiceOn;
 inline auto& weaponPage = game.weaponPage;
+inline auto& feedStep = game.feedStep;
+inline auto& groundPage = game.groundPage;
+inline auto& lineStartX = game.lineStartX;
+inline auto& penX = game.penX;
+inline auto& penY = game.penY;
 inline auto& voiceCycle = game.voiceCycle;
 inline auto& fieldBusy = game.fieldBusy;
 inline auto& walkOn = game.walkOn;

@@ -9,6 +9,7 @@
 #include "combat/things.h"
 #include "field/sightings.h"
 #include "state/mission_end.h"
+#include "state/operation.h"
 #include "state/state.h"
 #include "view/field_form.h"
 #include "view/log.h"
@@ -45,7 +46,7 @@ void Refill(Unit& unit) {
 void PassInvalid(const char* report, int healthStep) {
     AddToLog(LogName(curUnit) + report, 1);
     UnitTable[curUnit].health += healthStep;
-    CheckStatus();
+    HoldHandOver(CheckStatus);
 }
 
 // How many of the team have been passed over in one selection.
@@ -79,12 +80,7 @@ void TakeUpWeapon(Unit& unit) {
 // What a unit that can act does first. True when the game now waits for the player.
 bool BeginAct(Unit& unit) {
     CheckStatus();
-    TakeUpWeapon(unit);
-    ShowStance(unit.stance);
-    ShowStatus("");
-    if (unit.team == SquadTeam) ScrollToUnit(curUnit);
-    EnemyCounter("clear");
-    UnitLookEnemies();
+    ShowSelection();
     if (unit.team == EnemyTeam) AiAct();
     return unit.team == SquadTeam;
 }
@@ -141,6 +137,16 @@ void SelectNextUnit() {
         }
         ++passed.done;
     }
+}
+
+void ShowSelection() {
+    Unit& unit = UnitTable[curUnit];
+    TakeUpWeapon(unit);
+    ShowStance(unit.stance);
+    ShowStatus("");
+    if (unit.team == SquadTeam) ScrollToUnit(curUnit);
+    EnemyCounter("clear");
+    UnitLookEnemies();
 }
 
 void CheckStatus() {

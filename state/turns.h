@@ -10,6 +10,10 @@ void NewTurn();
 /// dead.
 void SelectNextUnit();
 
+/// Shows the current unit as the selected one: its weapon in its hand, the panel, its place in the view, and
+/// the enemies that it sees.
+void ShowSelection();
+
 /// The current unit gives up its turn: its time is gone, and the next one is selected.
 void TimeSpendAll();
 

@@ -9,12 +9,14 @@
 #include "data/terrain.h"
 #include "field/geometry.h"
 #include "field/walking.h"
+#include "personal/personal_file.h"
 #include "platform/rounding.h"
 #include "state/operation.h"
 #include "state/state.h"
 #include "state/turns.h"
 #include "view/field_form.h"
 #include "view/log.h"
+#include "view/mini_map.h"
 #include "view/panel.h"
 #include "view/sound.h"
 #include "view/unit_painting.h"
@@ -36,6 +38,7 @@ void StepKey(int dir) {
 }
 
 constexpr KeyCommand KeyCommands[] = {
+    {13, [](int) { OpenInfo(); }, 0},        // Enter
     {27, [](int) { TimeSpendAll(); }, 0},    // Esc
     {32, [](int) { SelectNextUnit(); }, 0},  // Space
     {33, StepKey, NorthEast},                // Page Up
@@ -54,8 +57,9 @@ constexpr KeyCommand KeyCommands[] = {
     {103, StepKey, NorthWest},
     {104, StepKey, North},
     {105, StepKey, NorthEast},
-    {219, StepMode, -1},  // [
-    {221, StepMode, +1},  // ]
+    {219, StepMode, -1},                   // [
+    {77, [](int) { ToggleBigMap(); }, 0},  // M
+    {221, StepMode, +1},                   // ]
 };
 
 int CellUnder(float pixel) {
@@ -68,6 +72,15 @@ void SelectClicked(int clicked) {
     SelectNextUnit();
 }
 
+// A click on the squad's vehicle opens its store for a soldier who faces it. Whether he still has the order
+// then.
+bool OpenStore(int cellX, int cellY) {
+    if (!IsStoreTile(cellX, cellY) || !FacingStoreTile(curUnit)) return true;
+    const int opener = curUnit;
+    OpenInfo();
+    return curUnit == opener;
+}
+
 // A click on the field with the left button: a selection, or an order to turn and then to walk.
 void OrderByClick(int cellX, int cellY, float x, float y) {
     const int occupant = cellGrid[cellY][cellX].occupant;
@@ -77,6 +90,8 @@ void OrderByClick(int cellX, int cellY, float x, float y) {
                      ", waiting for its turn.",
                  1);
     }
+    // The order is for the soldier who was at the store when it was given.
+    if (!OpenStore(cellX, cellY)) return;
     walkOn = 1;
     if (cellX == lastClickX && cellY == lastClickY) {
         WalkTo(cellX, cellY, 100);
@@ -85,10 +100,6 @@ void OrderByClick(int cellX, int cellY, float x, float y) {
     lastClickX = cellX;
     lastClickY = cellY;
     TurnTowards(x, y);
-}
-
-int WholePixel(float pixel) {
-    return static_cast<int>(RoundHalfEven(static_cast<double>(pixel)));
 }
 
 // A click with the right button: turn there and act, one order of one soldier.
@@ -108,6 +119,7 @@ constexpr int SwitchColumn = 30;  // where the switch's voice sounds
 void Form_KeyDown(int code) {
     ++game.orders;
     if (UnitTable[curUnit].status != Active) SelectNextUnit();
+    if (frmField.bigMapShown) return ToggleBigMap();
     for (const KeyCommand& command : KeyCommands)
         if (command.code == code) return command.run(command.argument);
 }

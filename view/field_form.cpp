@@ -1,6 +1,5 @@
 #include "view/field_form.h"
 
-#include <memory>
 #include <string>
 
 #include "state/state.h"
@@ -31,6 +30,7 @@ FieldForm::FieldForm() {
     Visible = false;
     PutTopLevel();
     PutPanel();
+    PutMiniMap();
     PutBars();
     PutStances();
     for (Picture& buffer : picBuffer)
@@ -42,11 +42,15 @@ void FieldForm::PutTopLevel() {
     //  control      name           in     left  top  width height
     Put(mnuInfo,     "mnuInfo",     *this,    0,    0,    0,   0);
     Put(mnuExit,     "mnuExit",     *this,    0,    0,    0,   0);
+    Put(picShade,    "picShade",    *this,  604,  609, 1540, 940);
+    Put(picSlateStripes, "picSlateStripes", *this, 0, 512, 801, 12);
     Put(area,        "area",        *this,   20,   10, 1520, 920);
+    PutArray(lblChk, "lblChk",      area,    40,  440,   20,  17);
     Put(shpSelect,   "shpSelect",   area,     8,  440,   20,  20);
     Put(imgBlowup,   "imgBlowup",   area,   680,    0,   60,  60);
     Put(imgCover,    "imgCover",    area,   660,   20,   20,  20);
     Put(picForest,   "picForest",   area,   288,   24,  440,  40);
+    Put(picAreaWhole, "picAreaWhole", *this,  0, 376,   33,   9);
     Put(picSlateL,   "picSlateL",   *this,    0,   10,   20, 470);
     Put(picSlateR,   "picSlateR",   *this,  780,    2,   20, 470);
     Put(VScrollArea, "VScrollArea", picSlateR, 0, 288,   17, 177);
@@ -60,16 +64,20 @@ void FieldForm::PutTopLevel() {
     area.canvas = Picture(area.Width, area.Height, FieldGreen);
     shpSelect.BorderColor = SelectionYellow;
     for (Control* hidden : {static_cast<Control*>(&shpSelect), static_cast<Control*>(&imgBlowup),
-                            static_cast<Control*>(&imgCover), static_cast<Control*>(&picForest)})
+                            static_cast<Control*>(&imgCover), static_cast<Control*>(&picForest),
+                            static_cast<Control*>(&picAreaWhole), static_cast<Control*>(&lblChk[0])})
         hidden->Visible = false;
     for (Control* overlay : {static_cast<Control*>(&shpSelect), static_cast<Control*>(&imgBlowup),
                              static_cast<Control*>(&imgCover)})
         overlay->Enabled = false;  // a click goes through to the field
+    lblChk[0].Caption = "255";
+    picShade.BackColor = FieldGreen;
     Stretch(VScrollArea, 460);
     picForest.canvas = StoredPicture("picForest.bmp");
     picSlateL.canvas = StoredPicture("picSlateL.bmp");
     picSlateR.canvas = StoredPicture("picSlateR.bmp");
     picSlateU.canvas = StoredPicture("picSlateU.bmp");
+    picSlateStripes.canvas = StoredPicture("picSlateStripes.bmp");
     imgMarkH.Picture = StoredImage("imgMarkH.gif");
     imgMarkV.Picture = StoredImage("imgMarkV.gif");
 }
@@ -80,8 +88,7 @@ void FieldForm::PutPanel() {
     Put(picSlateD,    "picSlateD",     *this,         0, 470,  801, 200);
     Put(HScrollArea,  "HScrollArea",   picSlateD,   568,   0,  209,  17);
     Put(cmbLog,       "cmbLog",        picSlateD,    16,   8,  425,  21);
-    Put(picAreaMap,   "picAreaMap",    picSlateD,    16,  40,  152,  92);
-    PutArray(picAreaMapUnit, "picAreaMapUnit", picAreaMap, 104, 8, 2, 2);
+    Put(Line1,        "Line1",         picSlateD,   472,  40,  144,   0);
     Put(imgEnemyCount, "imgEnemyCount", picSlateD,  448,   8,   25,  19);
     Put(picBarWeapon, "picBarWeapon",  picSlateD,   656,  31,  117,  42);
     PutArray(imgInv,  "imgInv",        picBarWeapon,  0,   0,  117,  42);
@@ -94,10 +101,6 @@ void FieldForm::PutPanel() {
     cmbLog.ForeColor = Rgb(0, 192, 0);
     comboMode.BackColor = Rgb(24, 41, 31);
     comboMode.ForeColor = Rgb(200, 214, 196);
-    picAreaMap.BackColor = FieldGreen;
-    picAreaMap.canvas = Picture(picAreaMap.Width, picAreaMap.Height, FieldGreen);
-    for (PictureBox& dot : picAreaMapUnit)
-        dot.Visible = false;  // until its unit is first drawn
     imgEnemyCount.Visible = false;
     imgEnemyCount.Tag = "0";
     imgInv[0].Tag = "base-large";
@@ -105,6 +108,30 @@ void FieldForm::PutPanel() {
     cmdNextTurn.Caption = "End Turn";
     picBarWeapon.canvas = StoredPicture("picBarWeapon.bmp");
     picSlateD.canvas = StoredPicture("picSlateD.bmp");
+}
+
+void FieldForm::PutMiniMap() {
+    // clang-format off
+    //  control          name               in              left top width height
+    Put(picAreaMap,      "picAreaMap",      picSlateD,        16, 40,  152,    92);
+    Put(picAreaMapCover, "picAreaMapCover", picAreaMap,        0,  0,   76,    46);
+    Put(shpAreaMap2,     "shpAreaMap2",     picAreaMapCover,   0,  0,   76,    46);
+    Put(lineAreaMapH,    "lineAreaMapH",    picAreaMapCover,   0, 32,  152,     0);
+    Put(lineAreaMapV,    "lineAreaMapV",    picAreaMapCover,  40,  0,    0,    92);
+    PutArray(picAreaMapUnit, "picAreaMapUnit", picAreaMap,   104,  8,    2,     2);
+    // clang-format on
+    for (PictureBox* map : {&picAreaMap, &picAreaMapCover}) {
+        map->BackColor = FieldGreen;
+        map->canvas = Picture(map->Width, map->Height, FieldGreen);
+    }
+    for (Shape* frame : {&shpAreaMap2, &lineAreaMapH, &lineAreaMapV})
+        frame->BorderColor = SelectionYellow;
+    lineAreaMapH.Visible = false;
+    lineAreaMapV.Visible = false;
+    for (PictureBox& dot : picAreaMapUnit) {
+        dot.Visible = false;  // until its unit is first drawn
+        dot.Enabled = false;  // a click is one on the map
+    }
 }
 
 void FieldForm::PutBars() {
@@ -165,11 +192,4 @@ ProgressForm::ProgressForm() {
     imgProgress1.Visible = false;
     imgProgress1.BackColor = SelectionYellow;
     Shape1.Visible = false;
-}
-
-void ResetForms() {
-    std::destroy_at(&frmField);
-    std::construct_at(&frmField);
-    std::destroy_at(&frmProgress);
-    std::construct_at(&frmProgress);
 }

@@ -14,13 +14,17 @@ struct FieldForm : Form {
     MenuItem mnuExit;
 
     PictureBox picSlateU;
+    PictureBox picSlateStripes;
+    PictureBox picShade;
     ImageControl imgMarkH;
     PictureBox picSlateL;
     PictureBox picSlateR;
     ScrollBar VScrollArea{ControlKind::VScrollBar};
     ImageControl imgMarkV;
     PictureBox picSlateD;
-    PictureBox area;  // the field, moved behind its window
+    PictureBox picAreaWhole;  // the big map, in the field's place while it is up
+    PictureBox area;          // the field, moved behind its window
+    Array<Label, 0, 0> lblChk;
     Shape shpSelect;
     ImageControl imgBlowup;
     ImageControl imgCover;
@@ -28,7 +32,12 @@ struct FieldForm : Form {
     ScrollBar HScrollArea{ControlKind::HScrollBar};
     ComboBox cmbLog{ControlKind::Combo};
     PictureBox picAreaMap;
+    PictureBox picAreaMapCover;  // the lit window
+    Shape shpAreaMap2;
+    Shape lineAreaMapH{ControlKind::Line};
+    Shape lineAreaMapV{ControlKind::Line};
     Array<PictureBox, 0, UnitPlaces - 1> picAreaMapUnit;
+    Shape Line1{ControlKind::Line};
     ImageControl imgBars;
     Array<ImageControl, 0, 15> imgBar;  // 0 to 3 the bars, then three digits for each
     ImageControl imgBarWunder;
@@ -49,9 +58,12 @@ struct FieldForm : Form {
     i16 enemyCount;     // distinct enemies that the current unit has sighted since the last "clear"
     i16 lastSeenEnemy;  // the place that a click on the counter showed last
 
+    bool bigMapShown = false;
+
   private:
     void PutTopLevel();
     void PutPanel();
+    void PutMiniMap();
     void PutBars();
     void PutStances();
 };
@@ -66,6 +78,3 @@ struct ProgressForm : Form {
 
 extern FieldForm frmField;
 extern ProgressForm frmProgress;
-
-/// Puts the windows back to what they are at program start.
-void ResetForms();

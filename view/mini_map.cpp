@@ -1,15 +1,81 @@
 #include "view/mini_map.h"
 
 #include "platform/blit.h"
+#include "platform/rounding.h"
 #include "state/state.h"
 #include "view/field_form.h"
+#include "view/scrolling.h"
+
+namespace {
+
+constexpr int WindowColumns = 38;  // cells in view
+constexpr int WindowRows = 23;
+constexpr int BigMapRatio = 2;
+
+// The first cell in view along one axis, with the clicked one in the middle. The far end is where it was
+// before the near one was held. ODDITY: every second pixel of the mini map lies half a cell further, and the
+// view stops there between two cells.
+double FirstInView(int pixel, int inView, int cells) {
+    const double wanted = pixel / static_cast<double>(MiniMapCellSize) - FloorDivide(inView, 2);
+    const double last = inView + wanted - 1;
+    double first = wanted < 0 ? 0 : wanted;
+    if (last > cells - 1) first += cells - 1 - last;
+    return first;
+}
+
+void ScrollToCell(ScrollBar& bar, double cell) {
+    SetScrollValue(bar, static_cast<int>(RoundHalfEven(cell * CellSize)));
+}
+
+}  // namespace
 
 void picStretch(const Picture& source, Picture& target, int ratio) {
     StretchBlt(target, {0, 0, source.Width() / ratio, source.Height() / ratio}, source, source.Bounds());
 }
 
 void picStretchSquare(FieldForm& form, int x, int y) {
-    StretchBlt(form.picAreaMap.canvas,
-               {x * MiniMapCellSize, y * MiniMapCellSize, MiniMapCellSize, MiniMapCellSize}, form.area.canvas,
+    const Rectangle square = {x * MiniMapCellSize, y * MiniMapCellSize, MiniMapCellSize, MiniMapCellSize};
+    StretchBlt(form.picAreaMap.canvas, square, form.area.canvas,
                {x * CellSize, y * CellSize, CellSize, CellSize});
+    const PictureBox& cover = form.picAreaMapCover;
+    BitBlt(form.picAreaMapCover.canvas, square.left - cover.Left, square.top - cover.Top, square.width,
+           square.height, form.picAreaMap.canvas, square.left, square.top, RasterOp::SRCCOPY);
+}
+
+void picMicroMapHilite() {
+    PictureBox& cover = frmField.picAreaMapCover;
+    cover.Visible = false;
+    cover.Left = frmField.HScrollArea.Value / MiniMapRatio;
+    cover.Top = frmField.VScrollArea.Value / MiniMapRatio;
+    BitBlt(cover.canvas, 0, 0, cover.Width, cover.Height, frmField.picAreaMap.canvas, cover.Left, cover.Top,
+           RasterOp::SRCCOPY);
+    cover.Visible = true;
+}
+
+void RefreshMiniMapWindow() {
+    picMicroMapHilite();
+}
+
+void MapClick(int x, int y) {
+    ScrollToCell(frmField.HScrollArea, FirstInView(x, WindowColumns, FieldWidth));
+    ScrollToCell(frmField.VScrollArea, FirstInView(y, WindowRows, FieldHeight));
+}
+
+void ToggleBigMap() {
+    frmField.bigMapShown = !frmField.bigMapShown;
+    const bool shown = frmField.bigMapShown;
+    for (Control* control :
+         {static_cast<Control*>(&frmField.HScrollArea), static_cast<Control*>(&frmField.VScrollArea),
+          static_cast<Control*>(&frmField.imgMarkH), static_cast<Control*>(&frmField.imgMarkV)})
+        control->Visible = !shown;
+    PictureBox& whole = frmField.picAreaWhole;
+    if (shown) {
+        whole.Left = ViewLeft;
+        whole.Top = ViewTop;
+        whole.Width = frmField.area.Width / BigMapRatio;
+        whole.Height = frmField.area.Height / BigMapRatio;
+        whole.canvas = Picture(whole.Width, whole.Height);
+        picStretch(frmField.area.canvas, whole.canvas, BigMapRatio);
+    }
+    whole.Visible = shown;
 }

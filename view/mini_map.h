@@ -1,4 +1,5 @@
-// The mini map of the panel: the whole field at two pixels a cell.
+// The mini map of the panel, the whole field at two pixels a cell, with the lit window over what is in view;
+// and the big map, the whole field at half its size in the window's place.
 #pragma once
 
 #include "platform/picture.h"
@@ -11,5 +12,15 @@ constexpr int MiniMapCellSize = 2;
 /// Scales the whole of `source` into `target` at its width and height divided by `ratio`.
 void picStretch(const Picture& source, Picture& target, int ratio);
 
-/// Scales the pixels of cell (x, y) of the form's `area` into its mini map.
+/// Scales the pixels of cell (x, y) of the form's `area` into its mini map, and into the lit window over it.
 void picStretchSquare(FieldForm& form, int x, int y);
+
+/// Puts the lit window where the view is.
+void picMicroMapHilite();
+void RefreshMiniMapWindow();
+
+/// Centres the view on a pixel of the mini map, as far as the field goes.
+void MapClick(int x, int y);
+
+/// Shows the big map, or takes it away. It is a still, drawn when it is shown.
+void ToggleBigMap();

@@ -4,9 +4,9 @@
 #include "platform/blit.h"
 #include "state/operation.h"
 #include "state/state.h"
+#include "view/depot_form.h"
 #include "view/field_form.h"
 #include "view/mini_map.h"
-#include "view/stored_pictures.h"
 #include "view/unit_painting.h"
 
 namespace {
@@ -30,8 +30,8 @@ void PaintCell(int x, int y, Picture& target, int tileX, int tileY) {
     const int row = ownTile ? static_cast<int>(cell.tileY) : tileY;
     const int left = x * CellSize;
     const int top = y * CellSize;
-    BitBlt(target, left, top, CellSize, CellSize, StoredPicture("picMap.bmp"), column * CellSize,
-           row * CellSize, RasterOp::SRCCOPY);
+    BitBlt(target, left, top, CellSize, CellSize, frmDepot.picMap.canvas, column * CellSize, row * CellSize,
+           RasterOp::SRCCOPY);
     MiniMapCell(frmField, x, y);
     if (CountAt(x, y, ChargeBase) > 0) PaintSprite(ChargeSprite, left, top);
     if (CountAt(x, y, PileBase) > 0) PaintSprite(PileSprite, left, top);
@@ -48,8 +48,8 @@ void PaintUnitAtCell(int x, int y) {
 void PaintSprite(int sprite, int pixelX, int pixelY) {
     const int sourceX = sprite % SpritesInRow * CellSize;
     const int sourceY = sprite / SpritesInRow * CellSize;
-    PaintMasked(frmField.area.canvas, pixelX, pixelY, StoredPicture("picSprites.bmp"), sourceX, sourceY,
-                sourceX, sourceY + MaskBelow);
+    PaintMasked(frmField.area.canvas, pixelX, pixelY, frmDepot.picSprites.canvas, sourceX, sourceY, sourceX,
+                sourceY + MaskBelow);
 }
 
 void PaintMasked(Picture& target, int pixelX, int pixelY, const Picture& sheet, int spriteX, int spriteY,

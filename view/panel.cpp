@@ -7,6 +7,7 @@
 #include <string>
 
 #include "data/weapons_file.h"
+#include "personal/typewriter.h"
 #include "platform/blit.h"
 #include "platform/picture_file.h"
 #include "state/operation.h"
@@ -121,6 +122,11 @@ void ShowStance(int stance) {
                     "\\pic\\stance" + std::to_string(i) + (i == stance ? "on" : "off") + ".gif");
 }
 
-void ShowWeaponBox() {
-    frmField.picBarWeapon.canvas = *ReadPictureFile("\\pic\\weapon.gif");
+void ShowWeaponBox(int rounds) {
+    constexpr int RoundsLeft = 90;
+    constexpr int RoundsTop = 24;
+    constexpr bool WithShadow = true;
+    Picture& box = frmField.picBarWeapon.canvas;
+    box = *ReadPictureFile("\\pic\\weapon.gif");
+    if (rounds > 0) Typewriter(std::to_string(rounds), WithShadow, box, RoundsLeft, RoundsTop);
 }

@@ -14,5 +14,5 @@ void BarDigits(int bar, int value);
 /// Lights the picture of a stance, 0 to 3, and no other.
 void ShowStance(int stance);
 
-/// Shows the empty weapon box.
-void ShowWeaponBox();
+/// Shows the weapon box with the rounds left in the feed; none for 0.
+void ShowWeaponBox(int rounds);

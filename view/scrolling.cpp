@@ -2,18 +2,13 @@
 
 #include "state/state.h"
 #include "view/field_form.h"
-
-namespace {
-
-constexpr int AreaLeft = 20;  // where the field's left top cell is shown when nothing is scrolled
-constexpr int AreaTop = 10;
-
-}  // namespace
+#include "view/mini_map.h"
 
 void SetScrollValue(ScrollBar& bar, int value) {
     bar.Value = value;
-    frmField.area.Left = AreaLeft - frmField.HScrollArea.Value;
-    frmField.area.Top = AreaTop - frmField.VScrollArea.Value;
+    frmField.area.Left = ViewLeft - frmField.HScrollArea.Value;
+    frmField.area.Top = ViewTop - frmField.VScrollArea.Value;
+    if (value % CellSize == 0) RefreshMiniMapWindow();
 }
 
 void ScrollThumb(ScrollBar& bar, int value) {

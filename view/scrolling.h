@@ -1,10 +1,13 @@
-// The scroll bars, which move `area` behind its window.
+// Scrolling: the field moves behind its window by whole cells.
 #pragma once
 
 struct ScrollBar;
 
-/// Sets a bar's value and moves the field to it.
+constexpr int ViewLeft = 20;  // where the field is seen on the window, and stands when nothing is scrolled
+constexpr int ViewTop = 10;
+
+/// A bar of the main window came to a value: moves the field, and on a whole cell the mini map's lit window.
 void SetScrollValue(ScrollBar& bar, int value);
 
-/// A bar's thumb is being moved to `value`: the field jumps in whole cells.
+/// The bar's thumb is over `value`: the field follows in whole cells.
 void ScrollThumb(ScrollBar& bar, int value);

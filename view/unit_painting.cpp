@@ -5,13 +5,13 @@
 #include "platform/blit.h"
 #include "platform/host.h"
 #include "state/state.h"
+#include "view/depot_form.h"
 #include "view/field_form.h"
 #include "view/mini_map.h"
 #include "view/overlays.h"
 #include "view/painting.h"
 #include "view/scrolling.h"
 #include "view/sound.h"
-#include "view/stored_pictures.h"
 
 namespace {
 
@@ -47,8 +47,8 @@ void MoveUnseen(Unit& unit, int dx, int dy) {
 void PaintManSprite(const Unit& unit) {
     const int sourceX = (unit.team * StancesInTeam + unit.stance) * CellSize;
     const int sourceY = unit.facing * CellSize;
-    PaintMasked(frmField.area.canvas, unit.pixelX, unit.pixelY, StoredPicture("picPeople.bmp"), sourceX,
-                sourceY, sourceX, sourceY + MaskBelow);
+    PaintMasked(frmField.area.canvas, unit.pixelX, unit.pixelY, frmDepot.picPeople.canvas, sourceX, sourceY,
+                sourceX, sourceY + MaskBelow);
 }
 
 void PaintFrame(Unit& unit, int dx, int dy) {

@@ -4,8 +4,6 @@
 
 #include <QPainter>
 
-#include "palette.h"
-
 namespace art {
 namespace {
 
@@ -19,13 +17,13 @@ double Threshold(int x, int y) {
 
 }  // namespace
 
-QImage Settle(const QImage& picture, double dither) {
+QImage Settle(const QImage& picture, double dither, Palette palette) {
     QImage settled(picture.size(), QImage::Format_ARGB32);
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
             const QRgb colour = picture.pixel(x, y);
             const bool shown = qAlpha(colour) >= AlphaHalf;
-            const Ink ink = NearestInk(colour, dither * Threshold(x, y));
+            const Ink ink = NearestInk(colour, dither * Threshold(x, y), palette);
             settled.setPixel(x, y, shown ? Inks[static_cast<std::size_t>(ink)].colour : 0u);
         }
     }

@@ -3,6 +3,8 @@
 
 #include <QImage>
 
+#include "palette.h"
+
 namespace art {
 
 constexpr int CellSize = 20;
@@ -12,7 +14,7 @@ constexpr double GroundDither = 0.035;
 
 // Every pixel on its nearest ink. Alpha is decided at one half: a pixel is there or it isn't. `dither` is the
 // lightness over which neighbouring inks are mixed by a fixed 4 by 4 pattern, 0 for none.
-QImage Settle(const QImage& picture, double dither = GroundDither);
+QImage Settle(const QImage& picture, double dither = GroundDither, Palette palette = Palette::Field);
 
 // Copies a picture onto another, see-through pixels leave what is there.
 void Place(QImage& target, int x, int y, const QImage& picture);

@@ -20,7 +20,7 @@ int PrintedWidth(std::string_view text);
 bool GlyphPixel(char letter, int x, int y);
 
 // Broad capitals as an outline, `height` pixels high, starting at a point, `gap` between letters. The letters
-// are those of the game's name.
+// are those of the game's name and of its windows' headings.
 QPainterPath Title(std::string_view text, double x, double y, double height, double gap);
 
 double TitleWidth(std::string_view text, double height, double gap);

@@ -6,22 +6,29 @@
 #include <vector>
 
 #include "canvas.h"
+#include "chevrons.h"
 #include "contact_sheets.h"
 #include "digits.h"
+#include "dossier_sheet.h"
 #include "emblem.h"
+#include "file_buttons.h"
 #include "flags.h"
 #include "inventory_pictures.h"
+#include "medals.h"
 #include "mock_field.h"
+#include "mock_file.h"
 #include "overlays.h"
 #include "panel.h"
 #include "people.h"
 #include "picture_writer.h"
+#include "portraits.h"
 #include "progress_picture.h"
 #include "slate.h"
 #include "sprites.h"
 #include "stance_buttons.h"
 #include "tile_rows.h"
 #include "tile_sheet.h"
+#include "typewriter_glyphs.h"
 
 namespace art {
 namespace {
@@ -134,21 +141,94 @@ void WriteFlags(const PictureWriter& writer) {
     writer.Write("sheets/flags.png", ContactSheet("FLAGS", flags, 14, 4));
 }
 
-void WriteInventory(const PictureWriter& writer) {
+void WriteInventory(const PictureWriter& writer, const std::vector<NamedPicture>& things,
+                    const std::vector<NamedPicture>& packs) {
     std::vector<QImage> wide;
     std::vector<QImage> small;
-    for (const NamedPicture& thing : InventoryPictures()) {
+    for (const NamedPicture& thing : things) {
         writer.Write("pic/inv/" + thing.name + ".gif", thing.picture);
         (thing.picture.width() > thing.picture.height() ? wide : small).push_back(thing.picture);
     }
     std::vector<QImage> boards;
-    for (const NamedPicture& board : PackBoards()) {
-        writer.Write("pic/inv/" + board.name + ".bmp", board.picture);
-        boards.push_back(board.picture);
+    for (const NamedPicture& pack : packs) {
+        writer.Write("pic/inv/" + pack.name + ".bmp", pack.picture);
+        boards.push_back(pack.picture);
     }
     writer.Write("sheets/packs.png", ContactSheet("PACKS", boards, 4, 2));
     writer.Write("sheets/inventory_wide.png", ContactSheet("WIDE THINGS", wide, 10, 2));
     writer.Write("sheets/inventory_small.png", ContactSheet("SMALL THINGS", small, 14, 2));
+}
+
+std::vector<QImage> WriteFaces(const PictureWriter& writer) {
+    const std::vector<QImage> faces = Portraits();
+    for (std::size_t i = 0; i < faces.size(); ++i)
+        writer.Write("pic/faces/usa" + TwoDigits(static_cast<int>(i) + 1) + ".bmp", faces[i]);
+    writer.Write("sheets/portraits.png", ContactSheet("PORTRAITS", faces, 4, 2));
+    return faces;
+}
+
+void WriteBadges(const PictureWriter& writer) {
+    std::vector<QImage> badges;
+    for (std::size_t rank = 0; rank < RankNames.size(); ++rank) {
+        badges.push_back(Chevron(rank));
+        writer.Write(std::string("pic/chevrons/") + RankNames[rank] + ".gif", badges.back());
+    }
+    writer.Write("sheets/chevrons.png", ContactSheet("CHEVRONS", badges, 8, 4));
+}
+
+// Writes each award in each number and gives every award as it looks when it was won once, twice and so on.
+std::vector<QImage> WriteAwards(const PictureWriter& writer) {
+    std::vector<QImage> shown;
+    std::vector<QImage> counted;
+    for (int award = 0; award < AwardKinds; ++award) {
+        const QImage base = AwardBase(award);
+        for (int times = 1; times <= AwardTimes; ++times)
+            writer.Write("pic/awards/" + TwoDigits(award) + TwoDigits(times) + ".bmp",
+                         AwardPicture(base, award, times));
+        shown.push_back(AwardPicture(base, award, 1));
+        counted.push_back(AwardPicture(base, award, 1 + award * 7 % AwardTimes));
+    }
+    shown.insert(shown.end(), counted.begin(), counted.end());
+    writer.Write("sheets/awards.png", ContactSheet("AWARDS ONCE AND OFTEN", shown, 5, 2));
+    return counted;
+}
+
+void WriteFileFrames(const PictureWriter& writer) {
+    std::vector<QImage> buttons;
+    for (int i = 0; i < FileButtons; ++i) {
+        buttons.push_back(FileButton(i));
+        writer.Write("stored/imgBut" + std::to_string(i) + ".bmp", buttons.back());
+    }
+    const QImage panel = InfoPanel();
+    const QImage remove = DeleteMark();
+    const QImage border = AwardBorder();
+    std::vector<QImage> marks{remove, border};
+    for (int arrow = 1; arrow <= 3; ++arrow) {
+        marks.push_back(FeedArrow(arrow));
+        writer.Write("stored/imgUpDn" + std::to_string(arrow) + ".gif", marks.back());
+    }
+    writer.Write("stored/Picture2.bmp", panel);
+    writer.Write("stored/imgDel.gif", remove);
+    writer.Write("stored/imgAwardBorder.gif", border);
+    writer.Write("stored/imgManFlag.gif", OwnFlag());
+    marks.push_back(OwnFlag());
+    writer.Write("sheets/file_buttons.png", ContactSheet("FILE BUTTONS", buttons, 4, 4));
+    writer.Write("sheets/file_marks.png", ContactSheet("FILE MARKS", marks, 3, 4));
+    writer.Write("sheets/file_panel.png", ContactSheet("FILE PANEL", {panel}, 1, 2));
+}
+
+void WriteFile(const PictureWriter& writer, const std::vector<NamedPicture>& things,
+               const std::vector<NamedPicture>& packs) {
+    const QImage sheet = DossierSheet();
+    const QImage type = TypewriterStrip();
+    writer.Write("stored/frmInfo.bmp", sheet);
+    writer.Write("stored/picScript.bmp", type);
+    writer.Write("sheets/typewriter.png", ContactSheet("TYPEWRITER", {type}, 1, 4));
+    WriteFileFrames(writer);
+    WriteBadges(writer);
+    const std::vector<QImage> faces = WriteFaces(writer);
+    const std::vector<QImage> awards = WriteAwards(writer);
+    writer.Write("sheets/file_window.png", MockFile({sheet, faces.front(), awards, &things, &packs}));
 }
 
 void WriteAll(const PictureWriter& writer) {
@@ -161,7 +241,10 @@ void WriteAll(const PictureWriter& writer) {
     WritePanel(writer, panel);
     WriteButtons(writer);
     WriteFlags(writer);
-    WriteInventory(writer);
+    const std::vector<NamedPicture> things = InventoryPictures();
+    const std::vector<NamedPicture> packs = PackBoards();
+    WriteInventory(writer, things, packs);
+    WriteFile(writer, things, packs);
 }
 
 }  // namespace

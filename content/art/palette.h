@@ -80,10 +80,25 @@ enum class Ink : std::uint8_t {
     Emerald,
     Cobalt,
     Navy,
+    // the file window's navy steel, dark to light; field pictures never settle on these and the next
+    Midnight,
+    Harbour,
+    Serge,
+    Gunmetal,
+    Denim,
+    Frost,
+    // flesh of portraits between the skins above
+    Umber,
+    Rose,
+    Fair,
+    Petal,
+    // enamel and silk that no field picture needs
+    Plum,
     Count
 };
 
 constexpr std::size_t InkCount = static_cast<std::size_t>(Ink::Count);
+constexpr std::size_t FieldInkCount = static_cast<std::size_t>(Ink::Midnight);
 
 struct InkRow {
     QRgb colour;
@@ -97,7 +112,11 @@ QColor Colour(Ink ink);
 // A colour between two inks; share 0 gives the first.
 QColor Between(Ink first, Ink second, double share);
 
+// Which inks a picture may settle on: the field keeps to its own, so that a tone added for the file window
+// leaves every tile as it is.
+enum class Palette : std::uint8_t { Field, Whole };
+
 // The ink that looks nearest to a colour whose lightness is moved by `lift` (0 to 1 is black to white).
-Ink NearestInk(QRgb colour, double lift = 0);
+Ink NearestInk(QRgb colour, double lift = 0, Palette palette = Palette::Field);
 
 }  // namespace art

@@ -15,7 +15,7 @@
 namespace art {
 namespace {
 
-constexpr int GifColours = 64;  // the power of two that holds all inks and the see-through one
+constexpr int GifColours = 128;  // the power of two that holds all inks and the see-through one
 constexpr int SeeThrough = GifColours - 1;
 static_assert(InkCount < GifColours);
 
@@ -38,7 +38,8 @@ std::vector<GifPixelType> InkRow(const QImage& picture, int y) {
     std::vector<GifPixelType> row;
     for (int x = 0; x < picture.width(); ++x) {
         const QRgb colour = picture.pixel(x, y);
-        const int index = qAlpha(colour) == 0 ? SeeThrough : static_cast<int>(NearestInk(colour));
+        const int index =
+            qAlpha(colour) == 0 ? SeeThrough : static_cast<int>(NearestInk(colour, 0, Palette::Whole));
         row.push_back(static_cast<GifPixelType>(index));
     }
     return row;

@@ -23,7 +23,24 @@ constexpr float Brightest = 1.6f;
 // What remains of red, green and blue in full shadow: shadows are cool.
 constexpr std::array<float, 3> ShadowTint{0.50f, 0.56f, 0.62f};
 
-// Distance of each point of the mask to its edge, in points, by two sweeps.
+void Blend(Texel& texel, const QColor& colour, float light, float share) {
+    texel.red = std::lerp(texel.red, static_cast<float>(colour.red()) * light, share);
+    texel.green = std::lerp(texel.green, static_cast<float>(colour.green()) * light, share);
+    texel.blue = std::lerp(texel.blue, static_cast<float>(colour.blue()) * light, share);
+}
+
+float Lit(float channel, float light, float shadow, float tint) {
+    const float shaded = channel * std::min(light, 1.0f) * std::lerp(1.0f, tint, shadow);
+    const float gleam = std::max(0.0f, light - 1.0f) * (1 - shadow);
+    return std::clamp(shaded * (1 + 0.75f * gleam) + 34 * gleam, 0.0f, 255.0f);
+}
+
+int Channel(float sum, float count) {
+    return std::clamp(static_cast<int>(std::lround(sum / count)), 0, 255);
+}
+
+}  // namespace
+
 std::vector<float> InnerDistance(const QImage& mask) {
     const int w = mask.width();
     const int h = mask.height();
@@ -63,30 +80,11 @@ std::vector<float> InnerDistance(const QImage& mask) {
     return distance;
 }
 
-// How far up a solid has risen at a distance from its edge: a quarter circle.
 float Rise(float distance, float round) {
     if (round <= 0 || distance >= round) return 1;
     const float left = 1 - distance / round;
     return std::sqrt(1 - left * left);
 }
-
-void Blend(Texel& texel, const QColor& colour, float light, float share) {
-    texel.red = std::lerp(texel.red, static_cast<float>(colour.red()) * light, share);
-    texel.green = std::lerp(texel.green, static_cast<float>(colour.green()) * light, share);
-    texel.blue = std::lerp(texel.blue, static_cast<float>(colour.blue()) * light, share);
-}
-
-float Lit(float channel, float light, float shadow, float tint) {
-    const float shaded = channel * std::min(light, 1.0f) * std::lerp(1.0f, tint, shadow);
-    const float gleam = std::max(0.0f, light - 1.0f) * (1 - shadow);
-    return std::clamp(shaded * (1 + 0.75f * gleam) + 34 * gleam, 0.0f, 255.0f);
-}
-
-int Channel(float sum, float count) {
-    return std::clamp(static_cast<int>(std::lround(sum / count)), 0, 255);
-}
-
-}  // namespace
 
 Relief::Relief(int shownWidth, int shownHeight, int hiddenMargin, int finePoints, float grainPeriod)
     : width(shownWidth),

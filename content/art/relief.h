@@ -26,6 +26,12 @@ struct Solid {
     bool covers = true;  // belongs to the shape that a sprite or overlay shows
 };
 
+// Distance of each point of a grey mask to its edge, in points, row by row.
+std::vector<float> InnerDistance(const QImage& mask);
+
+// How far up a solid has risen, 0 to 1, at a distance from its edge: a quarter circle of radius `round`.
+float Rise(float distance, float round);
+
 struct Texel {
     float red = 0, green = 0, blue = 0;
     float height = 0;

@@ -4,6 +4,7 @@
 #include "combat/costs.h"
 #include "combat/things.h"
 #include "data/weapons_file.h"
+#include "field/sightings.h"
 #include "platform/random.h"
 #include "state/state.h"
 #include "state/turns.h"
@@ -130,6 +131,78 @@ TEST_F(ComputerPlayerTest, ADeadTargetIsStillTheTarget) {
     AiAct();
     EXPECT_EQ(self.cellX, 46);
     EXPECT_EQ(self.items[0].roundsMain, 28);
+}
+
+TEST_F(ComputerPlayerTest, AnEmptyClipIsFilledForTheNextTurnAlone) {
+    self.items[0].roundsMain = 0;
+    HandSync("real2fake");
+    AiAct();
+    // 20 for the clip, 4 to run, 8 for the steps, 12 to drop, 15 for the empty click.
+    EXPECT_EQ(self.time, 100 - 20 - 4 - 8 - 12 - 15);
+    EXPECT_EQ(self.items[0].roundsMain, 20) << "the hand doesn't know of it";
+    self.time = 100;
+    RefreshHand();
+    AiAct();
+    EXPECT_EQ(self.items[0].roundsMain, 19);
+}
+
+TEST_F(ComputerPlayerTest, ShortOfTimeItSpoilsAFullClipAndNeitherWalksNorFires) {
+    self.time = 30;
+    self.items[0].roundsMain = 31;
+    HandSync("real2fake");
+    AiAct();
+    EXPECT_EQ(self.items[0].roundsMain, 20);
+    EXPECT_EQ(self.time, 30 - 20 - 4);
+    EXPECT_EQ(self.cellX, 50);
+    EXPECT_EQ(self.energy, 60 - 3) << "a refused step keeps the energy";
+    EXPECT_EQ(self.stance, Stance::Run) << "6 don't buy the drop for 12";
+}
+
+TEST_F(ComputerPlayerTest, HavingLostSightOnTheWayItFiresAllTheSame) {
+    PutUnit(0, 58, 5);
+    cellGrid[20][40].occupant = -1;
+    PutUnit(1, 45, 20);  // the one who is seen
+    // The only way to the target is an alley to the north.
+    DrawField(0, 19, {std::string(50, '#') + "." + std::string(25, '#')});
+    DrawField(49, 10, {"#.#", "#.#", "#.#", "#.#", "#.#", "#.#", "#.#", "#.#", "#.#"});
+    AiAct();
+    EXPECT_EQ(self.cellX, 50);
+    EXPECT_EQ(self.cellY, 16);
+    EXPECT_EQ(self.facing, NorthEast) << "through the wall toward the target: 8 cells east and 11 north";
+    EXPECT_EQ(self.items[0].roundsMain, 28);
+    // Up 4, two eighths of a turn, four steps, down 12, an eighth, the shot.
+    EXPECT_EQ(self.time, 100 - 4 - 2 - 8 - 12 - 1 - 15);
+    for (const int facing : {North, NorthEast}) {
+        self.facing = facing;
+        EnemyCounter("clear");
+        EXPECT_FALSE(aiSeeCheck()) << "nobody is in sight from there";
+    }
+}
+
+TEST_F(ComputerPlayerTest, ItEndsBesideALivingTargetAndOnTheCellOfADeadOne) {
+    struct Case {
+        int status, occupant, column, time;
+    };
+    constexpr Case Cases[] = {
+        {Active, 0, 41, 100 - 4 - 2 * 2 - 12 - 15},  // the third step is refused, for nothing
+        {Dead, -1, 40, 100 - 4 - 3 * 2 - 12 - 15},
+    };
+    PutUnit(1, 38, 20);
+    for (const Case& c : Cases) {
+        UnitTable[0].status = c.status;
+        cellGrid[20][40].occupant = c.occupant;
+        cellGrid[20][self.cellX].occupant = -1;
+        PutUnit(20, 43, 20);
+        self.facing = West;
+        self.time = 100;
+        self.items[0].roundsMain = 29;
+        HandSync("real2fake");
+        AiAct();
+        EXPECT_EQ(self.cellX, c.column);
+        EXPECT_EQ(self.time, c.time);
+        EXPECT_EQ(self.items[0].roundsMain, 28);
+        EXPECT_EQ(self.health, 50);
+    }
 }
 
 TEST_F(ComputerPlayerTest, OrdersInItsTurnAreDropped) {

@@ -3,6 +3,7 @@
 
 #include "test_form.h"
 #include "view/field_form.h"
+#include "view/forms.h"
 
 namespace {
 

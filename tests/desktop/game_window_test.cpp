@@ -13,6 +13,7 @@
 #include "tests/support/game_test.h"
 #include "view/events.h"
 #include "view/field_form.h"
+#include "view/forms.h"
 
 namespace {
 
@@ -41,7 +42,7 @@ class GameWindowTest : public testing::Test {
     void Press(Qt::Key key) { QTest::keyClick(&host.WindowOf(frmField), key); }
 
     ProgramFolder folder;
-    DesktopHost host{frmField, {&frmProgress}, Dispatch};
+    DesktopHost host{frmField, OtherForms(), Dispatch};
 };
 
 TEST_F(GameWindowTest, IsPlayedThroughItsWidgets) {

@@ -98,6 +98,116 @@ TEST_F(DesktopTest, AModalFormHoldsTheGameUntilItIsHidden) {
     EXPECT_EQ(EventsOf("frmDialog"), "KeyDown frmDialog -1 13 0 0 0\n");
 }
 
+// Counts what would show as a flicker.
+class FlickerCounter : public QObject {
+  public:
+    explicit FlickerCounter(QWidget& window) { window.installEventFilter(this); }
+    int flickers = 0;
+
+  protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        for (const QEvent::Type kind : {QEvent::Hide, QEvent::Show, QEvent::Move, QEvent::WindowDeactivate})
+            if (event->type() == kind) ++flickers;
+        return false;
+    }
+};
+
+TEST_F(DesktopTest, AModalFormThatIsHiddenAndShownWithinAnEventStays) {
+    for (const bool nested : {false, true}) {
+        events.clear();
+        answer = [&](const InputEvent& event) {
+            if (event.kind != EventKind::KeyDown) return;
+            dialog.Visible = false;
+            if (event.code == 13) return;
+            dialog.Visible = true;
+            dialog.cmdOk.Caption = "next";
+            if (nested) host.ShowModal(dialog);
+        };
+        FormWindow& second = host.WindowOf(dialog);
+        const FlickerCounter counter(second);
+        int flickers = 0;
+        QTimer::singleShot(20, &second, [&] {
+            QTest::mouseClick(second.WidgetOf(dialog.cmdOk), Qt::LeftButton);
+            flickers = counter.flickers;
+            QTest::keyPress(&second, Qt::Key_Space);
+        });
+        QTimer::singleShot(60, &second, [&] {
+            EXPECT_TRUE(second.isModal());
+            flickers -= counter.flickers;
+            QTest::keyPress(&second, Qt::Key_Return);
+        });
+        dialog.Visible = true;
+        host.ShowModal(dialog);
+        EXPECT_EQ(flickers, 0);
+        EXPECT_FALSE(host.WindowOf(dialog).isVisible());
+        EXPECT_EQ(EventsOf("frmDialog"), "KeyDown frmDialog -1 32 0 0 0\nKeyDown frmDialog -1 13 0 0 0\n");
+        EXPECT_EQ(EventsOf("frmDialog.cmdOk"), "Click frmDialog.cmdOk -1 0 0 0 0\n");
+    }
+}
+
+TEST_F(DesktopTest, AModalFormMayBeClosedUnderAMessage) {
+    answer = [this](const InputEvent& event) {
+        if (event.kind == EventKind::CloseRequest) dialog.Visible = false;
+        if (event.kind == EventKind::KeyDown) host.ShowMessage("read me");
+    };
+    Soon([this] {
+        QTimer::singleShot(20, [this] {
+            host.WindowOf(dialog).close();
+            EXPECT_FALSE(host.WindowOf(dialog).isVisible());
+        });
+        QTimer::singleShot(60, [] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr) << "the message is still there to be read";
+            box->accept();
+        });
+        QTest::keyPress(&host.WindowOf(dialog), Qt::Key_M);
+    });
+    dialog.Visible = true;
+    host.ShowModal(dialog);
+    EXPECT_FALSE(dialog.Visible);
+}
+
+TEST_F(DesktopTest, AModalFormTicksAndUsesNoProcessorTime) {
+    dialog.timTick.Interval = 50;
+    QTimer::singleShot(400, &window,
+                       [this] { answer = [this](const InputEvent&) { dialog.Visible = false; }; });
+    const std::clock_t begin = std::clock();
+    dialog.Visible = true;
+    host.ShowModal(dialog);
+    EXPECT_LT(std::clock() - begin, CLOCKS_PER_SEC / 20);
+    EXPECT_GE(events.size(), 5U);
+    EXPECT_LE(events.size(), 10U);
+}
+
+TEST_F(DesktopTest, AFormThatStandsAlreadyTurnsModal) {
+    dialog.Visible = true;
+    host.PumpEvents();
+    EXPECT_FALSE(host.WindowOf(dialog).isModal());
+    Soon([this] {
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, {100, 100});
+        EXPECT_TRUE(events.empty()) << "the window beneath is blocked";
+        answer = [this](const InputEvent&) { dialog.Visible = false; };
+        QTest::keyPress(&host.WindowOf(dialog), Qt::Key_Return);
+    });
+    host.ShowModal(dialog);
+    dialog.Visible = true;
+    host.PumpEvents();
+    EXPECT_FALSE(host.WindowOf(dialog).isModal()) << "for that one time";
+}
+
+TEST_F(DesktopTest, AWindowBeforeItsOwnerLiesWhollyOnTheScreen) {
+    const QRect screen = window.screen()->availableGeometry();
+    for (const QPoint at : {screen.topLeft() - QPoint(300, 200), screen.bottomRight() - QPoint(100, 100)}) {
+        window.move(at);
+        dialog.Visible = true;
+        host.PumpEvents();
+        const QRect place = host.WindowOf(dialog).frameGeometry();
+        EXPECT_TRUE(screen.contains(place)) << place.x() << "," << place.y();
+        dialog.Visible = false;
+        host.PumpEvents();
+    }
+}
+
 TEST_F(DesktopTest, AMessageIsPlainTextUnderTheGamesName) {
     const BoxReader reader;
     host.ShowMessage("You <b>lost</b>");

@@ -65,10 +65,41 @@ TEST_F(DesktopTest, AHeldKeyRepeatsAndIsReleasedOnce) {
 }
 
 TEST_F(DesktopTest, KeysReachTheWindowAfterClicksOnControls) {
-    QTest::mouseClick(window.WidgetOf(form.cmdGo), Qt::LeftButton);
+    for (const Control* control : {static_cast<Control*>(&form.txtLine), static_cast<Control*>(&form.lblNote),
+                                   static_cast<Control*>(&form.cmdGo)})
+        QTest::mouseClick(window.WidgetOf(*control), Qt::LeftButton);
     QTest::keyClick(window.windowHandle(), Qt::Key_Space);
     EXPECT_EQ(EventsOf("frmTest.cmdGo"), "Click frmTest.cmdGo -1 0 0 0 0\n");
     EXPECT_EQ(EventsOf("frmTest"), "KeyDown frmTest -1 32 0 0 0\nKeyUp frmTest -1 32 0 0 0\n");
+}
+
+struct MoveCase {
+    const Control* control;
+    QPoint at;
+};
+
+TEST_F(DesktopTest, AMoveOverAnyKindOfControlIsReportedInItsPixels) {
+    form.cmdGo.Enabled = false;
+    host.PumpEvents();
+    const MoveCase cases[] = {
+        {&form, {340, 190}},         {&form.picBoard, {60, 50}},   {&form.imgMark, {3, 2}},
+        {&form.HScroll, {100, 2}},   {&form.VScroll, {3, 100}},    {&form.cmbLog, {3, 2}},
+        {&form.comboMode, {190, 2}}, {&form.imgStance[1], {3, 2}}, {&form.lblNote, {3, 139}},
+        {&form.txtLine, {3, 2}},     {&form.picSlate, {3, 72}},  // that of the disabled button
+    };
+    for (const MoveCase& row : cases) {
+        events.clear();
+        QTest::mouseMove(window.windowHandle(), window.WidgetOf(*row.control)->mapTo(&window, row.at));
+        InputEvent expected = EventOf(*row.control, EventKind::MouseMove, 0);
+        expected.x = static_cast<float>(row.at.x());
+        expected.y = static_cast<float>(row.at.y());
+        ASSERT_EQ(events.size(), 1U) << row.control->name;
+        EXPECT_EQ(EventText(events[0]), EventText(expected));
+    }
+    form.cmdGo.Enabled = true;
+    host.PumpEvents();
+    QTest::mouseMove(window.windowHandle(), window.WidgetOf(form.cmdGo)->mapTo(&window, QPoint(5, 6)));
+    EXPECT_EQ(EventText(events.back()), "MouseMove frmTest.cmdGo -1 0 0 5 6");
 }
 
 TEST_F(DesktopTest, AClickOnACanvasComesInItsOwnPixels) {
@@ -134,13 +165,14 @@ TEST_F(DesktopTest, ADraggedThumbSnapsToWhatTheGameMakesOfIt) {
     QMouseEvent move(QEvent::MouseMove, QPointF(40, 8), bar.mapToGlobal(QPointF(40, 8)), Qt::NoButton,
                      Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&bar, &move);
-    ASSERT_EQ(events.size(), 1U);
-    EXPECT_EQ(events[0].kind, EventKind::Scroll);
-    EXPECT_NE(events[0].code % 20, 0) << "the drag should end between two steps";
+    ASSERT_EQ(events.size(), 2U);
+    EXPECT_EQ(events[0].kind, EventKind::MouseMove);
+    EXPECT_EQ(events[1].kind, EventKind::Scroll);
+    EXPECT_NE(events[1].code % 20, 0) << "the drag should end between two steps";
     EXPECT_EQ(bar.value(), form.HScroll.Value);
     QTest::mouseRelease(&bar, Qt::LeftButton, Qt::NoModifier, {40, 8});
-    ASSERT_EQ(events.size(), 2U);
-    EXPECT_EQ(EventText(events[1]),
+    ASSERT_EQ(events.size(), 3U);
+    EXPECT_EQ(EventText(events[2]),
               "Change frmTest.HScroll -1 " + std::to_string(form.HScroll.Value) + " 0 0 0");
 }
 

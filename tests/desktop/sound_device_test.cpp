@@ -19,6 +19,7 @@
 #include "platform/run_time_error.h"
 #include "state/state.h"
 #include "view/field_form.h"
+#include "view/forms.h"
 #include "view/sound.h"
 
 namespace {

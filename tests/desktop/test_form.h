@@ -30,6 +30,10 @@ struct TestForm : Form {
         Put(comboMode, "comboMode", picSlate,   0,  45, 200,  21);
         Put(cmdGo,     "cmdGo",     picSlate,   0,  70, 100,  25);
         PutArray(imgStance, "imgStance", picSlate, 250, 50, 32, 25);
+        Put(lblNote,   "lblNote",   *this,    252,   0, 127, 140);
+        Put(txtLine,   "txtLine",   *this,    252, 150, 120,  19);
+        Put(timTick,   "timTick",   *this,      0,   0,   0,   0);
+        Put(imgDrag,   "imgDrag",   *this,    340, 180,  42,  42);
         // clang-format on
         mnuGo.Caption = "&Go";
         picBoard.canvas = Picture(300, 240);
@@ -42,6 +46,7 @@ struct TestForm : Form {
             bar->LargeChange = 760;
         }
         cmdGo.Caption = "Go";
+        imgDrag.Enabled = false;  // it leaves the mouse to what lies beneath it
     }
 
     MenuItem mnuGo;
@@ -56,16 +61,27 @@ struct TestForm : Form {
     ComboBox comboMode{ControlKind::List};
     Button cmdGo;
     Array<ImageControl, 0, 1> imgStance;
+    Label lblNote;
+    TextBox txtLine;
+    Timer timTick;
+    ImageControl imgDrag;
+};
+
+struct TestDialog : Form {
+    TestDialog() {
+        name = "frmDialog";
+        Width = Height = 100;
+        Visible = false;
+        Put(cmdOk, "cmdOk", *this, 10, 10, 50, 25);
+        Put(timTick, "timTick", *this, 0, 0, 0, 0);
+    }
+
+    Button cmdOk;
+    Timer timTick;
 };
 
 class DesktopTest : public testing::Test {
   protected:
-    DesktopTest() {
-        dialog.name = "frmDialog";
-        dialog.Width = dialog.Height = 100;
-        dialog.Visible = false;
-    }
-
     void SetUp() override {
         host.PumpEvents();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
@@ -84,6 +100,13 @@ class DesktopTest : public testing::Test {
         soon.start(20);
     }
 
+    /// What is on the screen of the window's inside: as it was painted, piece by piece.
+    QImage Screen() const {
+        const QWidget& inside = *window.WidgetOf(form);
+        const QPixmap all = window.screen()->grabWindow(window.winId());
+        return all.toImage().convertToFormat(QImage::Format_RGB32).copy(inside.geometry());
+    }
+
     /// The events of one control, one a line.
     std::string EventsOf(const std::string& control) const {
         std::string lines;
@@ -93,7 +116,7 @@ class DesktopTest : public testing::Test {
     }
 
     TestForm form;
-    Form dialog;
+    TestDialog dialog;
     std::vector<InputEvent> events;
     std::function<void(const InputEvent&)> answer = [](const InputEvent&) {};
     DesktopHost host{form, {&dialog}, [this](const InputEvent& event) {

@@ -33,6 +33,19 @@ class TurnsTest : public GameTest {
             unit.time = 80;
         }
     }
+
+    static void SetHealth(int index, int status, int health) {
+        UnitTable[index].status = status;
+        UnitTable[index].health = health;
+    }
+
+    // Farther away from the computer's units than anybody sees.
+    static void PutSquadOutOfSight() {
+        for (int i = 0; i <= teamLast[SquadTeam]; ++i) {
+            UnitTable[i].cellX = 70;
+            UnitTable[i].cellY = 40;
+        }
+    }
 };
 
 TEST_F(TurnsTest, ANewTurnRefillsTimeAndEnergy) {
@@ -177,6 +190,129 @@ TEST_F(TurnsTest, ASquadOfTheDeadAndTheDyingBleedsToDefeat) {
     EXPECT_THROW(SelectNextUnit(), ProcessEnded);
     EXPECT_EQ(host.messages, std::vector<std::string>{"Defeat. The end."});
     EXPECT_EQ(UnitTable[1].health, 0);
+}
+
+TEST_F(TurnsTest, AWholeTurnGoesThroughMixedTeams) {
+    MakeTeams(4, 4);
+    PutSquadOutOfSight();
+    SetHealth(0, Dead, 0);
+    SetHealth(1, Wounded, 20);
+    UnitTable[2].agility = 0;
+    SetHealth(20, Immobile, 10);
+    SetHealth(21, Dead, 0);
+    SetHealth(22, Wounded, 20);
+    curTeam = SquadTeam;
+    curUnit = 3;
+    Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
+    // The dead keep the computer's count of those done below its members, so its selection steps past its end
+    // and finds the soldier that the squad's has selected meanwhile: he is selected twice.
+    EXPECT_EQ(Log(),
+              "New turn for team #1\n"
+              "a (#20) is immobile and now -1\n"
+              "b (#21) is dead. Selecting the next one.\n"
+              "c (#22) is wounded and now +1\n"
+              "New turn for team #0\n"
+              "a (#0) is dead. Selecting the next one.\n"
+              "b (#1) is wounded and now +1\n"
+              "Selected b [wounded]\n"
+              "0 time for c (#2)\n"
+              "Selected d [active]\n"
+              "Selected d [active]\n"
+              "Selected d [active]\n"
+              "Selected d [active]\n");
+    EXPECT_EQ(curUnit, 3);
+    EXPECT_EQ(UnitTable[20].health, 9);
+    EXPECT_EQ(UnitTable[22].health, 21);
+    EXPECT_EQ(UnitTable[23].stance, Stance::Run) << "the computer's last one has acted";
+}
+
+TEST_F(TurnsTest, ASquadOfTheWoundedIsPassedOverUntilOneHasHealed) {
+    MakeTeams(2, 1);
+    SetHealth(0, Wounded, 29);
+    SetHealth(1, Wounded, 30);
+    UnitTable[20].agility = UnitTable[20].time = 0;
+    curTeam = EnemyTeam;
+    NewTurn();
+    EXPECT_EQ(Log(),
+              "New turn for team #0\n"
+              "a (#0) is wounded and now +1\n"
+              "Selected a [wounded]\n"
+              "b (#1) is wounded and now +1\n"
+              "Selected b [active]\n"  // too late for this turn
+              "New turn for team #1\n"
+              "0 time for a (#20)\n"
+              "New turn for team #0\n"
+              "a (#0) is wounded and now +1\n"
+              "Selected a [active]\n"
+              "Selected b [active]\n"
+              "Selected b [active]\n");
+    EXPECT_EQ(curUnit, 1);
+}
+
+TEST_F(TurnsTest, ASoldierHealedByThePassesOfOneTurnActsInIt) {
+    MakeTeams(2, 1);
+    PutSquadOutOfSight();
+    SetHealth(1, Wounded, 29);
+    curTeam = SquadTeam;
+    curUnit = 0;
+    for (int space = 0; space < 3; ++space)
+        Dispatch({EventKind::KeyDown, "frmField", -1, 32});
+    EXPECT_EQ(Log(),
+              "b (#1) is wounded and now +1\n"
+              "Selected b [wounded]\n"
+              "Selected a [active]\n"
+              "Selected a [active]\n"
+              "b (#1) is wounded and now +1\n"
+              "Selected b [active]\n"
+              "Selected a [active]\n"
+              "Selected a [active]\n"
+              "Selected b [active]\n"
+              "Selected b [active]\n");
+    EXPECT_EQ(curUnit, 1);
+}
+
+TEST_F(TurnsTest, AWoundedSoldierWithoutTimeIsPassedOverLikeAnyOther) {
+    MakeTeams(3, 1);
+    PutSquadOutOfSight();
+    SetHealth(1, Wounded, 20);
+    UnitTable[1].time = 3;
+    curTeam = SquadTeam;
+    curUnit = 0;
+    SelectNextUnit();
+    EXPECT_EQ(Log(),
+              "b (#1) is wounded and now +1\n"
+              "Selected b [wounded]\n"
+              "Selected c [active]\n"
+              "Selected c [active]\n");
+    EXPECT_EQ(curUnit, 2);
+}
+
+TEST_F(TurnsTest, TheComputersLastUnitBleedsInItsOwnTurnAndTheMissionEndsWithTheNext) {
+    MakeTeams(1, 2);
+    PutSquadOutOfSight();
+    SetHealth(20, Dead, 0);
+    SetHealth(21, Immobile, 1);
+    curTeam = SquadTeam;
+    NewTurn();
+    EXPECT_EQ(UnitTable[21].status, Dead);
+    EXPECT_THROW(NewTurn(), ProcessEnded);
+    EXPECT_EQ(Log(),
+              "New turn for team #1\n"
+              "a (#20) is dead. Selecting the next one.\n"
+              "b (#21) is immobile and now -1\n"
+              "New turn for team #0\n"
+              "Selected a [active]\n"
+              "Selected a [active]\n"
+              "Selected a [active]\n"
+              "Selected a [active]\n"
+              "New turn for team #1\n"
+              "a (#20) is dead. Selecting the next one.\n"
+              "b (#21) is dead. Selecting the next one.\n"
+              "a (#0) from team #0 alive.\n"
+              "a (#20) from team #1 dead.\n"
+              "b (#21) from team #1 dead.\n"
+              "All 2 fighters of team #1 eliminated\n"
+              "Victory. The end.\n");
 }
 
 TEST_F(TurnsTest, TheSquadsTurnEndHidesTheEnemyAgain) {

@@ -6,7 +6,7 @@
 #include "tests/support/game_test.h"
 #include "view/events.h"
 #include "view/field_form.h"
-#include "view/stored_pictures.h"
+#include "view/depot_form.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ class StoryTest : public GameTest {
         BitBlt(shown, 0, 0, 20, 20, frmField.area.canvas, x * 20, y * 20, RasterOp::SRCCOPY);
         Picture tile(20, 20);
         const Cell& cell = cellGrid[y][x];
-        BitBlt(tile, 0, 0, 20, 20, StoredPicture("picMap.bmp"), cell.tileX * 20, cell.tileY * 20,
+        BitBlt(tile, 0, 0, 20, 20, frmDepot.picMap.canvas, cell.tileX * 20, cell.tileY * 20,
                RasterOp::SRCCOPY);
         return shown.SameAs(tile);
     }
@@ -91,7 +91,7 @@ TEST_F(StoryTest, AnEnemyIsSightedDrawnHiddenAndSightedAgain) {
     frmField.area.canvas.Fill(0);
     for (int y = 0; y < FieldHeight; ++y)
         for (int x = 0; x < FieldWidth; ++x)
-            BitBlt(frmField.area.canvas, x * 20, y * 20, 20, 20, StoredPicture("picMap.bmp"), 0, 0,
+            BitBlt(frmField.area.canvas, x * 20, y * 20, 20, 20, frmDepot.picMap.canvas, 0, 0,
                    RasterOp::SRCCOPY);
     for (int unit : {0, 1, 20})
         BitBlt(frmField.picBuffer[unit], 0, 0, 20, 20, frmField.area.canvas, 0, 0, RasterOp::SRCCOPY);

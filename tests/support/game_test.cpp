@@ -1,49 +1,33 @@
 #include "tests/support/game_test.h"
 
-#include <unistd.h>
-
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
 
 #include "platform/files.h"
 #include "state/setup.h"
 #include "state/state.h"
 #include "view/events.h"
 #include "view/field_form.h"
+#include "view/forms.h"
 
 namespace fs = std::filesystem;
 
-ProgramFolder::ProgramFolder() {
-    std::string pattern = (fs::temp_directory_path() / "sarnoth-test-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    path = pattern;
-    const fs::path built = GAME_FOLDER;
-    for (const char* copied : {"dat", "map"})
-        fs::copy(built / copied, path / copied);
-    for (const char* linked : {"pic", "wav"})
-        fs::create_directory_symlink(built / linked, path / linked);
-    fs::copy_file(STOCK_STORE, path / "dat/apc.dat",
+ProgramFolder::ProgramFolder() : GameCopy(GAME_FOLDER) {
+    fs::copy_file(STOCK_STORE, Path() / "dat/apc.dat",
                   fs::copy_options::overwrite_existing);  // not the player's
 }
 
-ProgramFolder::~ProgramFolder() {
-    std::error_code ignored;
-    fs::remove_all(path, ignored);
-}
-
 std::string ProgramFolder::Read(const std::string& name) const {
-    std::ifstream file(path / name, std::ios::binary);
+    std::ifstream file(Path() / name, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 void ProgramFolder::Write(const std::string& name, const std::string& content) const {
-    std::ofstream(path / name, std::ios::binary) << content;
+    std::ofstream(Path() / name, std::ios::binary) << content;
 }
 
 void ProgramFolder::Remove(const std::string& name) const {
-    fs::remove(path / name);
+    fs::remove(Path() / name);
 }
 
 GameTest::GameTest() : host(Dispatch) {

@@ -9,25 +9,17 @@
 
 #include "platform/headless_host.h"
 #include "platform/run_time_error.h"
+#include "tools/game_copy.h"
 
-/// A temporary copy of the built game's data, with its pictures and sounds linked in; removed with the
-/// object.
-class ProgramFolder {
+/// A copy of the built game with a stock store.
+class ProgramFolder : public GameCopy {
   public:
     ProgramFolder();
-    ~ProgramFolder();
-    ProgramFolder(const ProgramFolder&) = delete;
-    ProgramFolder& operator=(const ProgramFolder&) = delete;
-
-    const std::filesystem::path& Path() const { return path; }
 
     /// Content of a file, named as "dat/apc.dat".
     std::string Read(const std::string& name) const;
     void Write(const std::string& name, const std::string& content) const;
     void Remove(const std::string& name) const;
-
-  private:
-    std::filesystem::path path;
 };
 
 class GameTest : public testing::Test {

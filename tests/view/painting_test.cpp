@@ -10,7 +10,7 @@
 #include "view/overlays.h"
 #include "view/scrolling.h"
 #include "view/sound.h"
-#include "view/stored_pictures.h"
+#include "view/depot_form.h"
 #include "view/unit_painting.h"
 
 namespace {
@@ -50,7 +50,7 @@ class PaintingTest : public GameTest {
 
     static Picture Tile(int column, int row) {
         Picture tile(20, 20);
-        BitBlt(tile, 0, 0, 20, 20, StoredPicture("picMap.bmp"), column * 20, row * 20, RasterOp::SRCCOPY);
+        BitBlt(tile, 0, 0, 20, 20, frmDepot.picMap.canvas, column * 20, row * 20, RasterOp::SRCCOPY);
         return tile;
     }
 
@@ -68,7 +68,7 @@ class PaintingTest : public GameTest {
     static Picture WithSoldier(const Picture& under, const Unit& unit) {
         const int column = (unit.team * 4 + unit.stance) * 20;
         const int row = unit.facing * 20;
-        return WithSprite(under, StoredPicture("picPeople.bmp"), column, row, column, row + 160);
+        return WithSprite(under, frmDepot.picPeople.canvas, column, row, column, row + 160);
     }
 
     Picture& area = frmField.area.canvas;
@@ -87,7 +87,7 @@ TEST_F(PaintingTest, ACellShowsItsTileOrTheOneAskedFor) {
 }
 
 TEST_F(PaintingTest, APileIsShownOverACharge) {
-    const Picture& sprites = StoredPicture("picSprites.bmp");
+    const Picture& sprites = frmDepot.picSprites.canvas;
     teamLast[ChargeList] = teamLast[PileList] = 1;
     for (int list : {ChargeBase, PileBase})
         for (int i : {0, 1}) {
@@ -127,7 +127,7 @@ TEST_F(PaintingTest, ADeadSoldierShowsTheDeadSprite) {
     UnitTable[0].status = Dead;
     const Picture under = CellPicture(6, 5);
     PaintUnit(0, 0);
-    const Picture& sprites = StoredPicture("picSprites.bmp");
+    const Picture& sprites = frmDepot.picSprites.canvas;
     EXPECT_TRUE(
         CellPicture(6, 5).SameAs(WithSprite(under, sprites, DeadSprite * 20, 0, DeadSprite * 20, 160)));
     EXPECT_TRUE(host.sounds.empty());

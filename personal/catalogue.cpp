@@ -1,0 +1,203 @@
+#include "personal/catalogue.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "combat/things.h"
+#include "data/tables.h"
+#include "data/weapons_file.h"
+#include "personal/info_form.h"
+#include "personal/inventory.h"
+#include "platform/rounding.h"
+
+namespace {
+
+constexpr int KeyPause = 800;    // milliseconds before a held key steps again, once one was let go
+constexpr int ArrowPause = 400;  // the same for an arrow under the mouse
+
+// Feeds of new things whose row's kind doesn't tell. Magazines and rounds of the main feed alike.
+struct NewFeed {
+    std::string_view name;
+    int main;
+    int rounds;
+    int second;
+};
+
+// clang-format off
+constexpr std::array<NewFeed, 30> NewFeeds = {{
+    // name        main rounds second
+    {"mm1",          0,  0, 12},
+    {"m203",         0,  0,  1},
+    {"m4m203",       0,  0,  1},
+    {"steyrm203",    0,  0,  1},
+    {"xm8xm320",     0,  0,  1},
+    {"famasm203",    0,  0,  1},
+    {"xm8lss",       0,  0,  6},
+    {"nova",         0,  0,  6},
+    {"spas",         0,  0,  6},
+    {"mkey",         0,  0,  5},
+    {"rem870s",      0,  0,  5},
+    {"super90",      0,  0,  7},
+    {"rem870m",      0,  0,  7},
+    {"jackham",      0,  0, 10},
+    {"rem870l",      0,  0,  8},
+    {"rem870gs",     0,  0,  8},
+    {"thronives",    3,  3,  0},
+    {"shuriken",     4,  4,  0},
+    {"shaken",       4,  4,  0},
+    {"crossbow",     0,  0,  1},
+    {"airpipe",      0,  0,  1},
+    {"anschutz",    25,  0,  0},
+    {"anslgw",       1,  0,  0},
+    {"anslgg",       1,  0,  0},
+    {"anslgs",       1,  0,  0},
+    {"american",   220,  0,  0},
+    {"luger",        8,  0,  0},
+    {"lahti",        8,  0,  0},
+    {"smle",        10,  0,  0},
+    {"smlet",       10,  0,  0},
+}};
+// clang-format on
+
+struct CatalogueKey {
+    int code;
+    CatalogueStep step;
+    CatalogueStep shifted;
+};
+
+constexpr std::array<CatalogueKey, 4> CatalogueKeys = {{
+    {38, PreviousRow, PreviousFeed},   // up
+    {104, PreviousRow, PreviousFeed},  // 8 of the number pad
+    {40, NextRow, NextFeed},           // down
+    {98, NextRow, NextFeed},           // 2 of the number pad
+}};
+
+InvItem& Held() {
+    return UnitTable[curUnit].items[0];
+}
+
+const WeaponInfo& Row() {
+    return weaponTable[static_cast<std::size_t>(static_cast<int>(weaponPage))];
+}
+
+// The capacity of a feed step of the row; 0 where there is none. Step 0 of a weapon is the weapon without a
+// feed.
+int FeedSize(int step) {
+    const auto& sizes = ItemKindByName(Row().weaponClass).sizes;
+    const int place = ItemClass(Row().name) == "Weapon" ? step - 1 : step;
+    return place < 0 ? 0 : static_cast<int>(sizes[place]);
+}
+
+void StepRow(int by) {
+    constexpr int FirstRow = 1;  // before it is the bare hand
+    const int last = static_cast<int>(weaponTable.size()) - 1;
+    weaponPage = std::clamp(weaponPage + by, FirstRow, last);
+    feedStep = 0;
+    const bool hasSizes = Row().kind == "m" || Row().kind == "a";
+    frmInfo.imgUpDn[2].Visible = hasSizes;
+    frmInfo.imgUpDn[3].Visible = hasSizes;
+    // The catalogue's own arrow and bin come up with its first step.
+    frmInfo.imgUpDn[1].Visible = true;
+    frmInfo.imgDel.Visible = true;
+    Held() = MakeItem(Row());
+}
+
+void StepFeed(int by) {
+    // The sizes are those of the catalogue's row, and fit nothing else that may be in the hand.
+    if (Held().name != Row().name) return;
+    constexpr int LastStep = 6;
+    if (by < 0 && feedStep > 0) --feedStep;
+    if (by > 0 && feedStep < LastStep && FeedSize(feedStep + 1) != 0) ++feedStep;
+    Held().capMain = FeedSize(feedStep);
+    Held().roundsMain = Held().capMain;
+}
+
+void Hold(int step, bool held) {
+    frmInfo.arrowCode = step;
+    frmInfo.timerArrow.Enabled = held;
+}
+
+void Press(CatalogueStep step) {
+    Hold(step, true);
+    StepCatalogue();
+}
+
+// ODDITY: the window opens with no pause set, so the first key held in it doesn't repeat; once a key or an
+// arrow was let go, they do.
+void Release(int pause) {
+    Hold(NoStep, false);
+    frmInfo.timerArrow.Interval = pause;
+}
+
+}  // namespace
+
+void StepCatalogue() {
+    switch (frmInfo.arrowCode) {
+        case PreviousRow:
+            StepRow(-1);
+            break;
+        case NextRow:
+            StepRow(+1);
+            break;
+        case PreviousFeed:
+            StepFeed(-1);
+            break;
+        case NextFeed:
+            StepFeed(+1);
+            break;
+        default:
+            break;
+    }
+    ShowSlot(0, frmInfo);
+    ShowOrigin();
+}
+
+InvItem MakeItem(const WeaponInfo& row) {
+    InvItem item;
+    item.name = row.name;
+    item.durab = row.durab;
+    item.ammoMain = row.weaponClass;
+    item.ammoSecond = row.ammoSecond;
+    item.count = row.unitCount;
+    for (const NewFeed& feed : NewFeeds) {
+        if (feed.name != row.name) continue;
+        item.capMain = feed.main;
+        item.roundsMain = feed.rounds;
+        item.capSecond = feed.second;
+        return item;
+    }
+    if (row.kind == "a" || row.kind == "i") item.capMain = ItemKindByName(row.weaponClass).sizes[0];
+    if (row.kind == "w") item.capMain = 1;
+    item.roundsMain = item.capMain;
+    return item;
+}
+
+void imgUpDn_MouseDown(int arrow) {
+    Press(static_cast<CatalogueStep>(arrow + 1));
+}
+
+void imgUpDn_MouseUp() {
+    Release(ArrowPause);
+}
+
+void timerArrow_Timer() {
+    if (frmInfo.arrowCode == NoStep) return;
+    constexpr double Quicker = 10;  // a tenth less each time
+    int& pause = frmInfo.timerArrow.Interval;
+    pause -= static_cast<int>(RoundHalfEven(pause / Quicker));
+    StepCatalogue();
+}
+
+void PressCatalogueKey(int code, int shift) {
+    for (const CatalogueKey& key : CatalogueKeys) {
+        if (key.code != code) continue;
+        const CatalogueStep step = shift == 0 ? key.step : key.shifted;
+        // The keyboard's own repeat of a held key isn't another press.
+        if (frmInfo.arrowCode != step) Press(step);
+    }
+}
+
+void personal::Form_KeyUp() {
+    Release(KeyPause);
+}

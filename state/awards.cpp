@@ -1,0 +1,78 @@
+#include "state/awards.h"
+
+#include "personal/info_form.h"
+#include "personal/personal_file.h"
+#include "platform/host.h"
+#include "state/operation.h"
+#include "state/state.h"
+#include "view/log.h"
+
+namespace {
+
+constexpr int EmptyRow = 25;  // past the last award
+constexpr int NoRow = -1;
+
+int RowOf(std::string_view code) {
+    int row = 0;
+    while (row < EmptyRow && awardTable[row].name != code)
+        ++row;
+    return row;
+}
+
+// The row that the unit gets when it is to be given `row`.
+int RowToGrant(const Unit& unit, int row) {
+    for (;;) {
+        if (unit.awards[row] <= 0 || awardTable[row].repeatable != 0 || awardTable[row].chained == 0)
+            return row;
+        if (++row == EmptyRow) return NoRow;
+    }
+}
+
+void ShowGranted(int row) {
+    constexpr int RestLeft = 530;
+    constexpr int RestTop = 20;
+    LoadInfo();
+    frmInfo.imgAwardBorder.Left = frmInfo.imgAward[row].Left;
+    frmInfo.imgAwardBorder.Top = frmInfo.imgAward[row].Top;
+    frmInfo.imgAwardBorder.Visible = true;
+    TheHost().ShowMessage("");
+    frmInfo.imgAwardBorder.Visible = false;
+    frmInfo.imgAwardBorder.Left = RestLeft;
+    frmInfo.imgAwardBorder.Top = RestTop;
+    CloseInfo();
+}
+
+}  // namespace
+
+void AwardMissionEnd() {
+    RunOperation([] {
+        for (curUnit = 0; curUnit <= teamLast[SquadTeam]; ++curUnit) {
+            const Unit& unit = UnitTable[curUnit];
+            if (unit.status == Dead || unit.wasWounded != False) AwardGive("PH");
+            AwardGive("GCM");
+        }
+    });
+}
+
+void AwardGive(std::string_view code) {
+    Unit& unit = UnitTable[curUnit];
+    const int row = RowToGrant(unit, RowOf(code));
+    if (row == NoRow) return;
+    ++unit.awards[row];
+    AddToLog(unit.name + " awarded the " + AwardOrdinal(row) + awardTable[row].title, 0);
+    AddToLog(unit.status == Dead ? " posthumously." : ".", 1);
+    // The empty row has no place in the file.
+    if (row == EmptyRow)
+        TheHost().ShowMessage("");
+    else
+        RunOperation([row] { ShowGranted(row); });
+}
+
+// ODDITY: every number from the fourth on ends alike, so the 21st is the "21th".
+std::string AwardOrdinal(int row) {
+    constexpr int LastTold = 100;
+    const int count = UnitTable[curUnit].awards[row];
+    if (count < 2 || count > LastTold) return "";
+    if (count == 2) return "2nd ";
+    return std::to_string(count) + (count == 3 ? "rd " : "th ");
+}

@@ -1,0 +1,17 @@
+// Awards: granting one under its rules, and those of a finished mission.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// The awards of a mission for the whole squad: one for the wounded and the dead, one for everybody. Nothing
+/// in the game calls it.
+void AwardMissionEnd();
+
+/// Grants the current unit the award with this key, or the next one of its chain when it is held already and
+/// can't be given again; logs it and shows it in the unit's file. An unknown key grants the empty row.
+void AwardGive(std::string_view code);
+
+/// How often the current unit holds the row: "2nd ", "3rd ", "4th ", ... "100th "; empty for once, and for
+/// more.
+std::string AwardOrdinal(int row);

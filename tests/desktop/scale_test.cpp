@@ -1,0 +1,178 @@
+// The windows at one and a half times, and at twice their size.
+#include "desktop/scale.h"
+
+#include <random>
+
+#include "test_form.h"
+
+namespace {
+
+constexpr Colour Magenta = Rgb(255, 0, 255);
+
+struct ScaleSetter {
+    explicit ScaleSetter(Halves halves) { SetScale(halves); }
+    ~ScaleSetter() { SetScale(2); }
+    ScaleSetter(const ScaleSetter&) = delete;
+    ScaleSetter& operator=(const ScaleSetter&) = delete;
+};
+
+struct FitCase {
+    double wanted;
+    QSize screen;
+    Halves halves;
+};
+
+TEST(ScaleTest, TheLargestScaleIsTakenThatIsWantedAndFits) {
+    Form field;
+    field.Width = 799;
+    field.Height = 636;
+    Form info;
+    info.Width = 760;
+    info.Height = 640;
+    const Form* const forms[] = {&field, &info};
+    const FitCase cases[] = {
+        {1, {1280, 720}, 2},     {2, {1280, 720}, 2},     {1.5, {1920, 1080}, 3},  {2, {1920, 1080}, 3},
+        {2, {1215, 1024}, 3},    {2, {1214, 1024}, 2},    {2, {1215, 1023}, 2},    {2, {2560, 1440}, 4},
+        {1.25, {2560, 1440}, 2}, {1.49, {2560, 1440}, 3}, {1.75, {2560, 1440}, 3}, {3, {3840, 2160}, 4},
+        {1, {640, 480}, 2},      {0.5, {1280, 720}, 2},
+    };
+    for (const FitCase& row : cases)
+        EXPECT_EQ(FittingScale(row.wanted, row.screen, forms), row.halves)
+            << row.wanted << " " << row.screen.width() << "x" << row.screen.height();
+}
+
+TEST(ScaleTest, EdgesAreRoundedHalfUp) {
+    const ScaleSetter oneAndAHalf(3);
+    constexpr int Edges[][2] = {{-3, -4}, {-2, -3}, {-1, -1}, {0, 0}, {1, 2}, {2, 3}, {3, 5}, {799, 1199}};
+    for (const auto& [edge, onScreen] : Edges)
+        EXPECT_EQ(ToScreen(edge), onScreen) << edge;
+    EXPECT_EQ(ToScreen(QRect(1, 2, 2, 3)), QRect(2, 3, 3, 5));
+    EXPECT_EQ(Touched({1, 2, 2, 3}), QRect(1, 3, 4, 5));
+}
+
+TEST(ScaleTest, APixelIsTheMeanOfWhatItCovers) {
+    Picture row(3, 1);
+    row.SetPixel(0, 0, Rgb(10, 0, 255));
+    row.SetPixel(1, 0, Rgb(20, 100, 255));
+    row.SetPixel(2, 0, Rgb(30, 0, 0));
+    Picture seenThrough = row;
+    seenThrough.SetPixel(0, 0, 0);
+    const ScaleSetter oneAndAHalf(3);
+    const QImage opaque = Enlarged(row, {0, 0, 5, 2}, Ground::Opaque);
+    const Colour expected[] = {Rgb(10, 0, 255), Rgb(15, 50, 255), Rgb(20, 100, 255), Rgb(30, 0, 0),
+                               Rgb(30, 0, 0)};
+    for (int x = 0; x < 5; ++x)
+        for (int y = 0; y < 2; ++y)
+            EXPECT_EQ(opaque.pixel(x, y), expected[x]) << x;
+    const QImage through = Enlarged(seenThrough, {0, 0, 2, 1}, Ground::SeenThrough);
+    const auto* premultiplied = reinterpret_cast<const Colour*>(through.constScanLine(0));
+    EXPECT_EQ(premultiplied[0], 0U);
+    EXPECT_EQ(premultiplied[1], 0x800A3280U) << "half of RGB(20,100,255)";
+}
+
+class ScaledTest : private ScaleSetter, public DesktopTest, public testing::WithParamInterface<Halves> {
+  protected:
+    ScaledTest() : ScaleSetter(GetParam()) {}
+
+    QWidget& Inside() const { return *window.WidgetOf(form); }
+};
+
+// Neighbours at odd places, on a window of a colour that may not show between them.
+TEST_P(ScaledTest, WhatJoinsInTheRecordsJoinsOnTheScreen) {
+    form.canvas = Picture(400, 300, Magenta);
+    form.lblNote.Visible = form.txtLine.Visible = false;
+    for (const int shift : {0, 1}) {
+        form.picBoard.Left = -50 + shift;
+        form.picBoard.Top = shift;
+        form.picSlate.Left = form.picBoard.Left + form.picBoard.Width;
+        form.picSlate.Top = shift;
+        form.VScroll.Visible = form.HScroll.Visible = false;
+        form.imgDrag.Left = form.picSlate.Left;
+        form.imgDrag.Top = shift + form.picSlate.Height;
+        form.imgDrag.Picture = std::make_shared<const Picture>(42, 42, Rgb(1, 2, 3));
+        host.PumpEvents();
+        const QImage seen = Screen();
+        for (int x = 0; x < seen.width(); ++x)
+            ASSERT_NE(seen.pixel(x, ToScreen(50)), Magenta) << x;
+        for (int y = ToScreen(shift); y < ToScreen(form.imgDrag.Top + 42); ++y)
+            ASSERT_NE(seen.pixel(ToScreen(form.imgDrag.Left), y), Magenta) << y;
+        EXPECT_EQ(seen.pixel(ToScreen(form.imgDrag.Left + 42), ToScreen(form.imgDrag.Top)), Magenta);
+    }
+}
+
+TEST_P(ScaledTest, AControlInAnotherLiesWhereItsPlaceInTheWindowIs) {
+    for (const int shift : {0, 1}) {
+        form.picBoard.Left = -50 + shift;
+        form.imgMark.Left = 100 + shift;
+        host.PumpEvents();
+        const QWidget& mark = *window.WidgetOf(form.imgMark);
+        EXPECT_EQ(mark.mapTo(&Inside(), QPoint(0, 0)), QPoint(ToScreen(50 + 2 * shift), ToScreen(40)));
+        EXPECT_EQ(mark.width(), ToScreen(70 + 2 * shift) - ToScreen(50 + 2 * shift));
+    }
+}
+
+TEST_P(ScaledTest, APieceIsPaintedAsTheWholeIs) {
+    std::mt19937 draw(11);
+    const auto upTo = [&draw](int limit) { return static_cast<int>(draw() % static_cast<unsigned>(limit)); };
+    Picture spots(42, 42, 0);
+    for (int i = 0; i < 500; ++i)
+        spots.SetPixel(upTo(42), upTo(42), Rgb(upTo(256), upTo(256), 0));
+    form.imgMark.Picture = form.imgDrag.Picture = std::make_shared<const Picture>(spots);
+    form.canvas = Picture(400, 300, Magenta);
+    for (int step = 0; step < 60; ++step) {
+        for (Picture* canvas : {&form.picBoard.canvas, &form.canvas})
+            for (int x = upTo(400), y = upTo(300), i = 0; i < 5; ++i)
+                canvas->SetPixel(x + upTo(9), y + upTo(9), Rgb(upTo(256), upTo(256), upTo(256)));
+        form.imgDrag.Left = upTo(400);
+        form.imgDrag.Top = upTo(300);
+        form.shpFrame.Left = upTo(200);
+        if (step % 10 == 9) form.picBoard.Left = -upTo(60);
+        host.Refresh(form);
+        ASSERT_EQ(Screen(), Inside().grab().toImage().convertToFormat(QImage::Format_RGB32)) << step;
+    }
+}
+
+TEST_P(ScaledTest, APictureAndItsOutlineAreEnlarged) {
+    form.imgMark.Visible = form.shpFrame.Visible = false;
+    for (int y = 0; y < 240; ++y)
+        for (int x = 0; x < 300; ++x)
+            form.picBoard.canvas.SetPixel(x, y, Rgb(x % 256, y, (x * y) % 256));
+    form.shpFrame.Visible = true;
+    host.PumpEvents();
+    const QImage seen = Screen();
+    EXPECT_EQ(seen.size(), QSize(ToScreen(400), ToScreen(300)));
+    // Each pixel of the record at its own place: at (0, 0) of the window lies (50, 40) of the board.
+    for (int y = 0; y < 70; y += 2)
+        for (int x = 0; x < 70; x += 2)
+            ASSERT_EQ(seen.pixel(ToScreen(x), ToScreen(y)), form.picBoard.canvas.Pixel(50 + x, 40 + y))
+                << x << "," << y;
+    for (const QPoint& corner :
+         {QPoint(ToScreen(80), ToScreen(40)), QPoint(ToScreen(100) - 1, ToScreen(50) - 1),
+          QPoint(ToScreen(81) - 1, ToScreen(41) - 1)})
+        EXPECT_EQ(seen.pixel(corner), Rgb(255, 255, 0));
+    EXPECT_NE(seen.pixel(ToScreen(82), ToScreen(42)), Rgb(255, 255, 0)) << "inside the outline";
+}
+
+TEST_P(ScaledTest, ThePointerIsWhereItIsSeen) {
+    const float factor = static_cast<float>(GetParam()) / 2;
+    for (const int pixel : {30, 31, 32, 33}) {
+        events.clear();
+        QTest::mouseMove(window.windowHandle(), Inside().mapTo(&window, QPoint(pixel, pixel + 10)));
+        ASSERT_EQ(events.size(), 1U);
+        EXPECT_EQ(events[0].control, "frmTest.picBoard");
+        EXPECT_FLOAT_EQ(events[0].x, 50 + static_cast<float>(pixel) / factor);
+        EXPECT_FLOAT_EQ(events[0].y, 40 + static_cast<float>(pixel + 10) / factor);
+    }
+    const QRect button = ToScreen(QRect(0, 270, 100, 25));
+    for (const QPoint& corner : {button.topLeft(), button.bottomRight()}) {
+        events.clear();
+        QTest::mouseMove(window.windowHandle(), Inside().mapTo(&window, corner));
+        EXPECT_EQ(events.back().control, "frmTest.cmdGo");
+        EXPECT_LT(events.back().x, 100);
+        EXPECT_LT(events.back().y, 25);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, ScaledTest, testing::Values(2, 3, 4));
+
+}  // namespace

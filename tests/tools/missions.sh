@@ -1,0 +1,80 @@
+#!/usr/bin/env bash
+# sarnoth-missions as a script meets it: the same bytes each time, exit codes, and a game folder left as it was.
+# Usage: missions.sh PROGRAM GAME_FOLDER
+set -u
+program=$(readlink -f "$1")
+game=$(readlink -f "$2")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work" || exit 2
+export TMPDIR=$work/tmp  # where the program makes its copies
+mkdir tmp
+failed=0
+
+complain() {
+    echo "$*"
+    failed=1
+}
+
+# expect CODE ARGUMENT...: runs the program; its outputs are left in out and err.
+expect() {
+    local code=$1 got=0
+    shift
+    timeout 240 "$program" "$@" >out 2>err || got=$?
+    [ "$got" -eq "$code" ] || complain "exit code $got instead of $code: $*"
+}
+
+# says FILE TEXT: whether an output holds the text.
+says() {
+    grep -qF -e "$2" "$1" || complain "\"$2\" is missing in std$1: $(head -3 "$1")"
+}
+
+cp -r "$game" game
+before=$(cd game && find . -type f -exec cksum {} +)
+
+for command in "--seeds 1..20" "--seeds 1..20 --json" "--log 7"; do
+    expect 0 --game "$work/game" $command
+    cp out first
+    expect 0 --game game $command
+    cmp first out || complain "two runs differ: $command"
+    [ -s err ] && complain "standard error isn't empty: $command"
+done
+says out "The end."
+expect 0 --seeds 3..3 --turns 1 --time
+says err "1 missions in"
+expect 0 --help
+says out "usage: sarnoth-missions"
+
+[ "$before" = "$(cd game && find . -type f -exec cksum {} +)" ] || complain "the game folder was written to"
+
+expect 1 --seeds 4..5 --limit 0
+says err "seed 4: the mission hasn't ended"
+truncate -s 1000 game/dat/save.dat
+expect 1 --seeds 8..9 --game game --json
+says err "seed 9: "
+says err "dat/save.dat"
+says out '{"seed": 9, "error": "'
+
+while read -r arguments; do
+    expect 2 $arguments
+    [ -s out ] && complain "standard output isn't empty: $arguments"
+    says err "sarnoth-missions --help tells more."
+done <<'END'
+--seed 1..2
+1..2
+--seeds
+--seeds 5
+--seeds 2..1
+--seeds 1..x
+--seeds ..3
+--seeds 1..4294967296
+--turns 0
+--turns 5x
+--log -1
+--log 1 --json
+--seeds 1..2 --log 1
+--game /nowhere
+END
+
+[ -z "$(ls "$TMPDIR")" ] || complain "a copy was left behind: $(ls "$TMPDIR")"
+exit $failed

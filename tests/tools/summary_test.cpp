@@ -1,0 +1,50 @@
+// The figures that many missions come to.
+#include "tools/missions/summary.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Ten victories of 1 to 10 turns, two withdrawals of 30 and 7, and one mission that failed.
+std::vector<PlayedMission> Missions() {
+    std::vector<PlayedMission> missions;
+    for (const int turns : {10, 1, 9, 2, 8, 3, 7, 4, 6, 5})
+        missions.push_back({100, {"Victory", turns, turns % 2, 0, 3}, ""});
+    missions.push_back({111, {"Withdrawal", 30, 4, 2, 1}, ""});
+    missions.push_back({112, {"Withdrawal", 7, 1, 1, 0}, ""});
+    missions.emplace_back().seed = 113;
+    missions.back().error = "a \"quoted\" name\n";
+    return missions;
+}
+
+TEST(MissionSummaryTest, TheTableLeavesOutWhatFailed) {
+    EXPECT_EQ(MissionTable(Missions()),
+              "                              turns                      mean of a mission\n"
+              "            missions   share    min  median   90%   max  wounded   dead  enemies dead\n"
+              "Victory           10   83.3%      1       5     9    10     0.50   0.00          3.00\n"
+              "Defeat             0\n"
+              "Withdrawal         2   16.7%      7       7    30    30     2.50   1.50          0.50\n"
+              // Of twelve the sixth and the eleventh; ten wounded, three dead and 31 enemies.
+              "All               12  100.0%      1       6    10    30     0.83   0.25          2.58\n");
+}
+
+TEST(MissionSummaryTest, TheJsonHoldsTheFiguresAndEachMission) {
+    const std::vector<PlayedMission> all = Missions();
+    EXPECT_EQ(
+        MissionJson({all[10], all[12]}),
+        R"({
+  "Victory": {"missions": 0, "share": 0, "turns": null, "mean": null},
+  "Defeat": {"missions": 0, "share": 0, "turns": null, "mean": null},
+  "Withdrawal": {"missions": 1, "share": 1.0000, "turns": {"minimum": 30, "median": 30, "percentile90": 30, )"
+        R"("maximum": 30}, "mean": {"squadWounded": 4.0000, "squadDead": 2.0000, "enemiesDead": 1.0000}},
+  "All": {"missions": 1, "share": 1.0000, "turns": {"minimum": 30, "median": 30, "percentile90": 30, )"
+        R"("maximum": 30}, "mean": {"squadWounded": 4.0000, "squadDead": 2.0000, "enemiesDead": 1.0000}},
+  "missions": [
+    {"seed": 111, "verdict": "Withdrawal", "turns": 30, "squadWounded": 4, "squadDead": 2, "enemiesDead": 1},
+    {"seed": 113, "error": "a \"quoted\" name\u000a"}
+  ]
+}
+)");
+}
+
+}  // namespace

@@ -1,0 +1,96 @@
+// sarnoth-missions: plays whole missions without a window and tells how they ended.
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <iostream>
+
+#include "platform/files.h"
+#include "platform/headless_host.h"
+#include "state/setup.h"
+#include "tools/game_copy.h"
+#include "tools/missions/options.h"
+#include "tools/missions/summary.h"
+#include "tools/missions/watchdog.h"
+#include "view/events.h"
+#include "view/field_form.h"
+
+namespace {
+
+enum ExitCode { AllEnded, SomeFailed, WrongUsage };
+
+using Clock = std::chrono::steady_clock;
+
+void Report(std::uint32_t seed, const std::string& error) {
+    std::cerr << "seed " << seed << ": " << error << std::endl;
+}
+
+PlayedMission Play(std::uint32_t seed, const MissionOptions& options, const GameCopy& copy) {
+    const Watchdog watchdog(options.limit, [seed, &options, &copy] {
+        Report(seed, "the mission hasn't ended after " + std::to_string(options.limit.count()) + " s");
+        copy.RemoveAll();
+        std::_Exit(SomeFailed);
+    });
+    const HeadlessHost host(Dispatch);
+    PlayedMission mission;
+    mission.seed = seed;
+    try {
+        Main(seed);
+        mission.result = PlayMission(options.turns);
+        const std::string& verdict = mission.result.verdict;
+        if (std::find(Verdicts.begin(), Verdicts.end(), verdict) == Verdicts.end())
+            mission.error = "ended as \"" + verdict + "\"";
+    } catch (const ProcessEnded& end) {
+        mission.error = "ended with exit code " + std::to_string(end.exitCode);
+    } catch (const std::exception& error) {
+        mission.error = error.what();
+    }
+    if (!mission.error.empty()) Report(seed, mission.error);
+    return mission;
+}
+
+ExitCode PrintLog(const MissionOptions& options, const GameCopy& copy) {
+    const PlayedMission mission = Play(*options.log, options, copy);
+    for (const std::string& line : frmField.cmbLog.List)
+        std::cout << line << "\n";
+    return mission.error.empty() ? AllEnded : SomeFailed;
+}
+
+void PrintSpeed(std::size_t missions, std::chrono::duration<double> time) {
+    std::cerr << missions << " missions in " << time.count() << " s, "
+              << static_cast<double>(missions) / time.count() << " a second\n";
+}
+
+ExitCode PlayAll(const MissionOptions& options, const GameCopy& copy) {
+    const Clock::time_point start = Clock::now();
+    std::vector<PlayedMission> missions;
+    for (std::uint64_t seed = options.firstSeed; seed <= options.lastSeed; ++seed)
+        missions.push_back(Play(static_cast<std::uint32_t>(seed), options, copy));
+    std::cout << (options.json ? MissionJson(missions) : MissionTable(missions));
+    if (options.time) PrintSpeed(missions.size(), Clock::now() - start);
+    const bool ended = std::all_of(missions.begin(), missions.end(),
+                                   [](const PlayedMission& mission) { return mission.error.empty(); });
+    return ended ? AllEnded : SomeFailed;
+}
+
+ExitCode Run(const MissionOptions& options) {
+    const GameCopy copy(options.game.empty() ? GAME_FOLDER : options.game);
+    SetProgramFolder(copy.Path());
+    return options.log ? PrintLog(options, copy) : PlayAll(options, copy);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) try {
+    const MissionOptions options = ReadMissionOptions({arguments + 1, arguments + count});
+    if (options.help) {
+        std::cout << MissionUsage;
+        return AllEnded;
+    }
+    return Run(options);
+} catch (const UsageError& error) {
+    std::cerr << "sarnoth-missions: " << error.what() << "\nsarnoth-missions --help tells more.\n";
+    return WrongUsage;
+} catch (const std::exception& error) {
+    std::cerr << "sarnoth-missions: " << error.what() << "\n";
+    return SomeFailed;
+}

@@ -1,0 +1,34 @@
+// What the command line of sarnoth-missions asks for.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+struct MissionOptions {
+    std::uint32_t firstSeed = 1;
+    std::uint32_t lastSeed = 1000;  // included
+    int turns = 30;                 // after which the player leaves a mission
+    std::optional<std::uint32_t> log;
+    std::filesystem::path game;  // empty: the one that was built beside the program
+    std::chrono::seconds limit{60};
+    bool json = false;
+    bool time = false;
+    bool help = false;
+};
+
+/// A command line that can't be followed; the text says why.
+class UsageError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// What --help prints.
+extern const char* const MissionUsage;
+
+/// Reads the arguments after the program's name. Throws UsageError.
+MissionOptions ReadMissionOptions(const std::vector<std::string>& arguments);

@@ -1,0 +1,142 @@
+#include "tools/missions/summary.h"
+
+#include <algorithm>
+#include <iomanip>
+#include <sstream>
+#include <string_view>
+
+namespace {
+
+// What is told about some of the missions; without missions the other figures mean nothing.
+struct Figures {
+    std::size_t missions = 0;
+    double share = 0;  // of all that ended
+    int least = 0;     // turns
+    int median = 0;
+    int ninetieth = 0;
+    int most = 0;
+    double squadWounded = 0;  // a mission
+    double squadDead = 0;
+    double enemiesDead = 0;
+};
+
+using Missions = std::vector<const PlayedMission*>;
+
+// The smallest value that so many percent of all don't exceed.
+int Percentile(const std::vector<int>& sorted, std::size_t percent) {
+    return sorted[(sorted.size() * percent + 99) / 100 - 1];
+}
+
+double Mean(const Missions& missions, int MissionResult::*figure) {
+    int sum = 0;
+    for (const PlayedMission* mission : missions)
+        sum += mission->result.*figure;
+    return sum / static_cast<double>(missions.size());
+}
+
+Missions Ended(const std::vector<PlayedMission>& all, std::string_view verdict) {
+    Missions chosen;
+    for (const PlayedMission& mission : all)
+        if (mission.error.empty() && (verdict.empty() || mission.result.verdict == verdict))
+            chosen.push_back(&mission);
+    return chosen;
+}
+
+// Of the missions with this verdict; of all that ended for an empty one.
+Figures FiguresOf(const std::vector<PlayedMission>& all, std::string_view verdict) {
+    const Missions missions = Ended(all, verdict);
+    Figures figures;
+    if (missions.empty()) return figures;
+    std::vector<int> turns;
+    turns.reserve(missions.size());
+    for (const PlayedMission* mission : missions)
+        turns.push_back(mission->result.turns);
+    std::sort(turns.begin(), turns.end());
+    figures.missions = missions.size();
+    figures.share = static_cast<double>(missions.size()) / static_cast<double>(Ended(all, "").size());
+    figures.least = turns.front();
+    figures.median = Percentile(turns, 50);
+    figures.ninetieth = Percentile(turns, 90);
+    figures.most = turns.back();
+    figures.squadWounded = Mean(missions, &MissionResult::squadWounded);
+    figures.squadDead = Mean(missions, &MissionResult::squadDead);
+    figures.enemiesDead = Mean(missions, &MissionResult::enemiesDead);
+    return figures;
+}
+
+std::string Row(const std::string& name, const Figures& figures) {
+    std::ostringstream row;
+    row << std::left << std::setw(10) << name << std::right << std::setw(10) << figures.missions;
+    if (figures.missions > 0) {
+        row << std::fixed << std::setprecision(1) << std::setw(7) << figures.share * 100 << "%"
+            << std::setw(7) << figures.least << std::setw(8) << figures.median << std::setw(6)
+            << figures.ninetieth << std::setw(6) << figures.most << std::setprecision(2) << std::setw(9)
+            << figures.squadWounded << std::setw(7) << figures.squadDead << std::setw(14)
+            << figures.enemiesDead;
+    }
+    row << "\n";
+    return row.str();
+}
+
+std::string Quoted(const std::string& text) {
+    std::ostringstream quoted;
+    quoted << '"' << std::hex << std::setfill('0');
+    for (const char c : text) {
+        if (static_cast<unsigned char>(c) < ' ')
+            quoted << "\\u" << std::setw(4) << static_cast<int>(c);
+        else if (c == '"' || c == '\\')
+            quoted << '\\' << c;
+        else
+            quoted << c;
+    }
+    quoted << '"';
+    return quoted.str();
+}
+
+std::string FiguresJson(const Figures& figures) {
+    if (figures.missions == 0) return R"({"missions": 0, "share": 0, "turns": null, "mean": null})";
+    std::ostringstream json;
+    json << std::fixed << std::setprecision(4) << R"({"missions": )" << figures.missions << R"(, "share": )"
+         << figures.share << R"(, "turns": {"minimum": )" << figures.least << R"(, "median": )"
+         << figures.median << R"(, "percentile90": )" << figures.ninetieth << R"(, "maximum": )"
+         << figures.most << R"(}, "mean": {"squadWounded": )" << figures.squadWounded << R"(, "squadDead": )"
+         << figures.squadDead << R"(, "enemiesDead": )" << figures.enemiesDead << "}}";
+    return json.str();
+}
+
+std::string PlayedJson(const PlayedMission& mission) {
+    std::ostringstream json;
+    json << R"({"seed": )" << mission.seed;
+    const MissionResult& result = mission.result;
+    if (mission.error.empty())
+        json << R"(, "verdict": )" << Quoted(result.verdict) << R"(, "turns": )" << result.turns
+             << R"(, "squadWounded": )" << result.squadWounded << R"(, "squadDead": )" << result.squadDead
+             << R"(, "enemiesDead": )" << result.enemiesDead << "}";
+    else
+        json << R"(, "error": )" << Quoted(mission.error) << "}";
+    return json.str();
+}
+
+}  // namespace
+
+std::string MissionTable(const std::vector<PlayedMission>& missions) {
+    std::string table =
+        "                              turns                      mean of a mission\n"
+        "            missions   share    min  median   90%   max  wounded   dead  enemies dead\n";
+    for (const char* verdict : Verdicts)
+        table += Row(verdict, FiguresOf(missions, verdict));
+    return table + Row("All", FiguresOf(missions, ""));
+}
+
+std::string MissionJson(const std::vector<PlayedMission>& missions) {
+    std::string json = "{\n";
+    for (const char* verdict : Verdicts)
+        json += "  " + Quoted(verdict) + ": " + FiguresJson(FiguresOf(missions, verdict)) + ",\n";
+    json += "  \"All\": " + FiguresJson(FiguresOf(missions, "")) + ",\n  \"missions\": [";
+    const char* separator = "\n    ";
+    for (const PlayedMission& mission : missions) {
+        json += separator + PlayedJson(mission);
+        separator = ",\n    ";
+    }
+    return json + "\n  ]\n}\n";
+}

@@ -1,0 +1,136 @@
+#include "tools/scripted_player.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+#include <stdexcept>
+
+#include "platform/headless_host.h"
+#include "platform/input_event.h"
+#include "state/state.h"
+#include "view/events.h"
+#include "view/field_form.h"
+
+namespace {
+
+constexpr int LeftButton = 1;
+constexpr int RightButton = 2;
+constexpr int SpaceKey = 32;
+
+// The turns that the squad has begun, by the log, which is read on from where it was read up to.
+class TurnCount {
+  public:
+    int Now() {
+        const auto& lines = frmField.cmbLog.List;
+        for (; read < lines.size(); ++read)
+            if (lines[read] == "New turn for team #0") ++turns;
+        return turns;
+    }
+
+  private:
+    std::size_t read = 0;
+    int turns = 0;
+};
+
+void Click(int button, const Unit& on) {
+    Dispatch({EventKind::MouseDown, "frmField.area", -1, button, 0, static_cast<float>(on.pixelX + HalfCell),
+              static_cast<float>(on.pixelY + HalfCell)});
+}
+
+// Whether no comrade stands between two cells.
+bool LineIsClear(const Unit& from, const Unit& to) {
+    const int dx = to.pixelX - from.pixelX;
+    const int dy = to.pixelY - from.pixelY;
+    const int steps = std::max(std::abs(dx), std::abs(dy)) / HalfCell;
+    for (int i = 1; i < steps; ++i) {
+        const int x = from.pixelX + HalfCell + dx * i / steps;
+        const int y = from.pixelY + HalfCell + dy * i / steps;
+        const int occupant = cellGrid[y / CellSize][x / CellSize].occupant;
+        if (occupant >= 0 && occupant < FirstOf(EnemyTeam) && &UnitTable[occupant] != &from) return false;
+    }
+    return true;
+}
+
+enum class Choice { Target, Goal };
+
+// The nearest living enemy to fire at, which he must see past his comrades, or to walk to; nullptr for none.
+const Unit* NearestEnemy(const Unit& soldier, Choice choice) {
+    const Unit* nearest = nullptr;
+    int best = std::numeric_limits<int>::max();
+    for (int i = 0; i <= teamLast[EnemyTeam]; ++i) {
+        const Unit& enemy = UnitTable[FirstOf(EnemyTeam) + i];
+        if (enemy.status == Dead) continue;
+        if (choice == Choice::Target && (soldier.seen[i] != 1 || !LineIsClear(soldier, enemy))) continue;
+        const int distance = std::abs(enemy.cellX - soldier.cellX) + std::abs(enemy.cellY - soldier.cellY);
+        if (distance >= best) continue;
+        best = distance;
+        nearest = &enemy;
+    }
+    return nearest;
+}
+
+// The orders of one soldier, a few at most, for as long as he stays selected.
+void PlaySoldier(int soldier) {
+    constexpr int Orders = 12;
+    const Unit& unit = UnitTable[soldier];
+    for (int order = 0; order < Orders && curUnit == soldier && unit.time >= TimeToAct; ++order) {
+        if (const Unit* target = NearestEnemy(unit, Choice::Target))
+            Click(RightButton, *target);
+        else if (const Unit* goal = NearestEnemy(unit, Choice::Goal))
+            Click(LeftButton, *goal);
+    }
+}
+
+// Orders for each soldier, and the end of the turn, unless the last one's orders have brought it already. A
+// soldier without time has handed over to the next by himself.
+void PlayTurn(TurnCount& count) {
+    const int turn = count.Now();
+    for (int i = 0; i <= teamLast[SquadTeam] && count.Now() == turn; ++i) {
+        const int soldier = curUnit;
+        PlaySoldier(soldier);
+        if (count.Now() == turn && curUnit == soldier)
+            Dispatch({EventKind::KeyDown, "frmField", -1, SpaceKey});
+    }
+    if (count.Now() == turn) Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
+}
+
+void PlayToTheEnd(int turns, TurnCount& count) {
+    try {
+        while (count.Now() <= turns)
+            PlayTurn(count);
+        Dispatch({EventKind::Click, "frmField.mnuExit"});
+    } catch (const ProcessEnded& end) {
+        if (end.exitCode == 0) return;
+        throw;
+    }
+    throw std::logic_error("\"Exit\" didn't end the mission");
+}
+
+int DeadOf(int team) {
+    int dead = 0;
+    for (int i = 0; i <= teamLast[team]; ++i)
+        dead += UnitTable[FirstOf(team) + i].status == Dead ? 1 : 0;
+    return dead;
+}
+
+int WoundedOfSquad() {
+    int wounded = 0;
+    for (int i = 0; i <= teamLast[SquadTeam]; ++i)
+        wounded += UnitTable[i].wasWounded == True && UnitTable[i].status != Dead ? 1 : 0;
+    return wounded;
+}
+
+// The first word of the log's last line.
+std::string Verdict() {
+    const std::string& line = frmField.cmbLog.Text;
+    return line.substr(0, line.find('.'));
+}
+
+}  // namespace
+
+MissionResult PlayMission(int turns) {
+    TurnCount count;
+    PlayToTheEnd(turns, count);
+    const int had = std::min(count.Now(), turns);  // one more has begun when he leaves
+    return {Verdict(), had, WoundedOfSquad(), DeadOf(SquadTeam), DeadOf(EnemyTeam)};
+}
