@@ -97,9 +97,7 @@ void StepRow(int by) {
     const bool hasSizes = Row().kind == "m" || Row().kind == "a";
     frmInfo.imgUpDn[2].Visible = hasSizes;
     frmInfo.imgUpDn[3].Visible = hasSizes;
-    // The catalogue's own arrow and bin come up with its first step.
-    frmInfo.imgUpDn[1].Visible = true;
-    frmInfo.imgDel.Visible = true;
+    frmInfo.imgUpDn[1].Visible = true;  // the catalogue's own arrow comes up with its first step
     Held() = MakeItem(Row());
 }
 

@@ -141,6 +141,8 @@ void personal::Form_MouseMove(float x, float y) {
     frmInfo.txtFullname.Text = slot == NoSlot ? "" : ItemText(slot);
     if (slot != NoSlot)
         frmInfo.txtFullname.ForeColor = Feeds(ItemIn(PointerSlot), ItemIn(slot)) ? HintColour : QuietColour;
+    // The catalogue's bin lies over the maker's flag, so it shows only where it is needed.
+    frmInfo.imgDel.Visible = frmInfo.imgUpDn[1].Visible && slot == 0;
     if (frmInfo.dragSlot == NoSlot) return;
     const int half = ItemIn(PointerSlot).count == 1 ? LongHalf : SmallHalf;
     frmInfo.imgDrag.Left = WholePixel(x) - half;

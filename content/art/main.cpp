@@ -160,7 +160,7 @@ void WriteInventory(const PictureWriter& writer, const std::vector<NamedPicture>
 }
 
 std::vector<QImage> WriteFaces(const PictureWriter& writer) {
-    const std::vector<QImage> faces = Portraits();
+    std::vector<QImage> faces = Portraits();
     for (std::size_t i = 0; i < faces.size(); ++i)
         writer.Write("pic/faces/usa" + TwoDigits(static_cast<int>(i) + 1) + ".bmp", faces[i]);
     writer.Write("sheets/portraits.png", ContactSheet("PORTRAITS", faces, 4, 2));

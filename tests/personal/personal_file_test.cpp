@@ -263,6 +263,8 @@ TEST_F(PersonalFileTest, TheCatalogueStepsThroughEveryRowAndSize) {
     Key(EventKind::KeyDown, 98);
     Key(EventKind::KeyUp, 98);
     EXPECT_EQ(weaponPage, static_cast<int>(weaponTable.size()) - 1);
+    EXPECT_FALSE(frmInfo.imgDel.Visible);
+    PointAt(0);
     Click("frmInfo.imgDel");
     EXPECT_EQ(In(0).name, "");
     EXPECT_EQ(frmInfo.imgFlag.Picture, nullptr);
