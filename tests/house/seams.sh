@@ -5,7 +5,7 @@
 set -u
 cd "$1" || exit 2
 failed=0
-rooms="ai combat data field personal platform state view"
+rooms="ai combat data field personal platform state tools view"
 if grep -rnE '#include *[<"](Q[A-Z]|SDL|qt)' $rooms; then
     echo "toolkit headers outside desktop/"
     failed=1
