@@ -15,6 +15,7 @@ namespace {
 using std::chrono::steady_clock;
 
 constexpr const char* GameName = "Sarnoth III";
+constexpr std::chrono::milliseconds PlayBackPause(150);  // between events, so that a watcher can follow
 constexpr std::chrono::seconds QuietTime(10);  // an open sound device costs processor time also in silence
 
 void ShowBox(QMessageBox::Icon icon, const std::string& text) {
@@ -62,7 +63,20 @@ void DesktopHost::Enter(const std::function<void()>& piece) {
     Sync();
 }
 
+void DesktopHost::PlayBack(std::function<void(int pump)> source) {
+    playBack = std::move(source);
+    playBackPace.callOnTimeout([this] {
+        if (InnermostPump() == 0) LetIn();
+    });
+    playBackPace.start(PlayBackPause);
+}
+
+void DesktopHost::LetIn() {
+    if (playBack) Enter([this] { playBack(InnermostPump()); });
+}
+
 void DesktopHost::Receive(const InputEvent& event) {
+    if (playBack) return;
     Enter([&] { dispatch(event); });
     if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name)
         EndProcess(EXIT_SUCCESS);
@@ -92,14 +106,19 @@ void DesktopHost::Refresh(Control& control) {
 }
 
 void DesktopHost::PumpEvents() {
+    const Pumping pumping(*this);
     Sync();
+    LetIn();
     QCoreApplication::processEvents();
 }
 
 void DesktopHost::Wait(std::chrono::nanoseconds time, bool pump) {
     const auto end = steady_clock::now() + time;
     if (pump) {
-        PumpEvents();
+        const Pumping pumping(*this);
+        Sync();
+        LetIn();
+        QCoreApplication::processEvents();
         HandleEventsUntil(end);
     }
     std::this_thread::sleep_until(end);
@@ -113,8 +132,11 @@ void DesktopHost::ShowModal(Form& form) {
         window.setWindowModality(Qt::WindowModal);
     }
     Sync();
-    while (form.Visible)
+    const Pumping pumping(*this);
+    while (form.Visible) {
+        LetIn();
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
     Sync();
     if (outermost) window.setWindowModality(Qt::NonModal);
 }

@@ -25,6 +25,11 @@ class DesktopHost : public Host {
     /// The window of a form; made at its first use.
     FormWindow& WindowOf(Form& form);
 
+    /// Events come from `source` instead of the windows: it is asked at each pump, wait and modal window with
+    /// their number (see InnermostPump), and from time to time with 0 when none of them runs, and enters the
+    /// next event by itself.
+    void PlayBack(std::function<void(int pump)> source);
+
     void Refresh(Control& control) override;
     void PumpEvents() override;
     void Wait(std::chrono::nanoseconds time, bool pump) override;
@@ -34,6 +39,7 @@ class DesktopHost : public Host {
     [[noreturn]] void EndProcess(int exitCode) override;
 
   private:
+    void LetIn();
     void Receive(const InputEvent& event);
     void Sync();
     void Fail(const std::string& text);
@@ -44,5 +50,7 @@ class DesktopHost : public Host {
     std::vector<FormWindow*> otherWindows;  // the main window owns them
     std::vector<Form*> forms;               // all but the main one
     SoundDevice soundDevice;
+    std::function<void(int pump)> playBack;  // empty: a person plays
+    QTimer playBackPace;
     QTimer quiet;  // runs out when no sound was asked for in a while
 };

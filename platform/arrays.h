@@ -27,6 +27,8 @@ class Array {
     T& operator[](int index) { return places[Place(index)]; }
     const T& operator[](int index) const { return places[Place(index)]; }
 
+    bool operator==(const Array&) const = default;
+
     auto begin() { return places.begin(); }
     auto end() { return places.end(); }
     auto begin() const { return places.begin(); }

@@ -19,6 +19,7 @@ void HeadlessHost::Refresh(Control& /*control*/) {
 }
 
 void HeadlessHost::PumpEvents() {
+    const Pumping pumping(*this);
     ++pumps;
     while (!queue.empty() && queue.front().atPump <= pumps) {
         const InputEvent event = queue.front().event;

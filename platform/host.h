@@ -27,6 +27,10 @@ class Host {
     /// Shows the changes of `control` and of its window now.
     virtual void Refresh(Control& control) = 0;
 
+    /// The number of the innermost pump, wait or modal window that lets events in now, counted from 1 in the order
+    /// in which they began; 0 outside them all. With the order of the events it tells where in a run each came.
+    int InnermostPump() const { return innermost; }
+
     /// Lets the events that wait be handled; each may run a whole order before this returns.
     virtual void PumpEvents() = 0;
 
@@ -43,6 +47,24 @@ class Host {
 
     /// Ends the process at once; nothing of the game runs any more.
     [[noreturn]] virtual void EndProcess(int exitCode) = 0;
+
+  protected:
+    /// Lives for as long as events are let in.
+    class Pumping {
+      public:
+        explicit Pumping(Host& by) : host(by), outer(by.innermost) { host.innermost = ++host.begun; }
+        ~Pumping() { host.innermost = outer; }
+        Pumping(const Pumping&) = delete;
+        Pumping& operator=(const Pumping&) = delete;
+
+      private:
+        Host& host;
+        int outer;
+    };
+
+  private:
+    int begun = 0;
+    int innermost = 0;
 };
 
 /// The host of this process; one must have been installed.

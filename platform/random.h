@@ -10,6 +10,9 @@ void SeedRandom(std::uint32_t seed);
 /// The next float in [0, 1), a multiple of 2^-24.
 float NextRandom();
 
+/// How often it was drawn from since it was seeded; with the seed this is its whole state.
+std::uint64_t RandomDraws();
+
 /// A whole number from `low` to `high`, both included; note the order of the arguments. With `high` below
 /// `low` the result lies between `high` + 1 and `low`.
 int RandomInt(int high, int low);

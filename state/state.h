@@ -37,6 +37,8 @@ struct InvItem {
     std::string ammoSecond;  // item kind of the second feed, empty for none
     u8 capSecond;
     u8 roundsSecond;
+
+    bool operator==(const InvItem&) const = default;
 };
 
 /// A row of the weapons file; also the working copy of what a unit holds.
@@ -60,6 +62,8 @@ struct WeaponInfo {
     std::string title;     // in the catalogue
     std::string fullName;  // tool tip
     std::string country;   // the maker's: name of a flag picture
+
+    bool operator==(const WeaponInfo&) const = default;
 };
 
 /// A kind of ammunition or equipment.
@@ -126,6 +130,8 @@ struct Unit {
     i16 aiReserve;
     Array<i16, 0, 20> seen;  // 1: has sighted the enemy of that place
     i16 itemCount;           // whether the unit stands at the vehicle store, while its file is open
+
+    bool operator==(const Unit&) const = default;
 };
 
 struct Cell {
@@ -136,6 +142,8 @@ struct Cell {
     i16 extra;
     i16 spare;
     i16 block;  // stops: 0 nothing, 1 steps, 2 the view, 3 both
+
+    bool operator==(const Cell&) const = default;
 };
 
 struct Spot {

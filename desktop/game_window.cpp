@@ -1,0 +1,106 @@
+#include "desktop/game_window.h"
+
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+#include <QApplication>
+#include <QIcon>
+#include <QScreen>
+#include <QTimer>
+
+#include "desktop/appearance.h"
+#include "desktop/desktop_host.h"
+#include "desktop/scale.h"
+#include "platform/files.h"
+#include "platform/run_time_error.h"
+#include "view/field_form.h"
+#include "view/forms.h"
+
+namespace {
+
+void PrintNoDisplay() {
+    const RunTimeError error(Fault::NoDisplay,
+                             "start the game from a desktop, or set DISPLAY or WAYLAND_DISPLAY");
+    std::fprintf(stderr, "Sarnoth III: %s\n", error.what());
+}
+
+bool DisplayIsNamed() {
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (!qEnvironmentVariableIsEmpty(variable)) return true;
+    return false;
+}
+
+QIcon GameIcon() {
+    QIcon icon;
+    for (const char* size : {"16", "32", "48", "128"})
+        icon.addFile(QStringLiteral(":/icon%1.png").arg(QLatin1String(size)));
+    return icon;
+}
+
+// While the application object is made: a display that is named but doesn't answer would abort the process.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
+    if (type != QtFatalMsg) return;
+    PrintNoDisplay();
+    std::_Exit(EXIT_FAILURE);
+}
+
+// As the desktop wants it, by its resolution and its factor for programs.
+double WantedScale(const QByteArray& factor) {
+    bool isNumber = false;
+    const double number = factor.toDouble(&isNumber);
+    const double resolution = QGuiApplication::primaryScreen()->logicalDotsPerInch();
+    return (isNumber ? number : 1.0) * resolution / PlainResolution;
+}
+
+std::vector<const Form*> ShownForms() {
+    const std::vector<Form*> others = OtherForms();
+    std::vector<const Form*> forms(others.begin(), others.end());
+    forms.push_back(&frmField);
+    return forms;
+}
+
+}  // namespace
+
+int RunInWindow(char** arguments, const WindowRun& run) {
+    if (!DisplayIsNamed()) {
+        PrintNoDisplay();
+        return EXIT_FAILURE;
+    }
+    qputenv("QT_NO_GLIB", "1");  // the other event dispatcher can leave keys lying until the next one comes
+    int countOfName = 1;         // the game takes no arguments
+    // The windows do their own scaling; the toolkit works in screen pixels.
+    const QByteArray factor = qgetenv("QT_SCALE_FACTOR");
+    qunsetenv("QT_SCALE_FACTOR");
+    qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+    const QtMessageHandler usual = qInstallMessageHandler(EndWithoutDisplay);
+    QApplication application(countOfName, arguments);
+    qInstallMessageHandler(usual);
+    std::setlocale(LC_NUMERIC, "C");  // the game's numbers have a decimal point everywhere
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    SetScale(FittingScale(WantedScale(factor), screen, ShownForms()));
+    SetAppearance(application);
+    QApplication::setWindowIcon(GameIcon());
+    SetProgramFolder(run.folder);
+
+    DesktopHost host(frmField, OtherForms(), run.dispatch);
+    if (run.playBack) host.PlayBack(run.playBack);
+    // Within the event loop, so that the game can wait, and show boxes, from its first moment.
+    QTimer begin;
+    begin.setSingleShot(true);
+    begin.callOnTimeout([&] { host.Enter(run.begin); });
+    begin.start();
+    return QApplication::exec();
+}
+
+bool SaveWindow(const std::string& form, const std::filesystem::path& file) {
+    FormWindow& window = static_cast<DesktopHost&>(TheHost()).WindowOf(*FormByName(form));
+    window.Sync();
+    return window.grab().save(QString::fromStdString(file.string()));
+}
+
+std::filesystem::path OwnFolder() {
+    return std::filesystem::read_symlink("/proc/self/exe").parent_path();
+}

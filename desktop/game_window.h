@@ -1,0 +1,25 @@
+// The game in its window: what a program needs to show it, without the toolkit.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include "platform/input_event.h"
+
+struct WindowRun {
+    std::filesystem::path folder;                      // the game's: data, maps, pictures, sounds
+    std::function<void()> begin;                       // starts the game
+    std::function<void(const InputEvent&)> dispatch;   // takes what a person does
+    std::function<void(int pump)> playBack = nullptr;  // see DesktopHost::PlayBack; empty for a person's play
+};
+
+/// Runs until the process ends. `arguments` are main's. The result is an exit code: with nowhere to show a
+/// window it says so on standard error and is 1.
+int RunInWindow(char** arguments, const WindowRun& run);
+
+/// Saves a window of the running game, named as "frmField", as it would be shown. False when it can't be written.
+bool SaveWindow(const std::string& form, const std::filesystem::path& file);
+
+/// The folder that the running program lies in.
+std::filesystem::path OwnFolder();

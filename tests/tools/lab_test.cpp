@@ -1,0 +1,94 @@
+// Recordings: what was recorded replays to the same state, and a run that goes another way is caught where it
+// does.
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+
+#include "state/state.h"
+#include "tests/support/game_test.h"
+#include "tools/lab/recording.h"
+#include "tools/lab/replay.h"
+#include "tools/lab/soak.h"
+
+namespace {
+
+class LabTest : public GameTest {
+  protected:
+    // A recorded run of random events, some of which come in the middle of others.
+    Recording Record(std::uint32_t seed, int events) {
+        const std::filesystem::path file = folder.Path() / "run.rec";
+        const SoakedMission mission = Soak(seed, events, file);
+        EXPECT_EQ(mission.fault, "");
+        return ReadRecording(file);
+    }
+
+    static Recording Read(const std::string& text) {
+        std::istringstream stream(text);
+        return ReadRecording(stream, "x.rec");
+    }
+};
+
+TEST_F(LabTest, WhatWasRecordedReplaysToTheSameStates) {
+    for (const std::uint32_t seed : {3U, 8U}) {
+        const Recording recording = Record(seed, 120);
+        EXPECT_TRUE(std::any_of(recording.events.begin(), recording.events.end(),
+                                [](const RecordedEvent& event) { return event.pump > 0; }))
+            << "some events came at pumps";
+        const ReplayResult result = ReplayHeadless(recording);
+        EXPECT_EQ(result.difference, "") << "seed " << seed;
+        EXPECT_EQ(result.events, recording.events.size());
+    }
+}
+
+TEST_F(LabTest, TheFirstDifferenceIsNamedWithItsEventAndField) {
+    const std::string head = RecordingHead(5) + "\n";
+    Recording recording = Record(5, 10);
+    const auto changed =
+        std::find_if(recording.lines.begin(), recording.lines.end(), [](const std::string& line) {
+            return line.starts_with("  curUnit") || line.starts_with("  UnitTable");
+        });
+    ASSERT_NE(changed, recording.lines.end());
+    const std::string was = *changed;
+    *changed += "0";
+    const ReplayResult result = ReplayHeadless(recording);
+    EXPECT_NE(result.difference.find("replayed: " + was), std::string::npos) << result.difference;
+    EXPECT_NE(result.difference.find("event "), std::string::npos);
+}
+
+TEST_F(LabTest, ARecordingThatIsNoneIsToldByItsLine) {
+    struct Case {
+        const char* text;
+        const char* where;
+    };
+    constexpr Case Cases[] = {
+        {"", "x.rec:1"},
+        {"sarnoth recording 2\n", "x.rec:1"},
+        {"sarnoth recording 1\nbuilt today\n", "x.rec:2"},
+        {"sarnoth recording 1\nbuild x\nseed -4x\n", "x.rec:3"},
+        {"sarnoth recording 1\nbuild x\nseed 4\nafter 0 00\nevent 1\n", "x.rec:5"},
+        {"sarnoth recording 1\nbuild x\nseed 4\nafter 0 00\nevent 1 0 Clack frmField -1 0 0 0 0\n",
+         "x.rec:5"},
+        {"sarnoth recording 1\nbuild x\nseed 4\nafter 0 00\nnonsense\n", "x.rec:5"},
+    };
+    for (const Case& c : Cases)
+        EXPECT_NE(ErrorOf([&] { Read(c.text); }).find(c.where), std::string::npos) << c.text;
+}
+
+TEST_F(LabTest, TheWatchTellsEveryKindOfChange) {
+    StartGame();
+    StateWatch watch;
+    EXPECT_TRUE(watch.Look().empty());
+    const std::uint64_t before = watch.Hash();
+    UnitTable[3].time = 7;
+    UnitTable[3].items[2].name = "ak";
+    cellGrid[5][9].durab = 1;
+    groundItems[4][8][1].roundsMain = 3;
+    curUnit = 2;
+    const std::vector<std::string> lines = watch.Look();
+    EXPECT_EQ(lines.size(), 5U);
+    EXPECT_EQ(lines[0], "curUnit 0 -> 2");
+    EXPECT_EQ(lines[4], "groundItems[4][8][1].roundsMain 0 -> 3");
+    EXPECT_NE(watch.Hash(), before);
+}
+
+}  // namespace

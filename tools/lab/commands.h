@@ -1,0 +1,24 @@
+// The commands of sarnoth-lab. Each takes the words after its name and gives the exit code: 0 for well, 1
+// when something was found. UsageError, RunTimeError and other exceptions are told by main.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lab {
+
+using Words = std::vector<std::string>;
+
+/// Plays in a window and records it.
+int Play(const Words& words, char** arguments);
+
+/// Replays a recording without a window or in one.
+int ReplayFile(const Words& words, char** arguments);
+
+/// Random missions in several processes.
+int SoakSeeds(const Words& words);
+
+/// Paints a window into a file.
+int Shot(const Words& words, char** arguments);
+
+}  // namespace lab

@@ -1,0 +1,71 @@
+// sarnoth-lab: the makers' program around the game: plays and records, replays, soaks, paints.
+#include <algorithm>
+#include <iostream>
+
+#include "tools/lab/commands.h"
+#include "tools/missions/options.h"
+
+namespace {
+
+enum ExitCode { Well, Found, WrongUsage };
+
+struct Command {
+    const char* name;
+    int (*run)(const lab::Words& words, char** arguments);
+    const char* help;
+};
+
+constexpr Command Commands[] = {
+    {"play", lab::Play,
+     "play [--seed N] [--record FILE] [--game FOLDER]\n"
+     "  Plays in a window, and writes every event with what it changed into FILE.\n"},
+    {"replay", lab::ReplayFile,
+     "replay FILE [--window] [--game FOLDER]\n"
+     "  Replays a recording and compares the state after each event; stops at the first difference and names "
+     "it.\n"},
+    {"soak", [](const lab::Words& words, char** /*arguments*/) { return lab::SoakSeeds(words); },
+     "soak [--seeds A..B] [--events N] [--jobs J] [--json] [--record FOLDER] [--game FOLDER]\n"
+     "  Plays missions of N random events (400) in J processes at once, and looks after each event whether "
+     "all is in\n"
+     "  order. A mission that isn't is recorded into FOLDER when one is named.\n"},
+    {"shot", lab::Shot,
+     "shot FILE.png [--seed N] [--window field|info|map] [--game FOLDER]\n"
+     "  Paints a window of a new game into FILE.png; needs no display.\n"},
+};
+
+void PrintHelp(std::ostream& to) {
+    to << "usage: sarnoth-lab COMMAND ...\n\n";
+    for (const Command& command : Commands)
+        to << command.help << "\n";
+    to << "The game folder is only read: every run works on a copy of its data. Exit code 0: well; 1: "
+          "something was "
+          "found, or\nan error; 2: a wrong command line.\n";
+}
+
+int Run(const lab::Words& words, char** arguments) {
+    if (words.empty()) throw UsageError("a command is missing");
+    if (words[0] == "--help") {
+        PrintHelp(std::cout);
+        return Well;
+    }
+    const lab::Words rest(words.begin() + 1, words.end());
+    for (const Command& command : Commands) {
+        if (words[0] != command.name) continue;
+        if (std::find(rest.begin(), rest.end(), "--help") == rest.end()) return command.run(rest, arguments);
+        std::cout << "usage: sarnoth-lab " << command.help;
+        return Well;
+    }
+    throw UsageError("there is no command \"" + words[0] + "\"");
+}
+
+}  // namespace
+
+int main(int count, char** arguments) try {
+    return Run({arguments + 1, arguments + count}, arguments);
+} catch (const UsageError& error) {
+    std::cerr << "sarnoth-lab: " << error.what() << "\nsarnoth-lab --help tells more.\n";
+    return WrongUsage;
+} catch (const std::exception& error) {
+    std::cerr << "sarnoth-lab: " << error.what() << "\n";
+    return Found;
+}

@@ -1,0 +1,98 @@
+// The commands that show a window.
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+
+#include "desktop/game_window.h"
+#include "personal/personal_file.h"
+#include "platform/files.h"
+#include "platform/host.h"
+#include "state/setup.h"
+#include "tools/game_copy.h"
+#include "tools/lab/arguments.h"
+#include "tools/lab/commands.h"
+#include "tools/lab/recorder.h"
+#include "tools/lab/replay.h"
+#include "tools/missions/options.h"
+#include "view/events.h"
+#include "view/mini_map.h"
+
+namespace lab {
+
+namespace {
+
+void Tell(const ReplayResult& result) {
+    if (result.difference.empty())
+        std::cout << result.events << " events replayed, all as recorded\n";
+    else
+        std::cout << "it went another way at " << result.difference << "\n";
+}
+
+int ReplayInWindow(const Recording& recording, const GameCopy& copy, char** arguments) {
+    Replay replay(recording);
+    const auto playBack = [&replay, &copy](int pump) {
+        replay.LetIn(pump);
+        if (pump != 0 || !replay.Done()) return;
+        Tell(replay.Result());
+        copy.RemoveAll();
+        TheHost().EndProcess(replay.Result().difference.empty() ? EXIT_SUCCESS : EXIT_FAILURE);
+    };
+    return RunInWindow(arguments, {.folder = copy.Path(),
+                                   .begin = [&replay] { replay.Start(); },
+                                   .dispatch = [](const InputEvent&) {},
+                                   .playBack = playBack});
+}
+
+}  // namespace
+
+int Play(const Words& words, char** arguments) {
+    const Arguments given(words, {"--seed", "--record", "--game"}, {}, 0);
+    const GameCopy copy(given.Text("--game", GAME_FOLDER));
+    const std::uint32_t seed = given.Number("--seed", 1);
+    std::ofstream file;
+    Recorder::Sink sink;
+    if (given.Has("--record")) {
+        file.open(given.Text("--record", ""));
+        if (!file) throw UsageError("can't write " + given.Text("--record", ""));
+        file << RecordingHead(seed) << std::endl;
+        // The process may end at any line.
+        sink = [&file](const std::string& line) { file << line << std::endl; };
+    }
+    Recorder recorder(sink);
+    return RunInWindow(arguments, {.folder = copy.Path(),
+                                   .begin = [&] { recorder.Start(seed); },
+                                   .dispatch = [&](const InputEvent& event) { recorder.Dispatch(event); }});
+}
+
+int ReplayFile(const Words& words, char** arguments) {
+    const Arguments given(words, {"--game"}, {"--window"}, 1);
+    const Recording recording = ReadRecording(given.Plain()[0]);
+    const GameCopy copy(given.Text("--game", GAME_FOLDER));
+    if (given.Has("--window")) return ReplayInWindow(recording, copy, arguments);
+    SetProgramFolder(copy.Path());
+    const ReplayResult result = ReplayHeadless(recording);
+    Tell(result);
+    return result.difference.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+int Shot(const Words& words, char** arguments) {
+    const Arguments given(words, {"--seed", "--window", "--game"}, {}, 1);
+    const GameCopy copy(given.Text("--game", GAME_FOLDER));
+    const std::string window = given.Text("--window", "field");
+    if (window != "field" && window != "info" && window != "map")
+        throw UsageError("no window \"" + window + "\"");
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    const std::uint32_t seed = given.Number("--seed", 1);
+    const auto begin = [&] {
+        Main(seed);
+        if (window == "info") LoadInfo();
+        if (window == "map") ToggleBigMap();
+        const bool saved = SaveWindow(window == "info" ? "frmInfo" : "frmField", given.Plain()[0]);
+        if (!saved) std::cerr << "sarnoth-lab: can't write " << given.Plain()[0] << "\n";
+        copy.RemoveAll();
+        TheHost().EndProcess(saved ? EXIT_SUCCESS : EXIT_FAILURE);
+    };
+    return RunInWindow(arguments, {.folder = copy.Path(), .begin = begin, .dispatch = Dispatch});
+}
+
+}  // namespace lab
