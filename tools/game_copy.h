@@ -1,25 +1,15 @@
 // A private game folder to run the game in, so that the player's own files are never written.
 #pragma once
 
-#include <filesystem>
+#include "tools/temporary_folder.h"
 
 /// A temporary copy of a game folder's data and maps, with its pictures and sounds linked in; removed with
 /// the object.
-class GameCopy {
+class GameCopy : public TemporaryFolder {
   public:
     /// Throws std::runtime_error when `game` is no game folder or the copy can't be made.
     explicit GameCopy(const std::filesystem::path& game);
-    ~GameCopy();
-    GameCopy(const GameCopy&) = delete;
-    GameCopy& operator=(const GameCopy&) = delete;
-
-    const std::filesystem::path& Path() const { return path; }
-
-    /// Removes the folder already now.
-    void RemoveAll() const;
 
   private:
     void Fill(const std::filesystem::path& game) const;
-
-    std::filesystem::path path;
 };

@@ -30,6 +30,19 @@ QImage Settle(const QImage& picture, double dither, Palette palette) {
     return settled;
 }
 
+QImage Indexed(const QImage& settled) {
+    QList<QRgb> table;
+    for (const InkRow& ink : Inks)
+        table.push_back(ink.colour);
+    QImage indexed(settled.size(), QImage::Format_Indexed8);
+    indexed.setColorTable(table);
+    for (int y = 0; y < settled.height(); ++y) {
+        for (int x = 0; x < settled.width(); ++x)
+            indexed.setPixel(x, y, static_cast<uint>(NearestInk(settled.pixel(x, y), 0, Palette::Whole)));
+    }
+    return indexed;
+}
+
 void Place(QImage& target, int x, int y, const QImage& picture) {
     QPainter painter(&target);
     painter.drawImage(x, y, picture);
@@ -48,6 +61,31 @@ Masked MaskOut(const QImage& settled) {
         }
     }
     return result;
+}
+
+QImage Rimmed(const QImage& figure, int shadow) {
+    const auto shown = [](const QImage& picture, int x, int y) {
+        return picture.valid(x, y) && qAlpha(picture.pixel(x, y)) > 0;
+    };
+    QImage rimmed = figure;
+    for (int y = 0; y < figure.height(); ++y) {
+        for (int x = 0; x < figure.width(); ++x) {
+            const bool beside = shown(figure, x - 1, y) || shown(figure, x + 1, y) ||
+                                shown(figure, x, y - 1) || shown(figure, x, y + 1);
+            if (beside && !shown(figure, x, y)) rimmed.setPixel(x, y, Colour(Ink::Soot).rgb());
+        }
+    }
+    QImage shaded = rimmed;
+    for (int y = 0; y < figure.height(); ++y) {
+        for (int x = 0; x < figure.width(); ++x) {
+            for (int away = shadow; away > 0 && !shown(rimmed, x, y); --away) {
+                const bool whole = away < shadow || (x + y) % 2 == 0;
+                if (whole && shown(rimmed, x - away, y - away))
+                    shaded.setPixel(x, y, Colour(Ink::Pine).rgb());
+            }
+        }
+    }
+    return shaded;
 }
 
 QImage Sheet(int width, int height, QRgb colour) {

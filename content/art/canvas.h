@@ -16,6 +16,9 @@ constexpr double GroundDither = 0.035;
 // lightness over which neighbouring inks are mixed by a fixed 4 by 4 pattern, 0 for none.
 QImage Settle(const QImage& picture, double dither = GroundDither, Palette palette = Palette::Field);
 
+// A settled, opaque picture in one byte a pixel, its colour table the inks.
+QImage Indexed(const QImage& settled);
+
 // Copies a picture onto another, see-through pixels leave what is there.
 void Place(QImage& target, int x, int y, const QImage& picture);
 
@@ -26,6 +29,10 @@ struct Masked {
     QImage mask;
 };
 Masked MaskOut(const QImage& settled);
+
+// A dark line all around sets a see-through picture off from any ground, and its shadow, that many pixels
+// long to the south-east and broken up at its end, lifts it.
+QImage Rimmed(const QImage& figure, int shadow);
 
 // An opaque sheet of one colour.
 QImage Sheet(int width, int height, QRgb colour = 0xff000000);

@@ -42,7 +42,6 @@ constexpr SmallPlace SmallPlaces[] = {
 constexpr QRect Face(78, 69, 140, 140);
 constexpr QRect Pack(277, 218, 142, 192);
 constexpr QRect Flag(490, 90, 18, 12);
-// The name is typed over the first rows of the head's place: the band covers them.
 constexpr QRect NameBand(234, 112, 196, 13);
 constexpr QRect RankPlate(252, 69, 44, 38);
 constexpr QRect Controls[] = {

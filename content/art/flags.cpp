@@ -2,364 +2,279 @@
 
 #include <algorithm>
 
-#include "canvas.h"
-#include "palette.h"
-#include "relief.h"
-#include "shapes.h"
-
 namespace art {
-namespace {
 
-constexpr double Width = 18;
-constexpr double Height = 12;
-constexpr double Up = -1.5708;  // a star stands on its legs
-
-// A layer of cloth. Measures are pixels; what a, b, c and d mean is told beside each shape.
-enum class Cut {
-    Field,    // the whole flag
-    Row,      // a band across: from a to b
-    Column,   // a band down: from a to b
-    Box,      // left a, top b, width c, height d
-    Cross,    // upright cross: middle at a, b, arms c wide
-    Saltire,  // diagonal cross: arms a wide
-    Falling,  // band from the upper left to the lower right, a wide
-    Wedge,    // triangle at the hoist: reaches a
-    Disc,     // middle a, b, radius c
-    Star,     // middle a, b, radius c
-    Moon,     // crescent open to the right: middle a, b, radius c
-    Lozenge,  // middle a, b, half width c, half height d
-    Peak      // triangle: middle a, tip b, half width c, foot d
-};
-
-struct Layer {
-    Cut cut;
-    Ink ink;
-    double a = 0, b = 0, c = 0, d = 0;
-};
-
-struct FlagRow {
-    const char* name;
-    std::vector<Layer> layers;
-};
-
-std::vector<Layer> Rows(Ink top, Ink middle, Ink bottom) {
-    return {{Cut::Field, middle}, {Cut::Row, top, 0, 4}, {Cut::Row, bottom, 8, 12}};
-}
-
-std::vector<Layer> Columns(Ink hoist, Ink middle, Ink fly) {
-    return {{Cut::Field, middle}, {Cut::Column, hoist, 0, 6}, {Cut::Column, fly, 12, 18}};
-}
-
-std::vector<Layer> Halves(Ink top, Ink bottom) {
-    return {{Cut::Field, bottom}, {Cut::Row, top, 0, 6}};
-}
-
-// The northern cross: its upright stands towards the hoist.
-std::vector<Layer> Northern(Ink field, Ink rim, Ink cross) {
-    return {{Cut::Field, field}, {Cut::Cross, rim, 6.5, 6, 4}, {Cut::Cross, cross, 6.5, 6, 2}};
-}
-
-std::vector<Layer> With(std::vector<Layer> ground, std::initializer_list<Layer> charges) {
-    ground.insert(ground.end(), charges);
-    return ground;
-}
-
-// The union of three crosses, in a canton or over the whole flag.
-std::vector<Layer> Union() {
-    return {{Cut::Field, Ink::Navy},
-            {Cut::Saltire, Ink::Snow, 2.8},
-            {Cut::Saltire, Ink::Crimson, 1.1},
-            {Cut::Cross, Ink::Snow, 9, 6, 4},
-            {Cut::Cross, Ink::Crimson, 9, 6, 2.2}};
-}
-
-std::vector<Layer> Ensign(std::initializer_list<Layer> stars) {
-    return With({{Cut::Field, Ink::Navy},
-                 {Cut::Row, Ink::Snow, 2, 4},
-                 {Cut::Box, Ink::Snow, 3, 0, 3, 6},
-                 {Cut::Box, Ink::Crimson, 4, 0, 1, 6},
-                 {Cut::Box, Ink::Crimson, 0, 2.5, 9, 1},
-                 {Cut::Box, Ink::Navy, 9, 0, 9, 12}},
-                stars);
-}
+using namespace badge;
 
 const std::vector<FlagRow>& Flags() {
-    using enum Ink;
     static const std::vector<FlagRow> table = {
-        {"AL", {{Cut::Field, Crimson}, {Cut::Lozenge, Iron, 9, 6, 3, 4}, {Cut::Box, Iron, 5.4, 4, 7.2, 1.6}}},
-        {"AM", Rows(Crimson, Navy, Amber)},
-        {"AR", With(Rows(Shallow, Snow, Shallow), {{Cut::Disc, Gold, 9, 6, 1.6}})},
-        {"AT", Rows(Crimson, Snow, Crimson)},
-        {"AU", Ensign({{Cut::Star, Snow, 4.5, 9, 1.7},
-                       {Cut::Star, Snow, 13.5, 2.6, 1.2},
-                       {Cut::Star, Snow, 13.5, 9.6, 1.2},
-                       {Cut::Star, Snow, 11.2, 5.6, 1.1},
-                       {Cut::Star, Snow, 16, 5, 1.1}})},
-        {"AZ", With(Rows(Cobalt, Crimson, Emerald),
-                    {{Cut::Moon, Snow, 8.6, 6, 1.7}, {Cut::Star, Snow, 10.8, 6, 1}})},
+        {"AD", {Down("NYR"), Stamp(7, 4, Arms)}},
+        {"AE", {Across("GWK"), Box("R", 0, 0, 5, 12)}},
+        {"AF", {Down("KRG"), Stamp(7, 4, ".WW./W..W/W..W/WWWW")}},
+        {"AG",
+         {Across("KKKKKBBWWWWW"), Corner("R", 0, 0, 0, 12, 9, 12), Corner("R", 18, 0, 18, 12, 9, 12),
+          Stamp(6, 1, "..YY../Y.YY.Y/.YYYY./YYYYYY")}},
+        {"AL", {Across("R"), Stamp(5, 2, Eagle, 'K'), Stamp(7, 1, "K..K")}},
+        {"AM", {Across("RNO")}},
+        {"AO", {Across("RK"), Stamp(6, 3, "..YY../Y..YY./.Y..Y./..YYYY/..YYY./.....Y")}},
+        {"AR", {Across("LWL"), Stamp(7, 4, ".YY./YYYY/YYYY/.YY.")}},
+        {"AT", {Across("RWR")}},
+        {"AU",
+         {Across("N"), Stamp(0, 0, Union), Stamp(3, 7, Star), Stamp(12, 1, Spark), Stamp(12, 8, Spark),
+          Stamp(9, 4, Spark), Stamp(15, 3, Spark)}},
+        {"AZ", {Across("BRG"), Stamp(6, 4, Moon), Stamp(9, 4, ".*./***/.*.")}},
         {"BA",
-         {{Cut::Field, Navy},
-          {Cut::Peak, Gold, 9, 0, 7, 12},
-          {Cut::Box, Navy, 0, 0, 5, 12},
-          {Cut::Falling, Snow, 0.8}}},
-        {"BD", {{Cut::Field, Emerald}, {Cut::Disc, Crimson, 8, 6, 3.6}}},
-        {"BE", Columns(Iron, Gold, Crimson)},
-        {"BG", Rows(Snow, Emerald, Crimson)},
-        {"BR", {{Cut::Field, Emerald}, {Cut::Lozenge, Gold, 9, 6, 7.6, 5}, {Cut::Disc, Navy, 9, 6, 2.5}}},
-        {"BY", {{Cut::Field, Crimson}, {Cut::Row, Emerald, 8, 12}, {Cut::Column, Snow, 0, 1.6}}},
-        {"CA",
-         {{Cut::Field, Snow},
-          {Cut::Column, Crimson, 0, 4.5},
-          {Cut::Column, Crimson, 13.5, 18},
-          {Cut::Star, Crimson, 9, 6, 3.6},
-          {Cut::Box, Crimson, 8.6, 6, 0.8, 4}}},
-        {"CH",
-         {{Cut::Field, Crimson}, {Cut::Box, Snow, 7.7, 2.5, 2.6, 7}, {Cut::Box, Snow, 5.5, 4.7, 7, 2.6}}},
-        {"CL",
-         {{Cut::Field, Snow},
-          {Cut::Row, Crimson, 6, 12},
-          {Cut::Box, Navy, 0, 0, 6, 6},
-          {Cut::Star, Snow, 3, 3, 1.8}}},
-        {"CN",
-         {{Cut::Field, Crimson},
-          {Cut::Star, Gold, 4, 4, 2.4},
-          {Cut::Disc, Gold, 7.6, 1.8, 0.6},
-          {Cut::Disc, Gold, 8.8, 3.6, 0.6},
-          {Cut::Disc, Gold, 8.8, 5.6, 0.6},
-          {Cut::Disc, Gold, 7.6, 7.4, 0.6}}},
-        {"CO", {{Cut::Field, Gold}, {Cut::Row, Navy, 6, 9}, {Cut::Row, Crimson, 9, 12}}},
-        {"CU",
-         {{Cut::Field, Navy},
-          {Cut::Row, Snow, 2.4, 4.8},
-          {Cut::Row, Snow, 7.2, 9.6},
-          {Cut::Wedge, Crimson, 9},
-          {Cut::Star, Snow, 3, 6, 1.8}}},
-        {"CZ", With(Halves(Snow, Crimson), {{Cut::Wedge, Navy, 9}})},
-        {"DE", Rows(Iron, Crimson, Gold)},
-        {"DK", Northern(Crimson, Snow, Snow)},
-        {"DZ",
-         {{Cut::Field, Snow},
-          {Cut::Column, Emerald, 0, 9},
-          {Cut::Moon, Crimson, 8.6, 6, 2.8},
-          {Cut::Star, Crimson, 10.4, 6, 1.3}}},
-        {"EE", Rows(Cobalt, Iron, Snow)},
-        {"EG", With(Rows(Crimson, Snow, Iron), {{Cut::Lozenge, Gold, 9, 6, 1.2, 1.7}})},
-        {"ES",
-         {{Cut::Field, Gold},
-          {Cut::Row, Crimson, 0, 3},
-          {Cut::Row, Crimson, 9, 12},
-          {Cut::Box, Brick, 4.4, 4.6, 2, 2.8}}},
-        {"ET",
-         With(Rows(Emerald, Gold, Crimson), {{Cut::Disc, Cobalt, 9, 6, 2.6}, {Cut::Star, Gold, 9, 6, 1.8}})},
-        {"FI", Northern(Snow, Navy, Navy)},
-        {"FR", Columns(Navy, Snow, Crimson)},
-        {"GB", Union()},
+         {Across("N"), Corner("Y", 5, 0, 16, 0, 16, 12), Stamp(4, 1, "W//..W//....W//......W//........W")}},
+        {"BB", {Down("NYN"), Stamp(6, 3, "K.KK.K/K.KK.K/KKKKKK/..KK../..KK../..KK..")}},
+        {"BD", {Across("G"), Disc("R", 8, 6, 3.6)}},
+        {"BE", {Down("KYR")}},
+        {"BF", {Across("RG"), Stamp(6, 4, EvenStar, 'Y')}},
+        {"BG", {Across("WGR")}},
+        {"BH", {Across("R"), Box("W", 0, 0, 5, 12), Stamp(5, 0, "W/WW/WW/W/W/WW/WW/W/W/WW/WW/W")}},
+        {"BI",
+         {Across("R"), Wedge("G", 9), Corner("G", 18, 0, 18, 12, 9, 6), Saltire("W", 2.4),
+          Disc("W", 9, 6, 3.4), Stamp(7, 4, ".RR./..../..../R..R")}},
+        {"BJ", {Across("YR"), Box("G", 0, 0, 7, 12)}},
+        {"BN",
+         {Across("Y"), Falling("W", 3, -1.5), Falling("K", 3, 1.5), Stamp(7, 3, "R..R/.RR./RRRR/.RR./RRRR")}},
+        {"BO", {Across("RYG"), Stamp(7, 4, ".TT./TBST/TOOT/.TT.")}},
+        {"BR", {Across("G"), Lozenge("Y", 9, 6, 8, 5), Disc("N", 9, 6, 2.6), Stamp(7, 5, "WW../..WW")}},
+        {"BS", {Across("CYC"), Wedge("K", 8)}},
+        {"BT",
+         {Across("O"), Corner("Y", 0, 0, 18, 0, 0, 12),
+          Stamp(4, 2, ".......WWW/.....WWW.W/....WW..../..WWWW..../.WWW.W..../WW.WW...../W........")}},
+        {"BW", {Across("LLLLWKKWLLLL")}},
+        {"BY", {Across("RRG"), Stamp(0, 0, "WR/RW/WR/RW/WR/RW/WR/RW/WR/RW/WR/RW")}},
+        {"BZ", {Across("RNNNNNNNNNNR"), Disc("W", 9, 6, 4.1), Stamp(7, 3, ".GG./GYBG/GLTG/G..G/.GG.")}},
+        {"CA", {Down("RRRRRWWWWWWWWRRRRR"), Stamp(6, 2, "..RR../R.RR.R/RRRRRR/.RRRR./RRRRRR/..RR../..RR..")}},
+        {"CD", {Across("B"), Rising("Y", 6), Rising("R", 4), Stamp(1, 1, Star, 'Y')}},
+        {"CF", {Across("BWGY"), Box("R", 8, 0, 2, 12), Stamp(2, 0, SmallStar, 'Y')}},
+        {"CG", {Across("R"), Corner("G", 0, 0, 18, 0, 0, 12), Rising("Y", 5)}},
+        {"CH", {Down("...RRRRRRRRRRRR..."), Box("W", 8, 2, 2, 8), Box("W", 5, 5, 8, 2)}},
+        {"CI", {Down("OWG")}},
+        {"CL", {Across("WR"), Box("N", 0, 0, 6, 6), Stamp(1, 1, Star)}},
+        {"CM", {Down("GRY"), Stamp(6, 4, EvenStar, 'Y')}},
+        {"CN", {Across("R"), Stamp(1, 2, Star, 'Y'), Stamp(7, 1, "Y//.Y//.Y//Y", 'Y')}},
+        {"CO", {Across("YYNR")}},
+        {"CR", {Across("NWRRWN"), Stamp(4, 5, "WWWW/WTTW")}},
+        {"CU", {Across("BWBWB"), Wedge("R", 9), Stamp(1, 4, Star)}},
+        {"CV", {Across("NNNNNNWRWNNN"), Stamp(4, 4, "..Y../Y...Y/...../Y...Y/...../.Y.Y.")}},
+        {"CY",
+         {Across("W"), Stamp(5, 2, "......OO/...OOOO./OOOOOO../.OOO...."), Stamp(6, 8, "G....G/.GGGG.")}},
+        {"CZ", {Across("WR"), Wedge("N", 9)}},
+        {"DE", {Across("KRY")}},
+        {"DJ", {Across("LG"), Wedge("W", 9), Stamp(2, 5, SmallStar, 'R')}},
+        {"DK", {Across("R"), Box("W", 5, 0, 2, 12), Box("W", 0, 5, 18, 2)}},
+        {"DM",
+         {Across("GGGGYKWGGGGG"), Box("Y", 7, 0, 1, 12), Box("K", 8, 0, 1, 12), Box("W", 9, 0, 1, 12),
+          Disc("R", 9, 6, 3.1), Stamp(8, 4, "PS/SP/SS/.S")}},
+        {"DO",
+         {Across("NR"), Box("R", 11, 0, 7, 6), Box("N", 11, 6, 7, 6), Box("W", 7, 0, 4, 12),
+          Box("W", 0, 4, 18, 4), Stamp(8, 5, "GN/GR")}},
+        {"DZ", {Down("GW"), Stamp(6, 3, BigMoon, 'R'), Stamp(10, 4, Star, 'R')}},
+        {"EC", {Across("YYNR"), Stamp(7, 3, ".TT./TLLT/TGBT/TTTT/.RR.")}},
+        {"EE", {Across("BKW")}},
+        {"EG", {Across("RWK"), Stamp(7, 4, "Y..Y/YYYY/.YY./YYYY")}},
+        {"ER", {Across("GB"), Wedge("R", 18), Stamp(2, 3, "..Y../Y.Y.Y/Y.Y.Y/Y.Y.Y/.YYY.")}},
+        {"ES", {Across("RYYR"), Stamp(4, 4, "OTTO/RWRR/RRWR/.RR.")}},
+        {"ET", {Across("GYR"), Disc("B", 9, 6, 3.5), Stamp(6, 4, EvenStar, 'Y')}},
+        {"FI", {Across("W"), Box("N", 5, 0, 3, 12), Box("N", 0, 5, 18, 3)}},
+        {"FJ", {Across("L"), Stamp(0, 0, Union), Stamp(11, 3, "RRRRR/WWRWW/RRRRR/WWRWW/WWRWW/.WRW.")}},
+        {"FR", {Down("NWR")}},
+        {"GA", {Across("GYB")}},
+        {"GB",
+         {Across("N"), Saltire("W", 3.6), Saltire("R", 1.2), Box("W", 7, 0, 4, 12), Box("W", 0, 4, 18, 4),
+          Box("R", 8, 0, 2, 12), Box("R", 0, 5, 18, 2)}},
+        {"GD",
+         {Across("R"), Box("G", 2, 2, 14, 8), Corner("Y", 2, 2, 16, 2, 9, 6),
+          Corner("Y", 2, 10, 16, 10, 9, 6), Disc("R", 9, 6, 2.3), Stamp(8, 5, "YY/YY"),
+          Stamp(3, 0, "Y.....Y.....Y"), Stamp(3, 11, "Y.....Y.....Y")}},
         {"GE",
-         {{Cut::Field, Snow},
-          {Cut::Cross, Crimson, 9, 6, 2.2},
-          {Cut::Disc, Crimson, 4, 2.4, 0.9},
-          {Cut::Disc, Crimson, 14, 2.4, 0.9},
-          {Cut::Disc, Crimson, 4, 9.6, 0.9},
-          {Cut::Disc, Crimson, 14, 9.6, 0.9}}},
-        {"GH", With(Rows(Crimson, Gold, Emerald), {{Cut::Star, Iron, 9, 6, 2.2}})},
-        {"GR",
-         {{Cut::Field, Snow},
-          {Cut::Row, Cobalt, 0, 1.33},
-          {Cut::Row, Cobalt, 2.67, 4},
-          {Cut::Row, Cobalt, 5.33, 6.67},
-          {Cut::Row, Cobalt, 8, 9.33},
-          {Cut::Row, Cobalt, 10.67, 12},
-          {Cut::Box, Cobalt, 0, 0, 6.67, 6.67},
-          {Cut::Box, Snow, 2.6, 0, 1.4, 6.67},
-          {Cut::Box, Snow, 0, 2.6, 6.67, 1.4}}},
-        {"HR", With(Rows(Crimson, Snow, Navy), {{Cut::Box, Crimson, 7.4, 3.4, 3.2, 4.4},
-                                                {Cut::Box, Snow, 9, 3.4, 1.6, 1.5},
-                                                {Cut::Box, Snow, 7.4, 4.9, 1.6, 1.5}})},
-        {"HU", Rows(Crimson, Snow, Emerald)},
-        {"ID", Halves(Crimson, Snow)},
-        {"IE", Columns(Emerald, Snow, Amber)},
-        {"IL",
-         {{Cut::Field, Snow},
-          {Cut::Row, Cobalt, 1.4, 3},
-          {Cut::Row, Cobalt, 9, 10.6},
-          {Cut::Peak, Cobalt, 9, 3.6, 2.1, 7.2},
-          {Cut::Peak, Cobalt, 9, 8.4, 2.1, 4.8}}},
-        {"IN", With(Rows(Amber, Snow, Emerald), {{Cut::Disc, Navy, 9, 6, 1.5}})},
-        {"IQ", With(Rows(Crimson, Snow, Iron), {{Cut::Box, Emerald, 5.4, 5.4, 7.2, 1.2}})},
-        {"IR", With(Rows(Emerald, Snow, Crimson), {{Cut::Disc, Crimson, 9, 6, 1.3}})},
-        {"IS", Northern(Navy, Snow, Crimson)},
-        {"IT", Columns(Emerald, Snow, Crimson)},
-        {"JM", {{Cut::Field, Emerald}, {Cut::Wedge, Iron, 8}, {Cut::Saltire, Gold, 2}}},
-        {"JP", {{Cut::Field, Snow}, {Cut::Disc, Crimson, 9, 6, 3.4}}},
-        {"KE",
-         {{Cut::Field, Crimson},
-          {Cut::Row, Iron, 0, 4},
-          {Cut::Row, Emerald, 8, 12},
-          {Cut::Row, Snow, 3.4, 4.2},
-          {Cut::Row, Snow, 7.8, 8.6},
-          {Cut::Lozenge, Brick, 9, 6, 1.7, 4.6}}},
+         {Across("W"), Box("R", 8, 0, 2, 12), Box("R", 0, 5, 18, 2), Stamp(2, 1, Spark, 'R'),
+          Stamp(13, 1, Spark, 'R'), Stamp(2, 8, Spark, 'R'), Stamp(13, 8, Spark, 'R')}},
+        {"GH", {Across("RYG"), Stamp(6, 4, EvenStar, 'K')}},
+        {"GM", {Across("RRRRWNNWGGGG")}},
+        {"GN", {Down("RYG")}},
+        {"GQ", {Across("GWR"), Wedge("B", 5), Stamp(8, 4, ".AA./ASSA/ATTA/.AA.")}},
+        {"GR", {Across("BWBWBWBBWBWB"), Box("B", 0, 0, 7, 7), Box("W", 3, 0, 1, 7), Box("W", 0, 3, 7, 1)}},
+        {"GT", {Down("LWL"), Stamp(7, 4, "G..G/GSRG/G.OG/.GG.")}},
+        {"GW", {Across("YG"), Box("R", 0, 0, 7, 12), Stamp(1, 4, Star, 'K')}},
+        {"GY",
+         {Across("G"), Wedge("W", 18), Corner("Y", 0, 1, 0, 11, 16, 6), Wedge("K", 10),
+          Corner("R", 0, 1, 0, 11, 8, 6)}},
+        {"HN", {Across("CWC"), Stamp(6, 4, "C....C/..CC../..CC../C....C")}},
+        {"HR", {Across("RWN"), Stamp(7, 3, "BYBY/RWRW/WRWR/RWRW/WRWR/.RW.")}},
+        {"HT", {Across("NR"), Box("W", 6, 4, 6, 4), Stamp(7, 4, ".GG./GGGG/.TT./SSSS")}},
+        {"HU", {Across("RWG")}},
+        {"ID", {Across("RW")}},
+        {"IE", {Down("GWO")}},
+        {"IL", {Across("WBBWWWWWWBBW"), Stamp(6, 3, "..BB../BBBBBB/.B..B./.B..B./BBBBBB/..BB..")}},
+        {"IN", {Across("OWG"), Stamp(7, 4, ".NN./NLLN/NLLN/.NN.")}},
+        {"IQ", {Across("RWK"), Stamp(4, 5, "G.GG.G.GGG/GGG.GG.G.G")}},
+        {"IR",
+         {Across("GWR"), Stamp(7, 4, "R..R/RRRR/RRRR/.RR."), Stamp(0, 3, "W.W.W.W.W.W.W.W.W."),
+          Stamp(0, 8, "W.W.W.W.W.W.W.W.W.")}},
+        {"IS",
+         {Across("N"), Box("W", 4, 0, 4, 12), Box("W", 0, 4, 18, 4), Box("R", 5, 0, 2, 12),
+          Box("R", 0, 5, 18, 2)}},
+        {"IT", {Down("GWR")}},
+        {"JM", {Across("G"), Wedge("K", 9), Corner("K", 18, 0, 18, 12, 9, 6), Saltire("Y", 2.6)}},
+        {"JO", {Across("KWG"), Wedge("R", 9), Stamp(2, 5, Spark)}},
+        {"JP", {Across("W"), Disc("R", 9, 6, 3.6)}},
+        {"KE", {Across("KKKWRRRRWGGG"), Stamp(7, 1, "W..W/.MM./MRRM/MWWM/MRRM/MRRM/MWWM/MRRM/.MM./W..W")}},
+        {"KG",
+         {Across("R"),
+          Stamp(5, 2, "..Y.Y.Y./.YYYYYY./YYYOOYYY/.YOYYOY./YYOYYOYY/.YYOOYY./Y.YYYY.Y/..Y..Y..")}},
+        {"KH", {Across("NRRN"), Stamp(5, 4, "...WW.../.W.WW.W./.WWWWWW./WWWWWWWW")}},
+        {"KM", {Across("YWRB"), Wedge("G", 10), Stamp(1, 4, Moon), Stamp(4, 5, "W/W")}},
+        {"KP", {Across("NNWRRRRRRWNN"), Disc("W", 6, 6, 2.6), Stamp(4, 4, ".RR./RRRR/.RR./R..R", 'R')}},
         {"KR",
-         {{Cut::Field, Snow},
-          {Cut::Disc, Crimson, 9, 5.6, 2.9},
-          {Cut::Moon, Navy, 9, 6.6, 2.8},
-          {Cut::Box, Iron, 2.4, 1.6, 2, 1.6},
-          {Cut::Box, Iron, 13.6, 1.6, 2, 1.6},
-          {Cut::Box, Iron, 2.4, 8.8, 2, 1.6},
-          {Cut::Box, Iron, 13.6, 8.8, 2, 1.6}}},
-        {"KZ", {{Cut::Field, Brook}, {Cut::Disc, Gold, 9.4, 5.6, 2.6}, {Cut::Column, Gold, 1, 1.9}}},
-        {"LT", Rows(Gold, Emerald, Crimson)},
-        {"LV", {{Cut::Field, Maroon}, {Cut::Row, Snow, 4.8, 7.2}}},
-        {"MA", {{Cut::Field, Crimson}, {Cut::Star, Emerald, 9, 6, 3}}},
-        {"MX", With(Columns(Emerald, Snow, Crimson), {{Cut::Disc, Timber, 9, 6, 1.5}})},
-        {"NG", Columns(Emerald, Snow, Emerald)},
-        {"NL", Rows(Crimson, Snow, Navy)},
-        {"NO", Northern(Crimson, Snow, Navy)},
+         {Across("W"), Stamp(6, 3, ".RRRR./RRRRRR/RRRRNN/RRNNNN/NNNNNN/.NNNN."),
+          Stamp(2, 1, "..K/.K./K.K/.K"), Stamp(13, 1, "K../.K./K.K/.K."), Stamp(2, 8, "K../.K./K.K/.K."),
+          Stamp(13, 8, "..K/.K./K.K/.K.")}},
+        {"KW", {Across("GWR"), Corner("K", 0, 0, 5, 4, 0, 12), Corner("K", 5, 4, 5, 8, 0, 12)}},
+        {"KZ",
+         {Across("C"), Stamp(7, 2, Sun, 'Y'), Stamp(6, 8, "Y......Y/.YYYYYY."),
+          Stamp(1, 0, "Y/./Y/Y/./Y/Y/./Y/Y/./Y")}},
+        {"LA", {Across("RNNR"), Disc("W", 9, 6, 2.4)}},
+        {"LB", {Across("RWWR"), Stamp(6, 3, "..GG../.GGGG./..GG../GGGGGG/..GG../..TT..")}},
+        {"LI", {Across("NR"), Stamp(2, 1, "..Y../Y.Y.Y/YYYYY/.YYY.")}},
+        {"LK",
+         {Across("Y"), Box("G", 1, 1, 2, 10), Box("O", 3, 1, 2, 10), Box("M", 6, 1, 11, 10),
+          Stamp(8, 3, "Y.YY.Y./YYYYY.Y/..YYYYY/..YYYY./.YY..Y./.Y..YY.")}},
+        {"LR", {Across("RWRWRWRWRWRR"), Box("N", 0, 0, 6, 5), Stamp(1, 1, SmallStar)}},
+        {"LS", {Across("NWG"), Stamp(6, 3, "..KK../..KK../.KKKK./KKKKKK/.KKKK.")}},
+        {"LT", {Across("YGR")}},
+        {"LU", {Across("RWL")}},
+        {"LV", {Across("MMWMM")}},
+        {"LY", {Across("RKKG"), Stamp(7, 4, Moon), Stamp(10, 5, "W/W")}},
+        {"MA", {Across("R"), Stamp(6, 3, "..GG../GGGGGG/.G..G./..GG../.G..G./GG..GG")}},
+        {"MC", {Across("RW"), Box(".", 0, 0, 1, 12), Box(".", 16, 0, 2, 12)}},
+        {"MD", {Down("BYR"), Stamp(6, 3, "T.TT.T/TTTTTT/TTRRTT/.TBBT./..YY../.T..T.")}},
+        {"ME",
+         {Across("YRRRRRRRRRRY"), Box("Y", 0, 0, 1, 12), Box("Y", 17, 0, 1, 12), Stamp(5, 2, Eagle, 'Y'),
+          Stamp(8, 4, "BB/GG")}},
+        {"MG", {Across("RG"), Box("W", 0, 0, 6, 12)}},
+        {"MK",
+         {Across("R"), Saltire("Y", 2.4), Box("Y", 8, 0, 2, 12), Box("Y", 0, 5, 18, 2), Disc("R", 9, 6, 3.7),
+          Disc("Y", 9, 6, 2.6)}},
+        {"ML", {Down("GYR")}},
+        {"MM", {Across("YGR"), Stamp(5, 2, BigStar)}},
+        {"MN", {Down("RBR"), Stamp(2, 2, ".Y/YYY/.Y./Y.Y/YYY/Y.Y/YYY/Y.Y")}},
+        {"MR",
+         {Across("RRGGGGGGGGRR"), Stamp(5, 5, "Y......Y/YY....YY/.YYYYYY./..YYYY.."), Stamp(8, 3, "YY/YY")}},
+        {"MT", {Down("WR"), Stamp(1, 1, "A.A/.A./A.A")}},
+        {"MU", {Across("RNYG")}},
+        {"MV", {Across("R"), Box("G", 4, 3, 10, 6), Stamp(8, 4, "**./..*/..*/**.")}},
+        {"MW", {Across("KRG"), Stamp(5, 1, "...RR.../R..RR..R/.RRRRRR.")}},
+        {"MX", {Down("GWR"), Stamp(7, 4, ".TT./TTTS/.TT./SGGS")}},
+        {"MY",
+         {Across("RWRWRWRWRWRW"), Box("N", 0, 0, 9, 6), Stamp(1, 1, Moon, 'Y'),
+          Stamp(5, 1, "Y.Y/.Y./YYY/.Y.")}},
+        {"MZ", {Across("GGGGWKKWYYYY"), Wedge("R", 9), Stamp(1, 4, Star, 'Y'), Stamp(2, 5, "K../.K.")}},
+        {"NA",
+         {Across("G"), Corner("N", 0, 0, 18, 0, 0, 12), Rising("W", 7), Rising("R", 4.6),
+          Stamp(1, 1, Rays, 'Y'), Stamp(2, 1, "Y/Y/Y")}},
+        {"NE", {Across("OWG"), Stamp(7, 4, ".OO./OOOO/OOOO/.OO.")}},
+        {"NG", {Down("GWG")}},
+        {"NI", {Across("BWB"), Stamp(7, 4, ".YY./YLLY/YSSY/YYYY")}},
+        {"NL", {Across("RWN")}},
+        {"NO",
+         {Across("R"), Box("W", 4, 0, 4, 12), Box("W", 0, 4, 18, 4), Box("N", 5, 0, 2, 12),
+          Box("N", 0, 5, 18, 2)}},
         {"NP",
-         {{Cut::Field, Snow},
-          {Cut::Wedge, Crimson, 15},
-          {Cut::Moon, Snow, 3.4, 4.6, 1.2},
-          {Cut::Star, Snow, 3.6, 8, 1.2}}},
-        {"NZ", Ensign({{Cut::Star, Crimson, 13.5, 2.6, 1.2},
-                       {Cut::Star, Crimson, 13.5, 9.6, 1.2},
-                       {Cut::Star, Crimson, 11.2, 5.6, 1.1},
-                       {Cut::Star, Crimson, 16, 5, 1.1}})},
-        {"PE", Columns(Crimson, Snow, Crimson)},
-        {"PH", With(Halves(Navy, Crimson), {{Cut::Wedge, Snow, 8.5}, {Cut::Disc, Gold, 2.9, 6, 1.4}})},
-        {"PK",
-         {{Cut::Field, Emerald},
-          {Cut::Column, Snow, 0, 4.5},
-          {Cut::Moon, Snow, 10.6, 6.2, 2.8},
-          {Cut::Star, Snow, 12.8, 4.6, 1.2}}},
-        {"PL", Halves(Snow, Crimson)},
-        {"PT",
-         {{Cut::Field, Crimson},
-          {Cut::Column, Emerald, 0, 7.2},
-          {Cut::Disc, Gold, 7.2, 6, 2.3},
-          {Cut::Disc, Crimson, 7.2, 6, 1.2}}},
-        {"RO", Columns(Navy, Gold, Crimson)},
-        {"RS", With(Rows(Crimson, Navy, Snow),
-                    {{Cut::Box, Snow, 5, 3.2, 2.6, 3.8}, {Cut::Box, Crimson, 5.6, 4, 1.4, 2.2}})},
-        {"RU", Rows(Snow, Cobalt, Crimson)},
-        {"SE", Northern(Cobalt, Gold, Gold)},
-        {"SG", With(Halves(Crimson, Snow), {{Cut::Moon, Snow, 3.6, 3, 2}, {Cut::Disc, Snow, 6, 3, 0.8}})},
-        {"SI", With(Rows(Snow, Cobalt, Crimson),
-                    {{Cut::Box, Navy, 4, 2, 2.6, 3.4}, {Cut::Peak, Snow, 5.3, 3.2, 1.2, 5.4}})},
-        {"SK", With(Rows(Snow, Cobalt, Crimson), {{Cut::Box, Snow, 3, 2.6, 5, 6.6},
-                                                  {Cut::Box, Crimson, 3.7, 3.2, 3.6, 5.4},
-                                                  {Cut::Box, Snow, 5.1, 3.8, 0.9, 4.2},
-                                                  {Cut::Box, Snow, 4.2, 5, 2.7, 0.9}})},
-        {"SY", With(Rows(Crimson, Snow, Iron),
-                    {{Cut::Star, Emerald, 6, 6, 1.5}, {Cut::Star, Emerald, 12, 6, 1.5}})},
-        {"TH", {{Cut::Field, Crimson}, {Cut::Row, Snow, 2, 10}, {Cut::Row, Navy, 4, 8}}},
-        {"TR", {{Cut::Field, Crimson}, {Cut::Moon, Snow, 6.8, 6, 3.1}, {Cut::Star, Snow, 10.8, 6, 1.5}}},
-        {"TW", {{Cut::Field, Crimson}, {Cut::Box, Navy, 0, 0, 9, 6}, {Cut::Disc, Snow, 4.5, 3, 1.9}}},
-        {"UA", Halves(Cobalt, Gold)},
-        {"US",
-         {{Cut::Field, Snow},
-          {Cut::Row, Crimson, 0, 1.3},
-          {Cut::Row, Crimson, 2.6, 3.9},
-          {Cut::Row, Crimson, 5.2, 6.5},
-          {Cut::Row, Crimson, 7.8, 9.1},
-          {Cut::Row, Crimson, 10.5, 12},
-          {Cut::Box, Navy, 0, 0, 8, 6.5},
-          {Cut::Disc, Snow, 1.8, 1.6, 0.55},
-          {Cut::Disc, Snow, 4, 1.6, 0.55},
-          {Cut::Disc, Snow, 6.2, 1.6, 0.55},
-          {Cut::Disc, Snow, 2.9, 3.3, 0.55},
-          {Cut::Disc, Snow, 5.1, 3.3, 0.55},
-          {Cut::Disc, Snow, 1.8, 5, 0.55},
-          {Cut::Disc, Snow, 4, 5, 0.55},
-          {Cut::Disc, Snow, 6.2, 5, 0.55}}},
-        {"VE", With(Rows(Gold, Navy, Crimson), {{Cut::Disc, Snow, 7, 6.6, 0.6},
-                                                {Cut::Disc, Snow, 9, 5.6, 0.6},
-                                                {Cut::Disc, Snow, 11, 6.6, 0.6}})},
-        {"VN", {{Cut::Field, Crimson}, {Cut::Star, Gold, 9, 6.2, 3.8}}},
+         {Stamp(3, 0,
+                "NN/NRNN/NRRRNN/NRWWRRNN/NRWWRRRRNN/NRRRNNNNNNNN/NRRRRNN/NRRWRRRNN/NRWWWRRRRNN/NRRWRRRRRRRN/"
+                "NRRRRRRRRRRN/NNNNNNNNNNNN")}},
+        {"NZ",
+         {Across("N"), Stamp(0, 0, Union), Stamp(13, 1, ".W./WRW/.W."), Stamp(13, 8, ".W./WRW/.W."),
+          Stamp(10, 4, ".W./WRW/.W."), Stamp(15, 4, ".W./WRW/.W.")}},
+        {"OM", {Across("WRG"), Box("R", 0, 0, 5, 12), Stamp(1, 1, Rays)}},
+        {"PA",
+         {Across("WN"), Box("R", 9, 0, 9, 6), Box("W", 9, 6, 9, 6), Stamp(2, 1, Star, 'N'),
+          Stamp(11, 7, Star, 'R')}},
+        {"PE", {Down("RWR")}},
+        {"PG",
+         {Across("K"), Corner("R", 0, 0, 18, 0, 18, 12), Stamp(10, 1, "...YY./.YYY../YY.YYY/..YY.."),
+          Stamp(2, 5, ".W//W..W//..W//.W")}},
+        {"PH", {Across("NR"), Wedge("W", 10), Stamp(2, 5, Spark, 'Y'), Stamp(0, 2, "Y"), Stamp(0, 9, "Y")}},
+        {"PK", {Across("G"), Box("W", 0, 0, 5, 12), Stamp(8, 3, BigMoon), Stamp(12, 3, Spark)}},
+        {"PL", {Across("WR")}},
+        {"PT", {Across("R"), Box("G", 0, 0, 7, 12), Stamp(5, 4, ".YY./YRRY/YWWY/.YY.")}},
+        {"PY", {Across("RWN"), Stamp(7, 4, ".GG./GYYG/GYYG/.GG.")}},
+        {"QA", {Across("M"), Box("W", 0, 0, 6, 12), Stamp(6, 0, "W/./W/./W/./W/./W/./W/.")}},
+        {"RO", {Down("BYR")}},
+        {"RS", {Across("RNW"), Stamp(5, 2, ".YY./RWWR/RWWR/RRRR/RWWR/.RR.")}},
+        {"RU", {Across("WBR")}},
+        {"RW", {Across("CCYG"), Stamp(13, 1, "Y.Y/.Y./YYY/.Y.")}},
+        {"SA",
+         {Across("G"), Stamp(3, 3, "W.W.WW.W.W.W/WWW.W.WW.WWW/W.WWW.W.WW.W"), Stamp(4, 8, "WWWWWWWWWW")}},
+        {"SB",
+         {Across("G"), Corner("B", 0, 0, 18, 0, 0, 12), Rising("Y", 2.2), Stamp(1, 1, "W...W//..W//W...W")}},
+        {"SC",
+         {Corner("B", 0, 12, 0, 0, 6, 0), Corner("Y", 0, 12, 6, 0, 12, 0), Corner("R", 0, 12, 12, 0, 18, 0),
+          Corner("R", 0, 12, 18, 0, 18, 4), Corner("W", 0, 12, 18, 4, 18, 8),
+          Corner("G", 0, 12, 18, 8, 18, 12)}},
+        {"SD", {Across("RWK"), Wedge("G", 6)}},
+        {"SE", {Across("B"), Box("Y", 5, 0, 2, 12), Box("Y", 0, 5, 18, 2)}},
+        {"SG", {Across("RW"), Stamp(2, 1, Moon), Stamp(5, 1, ".W./W.W/.../W.W")}},
+        {"SI", {Across("WBR"), Stamp(3, 2, "NNYN/NWNN/WWWW/NLLN/.RR.")}},
+        {"SK", {Across("WBR"), Stamp(3, 3, "WWWWWW/WRWRRW/WRWWRW/WRWWRW/WBWBBW/.WBBW./..WW..")}},
+        {"SL", {Across("SWB")}},
+        {"SM", {Across("WL"), Stamp(7, 3, ".YY./YYYY/GLLG/GSSG/.GG.")}},
+        {"SN", {Down("GYR"), Stamp(6, 4, EvenStar, 'G')}},
+        {"SO", {Across("L"), Stamp(5, 2, BigStar)}},
+        {"SR", {Across("GGGWRRRRWGGG"), Stamp(6, 4, EvenStar, 'Y')}},
+        {"SS", {Across("KKKWRRRRWGGG"), Wedge("B", 9), Stamp(1, 4, Star, 'Y')}},
+        {"SV", {Across("NWN"), Stamp(7, 4, "G..G/.YY./GYYG/.GG.")}},
+        {"SY", {Across("RWK"), Stamp(4, 4, Star, 'G'), Stamp(10, 4, Star, 'G')}},
+        {"SZ", {Across("BBYRRRRRRYBB"), Stamp(3, 4, "...KKKWWW.../.AKKWKWKWWA./YYKWKWKWKWYY/...KKKWWW...")}},
+        {"TD", {Down("NYR")}},
+        {"TG", {Across("GGYYGGGYYGGG"), Box("R", 0, 0, 7, 7), Stamp(1, 1, Star)}},
+        {"TH", {Across("RWNNWR")}},
+        {"TJ", {Across("RRRWWWWWWGGG"), Stamp(6, 4, "Y.YY.Y/....../Y.YY.Y/.YYYY.")}},
+        {"TL", {Across("R"), Wedge("Y", 11), Wedge("K", 7), Stamp(1, 5, Spark)}},
+        {"TM",
+         {Across("G"), Box("M", 2, 0, 4, 12), Stamp(3, 1, "YW/WY///YW/WY///YW/WY"), Stamp(8, 1, Moon),
+          Stamp(11, 1, "W.W//.W.W")}},
+        {"TN", {Across("R"), Disc("W", 9, 6, 4.1), Stamp(7, 4, Moon, 'R'), Stamp(10, 5, "R/R")}},
+        {"TO", {Across("R"), Box("W", 0, 0, 8, 6), Box("R", 3, 1, 2, 4), Box("R", 2, 2, 4, 2)}},
+        {"TR", {Across("R"), Stamp(4, 3, BigMoon), Stamp(9, 4, Star)}},
+        {"TT", {Across("R"), Falling("W", 7), Falling("K", 4.6)}},
+        {"TW", {Across("R"), Box("N", 0, 0, 9, 6), Stamp(2, 1, "..W../.WWW./WWWWW/.WWW./..W..")}},
+        {"TZ", {Across("C"), Corner("G", 0, 0, 18, 0, 0, 12), Rising("Y", 7), Rising("K", 4.6)}},
+        {"UA", {Across("BY")}},
+        {"UG", {Across("KYRKYR"), Disc("W", 9, 6, 3.1), Stamp(8, 4, "R./KA/KA/.K")}},
+        {"US", {Across("RWRWRWRWRWRR"), Box("N", 0, 0, 9, 7), Stamp(1, 1, "W.W.W.W//.W.W.W//W.W.W.W")}},
+        {"UY", {Across("WBWWBWWBWWBW"), Box("W", 0, 0, 7, 7), Stamp(0, 0, Sun, 'Y')}},
+        {"UZ", {Across("CCCRWWWWRGGG"), Stamp(1, 0, ".W/W/.W"), Stamp(4, 0, "..W.W//W.W.W")}},
+        {"VA", {Down("...YYYYYYWWWWWW..."), Stamp(10, 3, "A..Y/.AY./.YA./Y..A/YY.A")}},
+        {"VE", {Across("YNR"), Stamp(5, 4, "..W..W../W......W")}},
+        {"VN", {Across("R"), Stamp(5, 2, BigStar, 'Y')}},
+        {"VU", {Across("RRRRKYYKGGGG"), Wedge("Y", 11), Wedge("K", 8), Stamp(1, 5, "YY/YY")}},
+        {"WS", {Across("R"), Box("N", 0, 0, 9, 6), Stamp(4, 0, ".W//W..W//.W")}},
+        {"YE", {Across("RWK")}},
         {"ZA",
-         {{Cut::Field, Snow},
-          {Cut::Box, Crimson, 6, 0, 12, 3.6},
-          {Cut::Box, Navy, 6, 8.4, 12, 3.6},
-          {Cut::Row, Emerald, 4.8, 7.2},
-          {Cut::Wedge, Emerald, 8.6},
-          {Cut::Wedge, Gold, 5.6},
-          {Cut::Wedge, Iron, 4.2}}},
-        {"void", {{Cut::Field, Slate}, {Cut::Box, Ash, 1, 1, 16, 10}, {Cut::Saltire, Slate, 1.4}}},
+         {Across("RRRRWGGWNNNN"), Wedge("W", 11), Wedge("G", 9.5), Box("G", 0, 5, 18, 2), Wedge("Y", 6.5),
+          Wedge("K", 5)}},
+        {"ZM",
+         {Across("G"), Box("R", 11, 5, 2, 7), Box("K", 13, 5, 2, 7), Box("O", 15, 5, 2, 7),
+          Stamp(11, 1, "OO..OO/.OOOO./..OO..")}},
+        {"ZW", {Across("GGYYRKKRYYGG"), Wedge("K", 10), Wedge("W", 8.5), Stamp(1, 4, "..Y/RYR/.YY/.YY")}},
+        {"void",
+         {Across("Z"), Box("A", 1, 1, 16, 10), Saltire("Z", 2), Box("Z", 0, 0, 18, 1),
+          Box("Z", 0, 11, 18, 1)}},
     };
     return table;
 }
 
-QPainterPath Triangle(double x1, double y1, double x2, double y2, double x3, double y3) {
-    return Polygon({{x1, y1}, {x2, y2}, {x3, y3}});
-}
-
-QPainterPath Diagonal(double fromX, double fromY, double toX, double toY, double width) {
-    return Widened(Trace({{fromX, fromY}, {toX, toY}}), width, Qt::SquareCap, Qt::MiterJoin);
-}
-
-QPainterPath Shape(const Layer& layer) {
-    const double a = layer.a;
-    const double b = layer.b;
-    const double c = layer.c;
-    const double d = layer.d;
-    switch (layer.cut) {
-        case Cut::Row:
-            return Rect(0, a, Width, b - a);
-        case Cut::Column:
-            return Rect(a, 0, b - a, Height);
-        case Cut::Box:
-            return Rect(a, b, c, d);
-        case Cut::Cross:
-            return Rect(a - c / 2, 0, c, Height).united(Rect(0, b - c / 2, Width, c));
-        case Cut::Saltire:
-            return Diagonal(0, 0, Width, Height, a).united(Diagonal(0, Height, Width, 0, a));
-        case Cut::Falling:
-            return Diagonal(0, 0, Width, Height, a);
-        case Cut::Wedge:
-            return Triangle(0, 0, a, Height / 2, 0, Height);
-        case Cut::Disc:
-            return Ellipse(a, b, c, c);
-        case Cut::Star:
-            return Star(a, b, c, c * 0.42, 5, Up);
-        case Cut::Moon:
-            return Ellipse(a, b, c, c).subtracted(Ellipse(a + c * 0.4, b, c * 0.78, c * 0.78));
-        case Cut::Lozenge:
-            return Polygon({{a, b - d}, {a + c, b}, {a, b + d}, {a - c, b}});
-        case Cut::Peak:
-            return Triangle(a, b, a + c, d, a - c, d);
-        case Cut::Field:
-            break;
-    }
-    return Rect(0, 0, Width, Height);
-}
-
-QImage Sewn(const std::vector<Layer>& layers) {
-    Relief relief(static_cast<int>(Width), static_cast<int>(Height), 0, 8);
-    for (const Layer& layer : layers)
-        relief.Stain(Shape(layer), Colour(layer.ink));
-    return Settle(relief.Render(), 0);
-}
-
-}  // namespace
-
-std::vector<std::string> FlagNames() {
-    std::vector<std::string> names;
-    for (const FlagRow& row : Flags())
-        names.emplace_back(row.name);
-    return names;
-}
-
-QImage Flag(const std::string& name) {
-    const auto row =
-        std::find_if(Flags().begin(), Flags().end(), [&](const FlagRow& flag) { return name == flag.name; });
-    return Sewn(row->layers);
+QImage Flag(std::string_view name) {
+    return Sewn(std::ranges::find(Flags(), name, &FlagRow::name)->layers);
 }
 
 QImage OwnFlag() {
-    return Sewn({{Cut::Field, Ink::Steel},
-                 {Cut::Column, Ink::Armour, 0, 6},
-                 {Cut::Star, Ink::Scarlet, 3, 3.6, 2},
-                 {Cut::Box, Ink::Gold, 8, 2.4, 2, 7.2},
-                 {Cut::Box, Ink::Gold, 11, 2.4, 2, 7.2},
-                 {Cut::Box, Ink::Gold, 14, 2.4, 2, 7.2}});
+    return Sewn({Down("FHH"), Stamp(1, 2, Star, 'E'), Box("Y", 8, 3, 2, 7), Box("Y", 11, 3, 2, 7),
+                 Box("Y", 14, 3, 2, 7)});
 }
 
 }  // namespace art

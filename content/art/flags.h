@@ -1,18 +1,24 @@
 // Countries' flags for soldiers' files and weapons' makers.
 #pragma once
 
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include <QImage>
 
+#include "flag_cloth.h"
+
 namespace art {
 
-// The names of all flag pictures: two capitals, and "void" for no country.
-std::vector<std::string> FlagNames();
+struct FlagRow {
+    const char* name;  // two capitals, or "void" for no country
+    std::vector<Cloth> layers;
+};
 
-// 18 by 12.
-QImage Flag(const std::string& name);
+// Every country that a soldier or a maker can come from.
+const std::vector<FlagRow>& Flags();
+
+QImage Flag(std::string_view name);
 
 // The flag that the panel shows before any weapon was looked up: the squad's own.
 QImage OwnFlag();

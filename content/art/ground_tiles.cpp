@@ -1,6 +1,12 @@
 // Row 0: open ground.
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdlib>
 
+#include <QTransform>
+
+#include "canvas.h"
 #include "grounds.h"
 #include "noise.h"
 #include "shapes.h"
@@ -133,6 +139,34 @@ constexpr Drawing Drawings[] = {
     },
 };
 
+// Grounds that lie beside nothing but themselves.
+constexpr std::size_t Lone[] = {8, 9, 10, 11, 14};
+
+int ColourStep(QRgb a, QRgb b) {
+    return std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
+}
+
+// The column of a picture that differs least from the one before it; both wrap.
+int SmoothestColumn(const QImage& picture) {
+    std::array<int, CellSize> steps{};
+    for (int x = 0; x < CellSize; ++x)
+        for (int y = 0; y < CellSize; ++y)
+            steps[static_cast<std::size_t>(x)] +=
+                ColourStep(picture.pixel(x, y), picture.pixel((x + CellSize - 1) % CellSize, y));
+    return static_cast<int>(std::ranges::min_element(steps) - steps.begin());
+}
+
+// A tile that repeats, cut where its grain shows the cut least.
+QImage CutBetweenGrains(const QImage& tile) {
+    const int left = SmoothestColumn(tile);
+    const int top = SmoothestColumn(tile.transformed(QTransform(0, 1, 1, 0, 0, 0)));
+    QImage cut(tile.size(), tile.format());
+    for (int y = 0; y < CellSize; ++y)
+        for (int x = 0; x < CellSize; ++x)
+            cut.setPixel(x, y, tile.pixel((x + left) % CellSize, (y + top) % CellSize));
+    return cut;
+}
+
 }  // namespace
 
 TileRow SurfaceTiles() {
@@ -142,6 +176,8 @@ TileRow SurfaceTiles() {
         draw(relief);
         row.push_back(Finished(relief));
     }
+    for (const std::size_t tile : Lone)
+        row[tile] = CutBetweenGrains(row[tile]);
     return row;
 }
 

@@ -152,7 +152,9 @@ void FlagFloor(Relief& relief) {
 }
 
 void WaterTexel(Texel& texel, float x, float y, float depth) {
-    const float swell = Noise(x, y * 2, 4, Period, 71) + 0.45f * Noise(x, y * 2, 2, Period, 73);
+    constexpr float Phase = 2.5f;  // keeps the crests off the seams
+    const float swell =
+        Noise(x, y * 2 + Phase, 4, Period, 71) + 0.45f * Noise(x, y * 2 + Phase, 2, Period, 73);
     const QColor colour = WaterColour(std::max(0.0f, depth + 0.5f * swell));
     const float crest = std::max(0.0f, swell - 0.25f);
     Paint(texel, colour, 1 + 0.05f * swell + 0.3f * crest);

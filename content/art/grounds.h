@@ -22,7 +22,7 @@ inline constexpr Loose EarthGround{Ink::Soil, Ink::Plank, 2.5f, 0.6f, 0.7f, 31};
 inline constexpr Loose SandGround{Ink::Clay, Ink::Shell, 2.5f, 0.45f, 0.35f, 37};
 inline constexpr Loose GravelGround{Ink::Fieldstone, Ink::Chalk, 1.67f, 0.7f, 0.75f, 41};
 inline constexpr Loose MudGround{Ink::Loam, Ink::Timber, 4, 0.75f, 1.0f, 43};
-inline constexpr Loose AsphaltGround{Ink::Asphalt, Ink::Ash, 1.25f, 0.5f, 0.2f, 47};
+inline constexpr Loose AsphaltGround{Ink::Asphalt, Ink::Ash, 1.25f, 0.9f, 0.3f, 47};
 inline constexpr Loose SlabGround{Ink::Ash, Ink::Concrete, 1.67f, 0.5f, 0.2f, 53};
 inline constexpr Loose DirtRoadGround{Ink::Timber, Ink::Sand, 2, 0.5f, 0.4f, 59};
 

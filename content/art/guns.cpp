@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "gun_plan.h"
 #include "shapes.h"
 
 namespace art {
@@ -13,37 +14,6 @@ constexpr double SmallBore = 16;
 constexpr double LongWidth = 117;
 constexpr double SmallWidth = 42;
 constexpr int DrumFrom = 60;  // magazines of so many rounds are drums
-
-// Blued steel and black plastic are lifted a little, or guns would be holes in the dark boards that they lie
-// on.
-Solid Metal(Ink ink, float height = 1.8f, float base = 0) {
-    return {.colour = Between(ink, Ink::Chalk, 0.2),
-            .height = height,
-            .base = base,
-            .round = 1.6f,
-            .grain = 0.05f,
-            .grainSize = 1.5f};
-}
-
-Solid Furniture(Ink ink, float height = 2.2f, float base = 0) {
-    return {.colour = Between(ink, Ink::Sand, 0.12),
-            .height = height,
-            .base = base,
-            .round = 2.2f,
-            .grain = 0.1f,
-            .grainSize = 1.2f};
-}
-
-// Where the parts of one gun lie.
-struct Plan {
-    const Gun& gun;
-    double bore, buttEnd, body, guard, barrel, end;
-    double Grip() const { return body + gun.body * (gun.stock == Stock::Bullpup ? 0.55 : 0.16); }
-    double Well() const {
-        if (gun.stock == Stock::Bullpup) return buttEnd + gun.butt * 0.62;
-        return gun.feed == Feed::Grip ? Grip() : body + gun.body * 0.68;
-    }
-};
 
 Plan Arrange(const Gun& gun) {
     const double total = gun.butt + gun.body + gun.guard + gun.barrel;
@@ -56,74 +26,6 @@ Plan Arrange(const Gun& gun) {
             body + gun.body,
             body + gun.body + gun.guard,
             left + total};
-}
-
-void LayThumbhole(Relief& relief, const Plan& plan) {
-    const double x = plan.buttEnd;
-    const double y = plan.bore;
-    const double to = plan.body + 2;
-    const Ink wood = plan.gun.furniture;
-    relief.Lay(Polygon({{x, y - 3.4},
-                        {to, y - 2.8},
-                        {to + 4, y + 4},
-                        {to - 2, y + 10},
-                        {to - 6, y + 9},
-                        {x + 1, y + 9.6}}),
-               Furniture(wood));
-    relief.Lay(Polygon({{x + 9, y + 2.4}, {to - 5, y + 2}, {to - 7.6, y + 6.2}, {x + 9, y + 6.6}}),
-               {.colour = Colour(Ink::Soot), .height = -1, .base = 1});
-    relief.Lay(Rect(x + 6, y - 4.6, 12, 2.4, 1), Furniture(wood, 1, 1));
-}
-
-void LayBullpup(Relief& relief, const Plan& plan) {
-    const double x = plan.buttEnd;
-    const double y = plan.bore;
-    const Ink wood = plan.gun.furniture;
-    relief.Lay(Polygon({{x, y - 3.6},
-                        {plan.guard + 2, y - 3.2},
-                        {plan.guard + 4, y + 2.6},
-                        {plan.Grip() + 10, y + 4.2},
-                        {plan.body + 2, y + 5},
-                        {x + 3, y + 8.6},
-                        {x, y + 8.6}}),
-               Furniture(wood));
-    relief.Lay(Rect(x - 0.8, y - 3.4, 2.2, 12, 0.8), Metal(Ink::Iron, 1.8f));
-}
-
-void LayStock(Relief& relief, const Plan& plan) {
-    const double x = plan.buttEnd;
-    const double to = plan.body + 2;
-    const double y = plan.bore;
-    const Ink wood = plan.gun.furniture;
-    switch (plan.gun.stock) {
-        case Stock::None:
-            return;
-        case Stock::Solid:
-            relief.Lay(Polygon({{x, y - 2}, {to, y - 2.6}, {to, y + 3.6}, {to - 8, y + 4}, {x + 1, y + 9.4}}),
-                       Furniture(wood));
-            relief.Lay(
-                Polygon({{x - 0.6, y - 2.2}, {x + 1.4, y - 2.2}, {x + 2.2, y + 9.2}, {x + 0.4, y + 9.8}}),
-                Metal(Ink::Iron, 1.6f));
-            return;
-        case Stock::Folded:
-            for (const auto& [from, low] : {std::pair{-1.2, 7.0}, {3.2, 8.6}}) {
-                relief.LayLine(Trace({{to, y + from}, {x + 1, y + (from < 0 ? from : low)}}), 1.7,
-                               Metal(plan.gun.metal));
-            }
-            relief.LayLine(Trace({{x + 1, y - 2}, {x + 1, y + 9}}), 2, Metal(plan.gun.metal));
-            return;
-        case Stock::Tube:
-            relief.LayLine(Trace({{x + 2, y + 0.4}, {to, y + 0.4}}), 3.4, Metal(plan.gun.metal));
-            relief.Lay(
-                Polygon(
-                    {{x, y - 2.6}, {x + 13, y - 2.2}, {x + 12, y + 3.4}, {x + 2.4, y + 8.4}, {x, y + 8.4}}),
-                Furniture(wood));
-            return;
-        case Stock::Thumbhole:
-            return LayThumbhole(relief, plan);
-        case Stock::Bullpup:
-            return LayBullpup(relief, plan);
-    }
 }
 
 // Length of a magazine by its rounds, pixels.
@@ -208,7 +110,7 @@ void LayBody(Relief& relief, const Plan& plan) {
     relief.Stain(Rect(x + gun.body * 0.5, y - 2, gun.body * 0.28, 1.8), Colour(Ink::Soot), 0.9);
     relief.StainLine(Trace({{x + 2, y + 1.6}, {x + gun.body - 2, y + 1.6}}), 0.6, Colour(Ink::Soot), 0.7);
     const double grip = plan.Grip();
-    if (gun.stock != Stock::Thumbhole) {
+    if (!GripInStock(gun.stock)) {
         relief.Lay(Polygon({{grip, y + 3}, {grip + 5.6, y + 3}, {grip + 3, y + 13}, {grip - 2.4, y + 12.2}}),
                    Furniture(gun.furniture));
     }
@@ -242,7 +144,8 @@ void LayFront(Relief& relief, const Plan& plan) {
         for (const double at : Steps(plan.guard + 3, plan.barrel + gun.barrel * 0.6, 4))
             relief.Stain(Ellipse(at, y, 1, 1), Colour(Ink::Soot));
     }
-    if (!quiet && gun.barrel > 8)
+    const bool post = !plan.Has(TallPost) && !plan.Has(CockingTube) && !plan.Has(NoPost);
+    if (!quiet && gun.barrel > 8 && post)
         relief.Lay(Polygon({{plan.end - 9, y - 1},
                             {plan.end - 8.4, y - 5},
                             {plan.end - 7, y - 5},
@@ -341,6 +244,7 @@ void LayGun(Relief& relief, const Gun& gun, int capacity) {
     LayFixedFeed(relief, plan);
     if (gun.below != Below::Bipod) LayBelow(relief, plan);
     LayBody(relief, plan);
+    LayParts(relief, plan);
     LaySight(relief, plan);
 }
 

@@ -1,8 +1,10 @@
 // Draws every picture of the game into a folder: stored/ is built into the program, pic/ stands beside it,
 // sheets/ is for looking.
 #include <cstdlib>
+#include <future>
 #include <iostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "canvas.h"
@@ -98,7 +100,7 @@ void WriteFrames(const PictureWriter& writer) {
 }
 
 void WritePanel(const PictureWriter& writer, const PanelPictures& panel) {
-    writer.Write("stored/picSlateD.bmp", panel.panel);
+    writer.Write("stored/picSlateD.bmp", Indexed(panel.panel));
     writer.Write("stored/imgBars.gif", panel.barsFrame);
     writer.Write("stored/picBarWeapon.bmp", panel.weaponBox);
     writer.Write("stored/imgBarWunder.bmp", panel.columnFrame);
@@ -132,13 +134,13 @@ void WriteButtons(const PictureWriter& writer) {
 
 void WriteFlags(const PictureWriter& writer) {
     std::vector<QImage> flags;
-    for (const std::string& name : FlagNames()) {
-        flags.push_back(Flag(name));
-        writer.Write("pic/flags/" + name + ".gif", flags.back());
+    for (const FlagRow& flag : Flags()) {
+        flags.push_back(Sewn(flag.layers));
+        writer.Write(std::string("pic/flags/") + flag.name + ".gif", flags.back());
     }
     flags.push_back(OwnFlag());
     writer.Write("stored/imgFlag.gif", flags.back());
-    writer.Write("sheets/flags.png", ContactSheet("FLAGS", flags, 14, 4));
+    writer.Write("sheets/flags.png", ContactSheet("FLAGS", flags, 17, 4));
 }
 
 void WriteInventory(const PictureWriter& writer, const std::vector<NamedPicture>& things,
@@ -217,34 +219,42 @@ void WriteFileFrames(const PictureWriter& writer) {
     writer.Write("sheets/file_panel.png", ContactSheet("FILE PANEL", {panel}, 1, 2));
 }
 
-void WriteFile(const PictureWriter& writer, const std::vector<NamedPicture>& things,
-               const std::vector<NamedPicture>& packs) {
-    const QImage sheet = DossierSheet();
+void WriteFile(const PictureWriter& writer, const QImage& sheet) {
     const QImage type = TypewriterStrip();
     writer.Write("stored/frmInfo.bmp", sheet);
     writer.Write("stored/picScript.bmp", type);
     writer.Write("sheets/typewriter.png", ContactSheet("TYPEWRITER", {type}, 1, 4));
     WriteFileFrames(writer);
     WriteBadges(writer);
-    const std::vector<QImage> faces = WriteFaces(writer);
-    const std::vector<QImage> awards = WriteAwards(writer);
-    writer.Write("sheets/file_window.png", MockFile({sheet, faces.front(), awards, &things, &packs}));
+}
+
+// Work that runs beside the caller's, on whatever processors there are.
+template <typename Work>
+auto Beside(Work work) {
+    return std::async(std::launch::async, std::move(work));
 }
 
 void WriteAll(const PictureWriter& writer) {
     const QImage ground = SurfaceTiles().front();
     const PanelPictures panel = DrawPanel();
-    WriteField(writer, panel.panel);
-    WritePeople(writer, ground);
-    WriteOverlays(writer, ground);
-    WriteFrames(writer);
-    WritePanel(writer, panel);
-    WriteButtons(writer);
-    WriteFlags(writer);
+    const auto field = Beside([&] { WriteField(writer, panel.panel); });
+    auto faces = Beside([&] { return WriteFaces(writer); });
+    auto awards = Beside([&] { return WriteAwards(writer); });
+    const auto frames = Beside([&] {
+        WritePeople(writer, ground);
+        WriteOverlays(writer, ground);
+        WriteFrames(writer);
+        WritePanel(writer, panel);
+        WriteButtons(writer);
+        WriteFlags(writer);
+    });
+    const QImage sheet = DossierSheet();
+    WriteFile(writer, sheet);
     const std::vector<NamedPicture> things = InventoryPictures();
     const std::vector<NamedPicture> packs = PackBoards();
     WriteInventory(writer, things, packs);
-    WriteFile(writer, things, packs);
+    writer.Write("sheets/file_window.png",
+                 MockFile({sheet, faces.get().front(), awards.get(), &things, &packs}));
 }
 
 }  // namespace

@@ -19,9 +19,7 @@ constexpr int Fine = 4;
 constexpr double Up = -1.5708;
 
 constexpr int TextLeft = 32;
-constexpr int TextTop = 10;
-// The window's picture button lies over the fifth place from column 70 on, rows 7 to 23: ribbons of medals
-// stay below it, and the text there ends before it.
+constexpr int TextTop = 11;
 constexpr QRectF MedalRibbon(31, 25, 69, 12);
 constexpr QRectF WideRibbon(8, 20, 89, 17);
 constexpr double PendantX = 15.5;
@@ -197,24 +195,24 @@ void Hang(Relief& relief, const AwardLook& look) {
 
 // A metal bar with an enamel field and its sign in the middle.
 void MetalBar(Relief& relief, const AwardLook& look) {
-    relief.Lay(Rect(8, 18, 89, 18, 3),
+    relief.Lay(Rect(8, 17, 89, 18, 3),
                {.colour = Colour(Ink::Midnight), .height = 0.6f, .base = 0.6f, .grain = 0});
-    relief.Lay(Rect(9, 19, 87, 16, 2.4),
+    relief.Lay(Rect(9, 18, 87, 16, 2.4),
                {.colour = Colour(look.metal), .height = 2, .base = 1, .round = 2, .grain = 0.06f});
-    relief.Lay(Rect(12, 22, 81, 10, 1),
+    relief.Lay(Rect(12, 21, 81, 10, 1),
                {.colour = Colour(look.field), .height = -0.8f, .base = 3, .round = 0.8f, .grain = 0.05f});
     const bool eagle = look.relic == Relic::Eagle;
     for (const double x : {eagle ? 52.5 : 45.5, eagle ? 52.5 : 59.5}) {
         const QPainterPath sign = RelicShape(look.relic, 0, 0, eagle ? 6.4 : 7);
         QTransform place;
-        place.translate(eagle ? x : 52.5, 27);
+        place.translate(eagle ? x : 52.5, 26);
         if (!eagle) place.rotate(x < 52 ? 62 : -62);
         relief.Lay(place.map(sign),
                    {.colour = Colour(look.relicInk), .height = 1, .base = 2.8f, .round = 1, .grain = 0});
     }
     for (const double x : {20.0, 85.0}) {
         for (int i = 0; i < 4; ++i)
-            relief.Lay(Ellipse(x + (i - 1.5) * 2.6, 27 + std::abs(i - 1.5) * 1.2, 1.5, 2.2),
+            relief.Lay(Ellipse(x + (i - 1.5) * 2.6, 26 + std::abs(i - 1.5) * 1.2, 1.5, 2.2),
                        {.colour = Colour(look.metal), .height = 0.8f, .base = 2.6f, .round = 1, .grain = 0});
     }
 }
@@ -232,7 +230,7 @@ void Housing(Relief& relief, const AwardLook& look) {
 
 constexpr int DeviceSize = 7;
 using DeviceRows = std::array<const char*, DeviceSize>;
-constexpr DeviceRows LeafDevice{"...o...", "..o#o..", ".o#+#o.", "o##+##o", ".o#+#o.", "o##+##o", ".oo+oo."};
+constexpr DeviceRows LeafDevice{"..o#o..", ".o###o.", "o##+##o", "o#+#+#o", ".o###o.", "..o#o..", "...o..."};
 constexpr DeviceRows StarDevice{"...o...", "..o#o..", "oo###oo", "o##+##o", ".o###o.", "o##o##o", "oo...oo"};
 
 // A leaf or a star on the ribbon: gold for one more, silver for five more.

@@ -98,7 +98,9 @@ enum class Ink : std::uint8_t {
 };
 
 constexpr std::size_t InkCount = static_cast<std::size_t>(Ink::Count);
+// What the field and all that stands, lies, flies and burns on it settle on.
 constexpr std::size_t FieldInkCount = static_cast<std::size_t>(Ink::Midnight);
+static_assert(FieldInkCount <= 64);
 
 struct InkRow {
     QRgb colour;

@@ -43,8 +43,8 @@ constexpr Limb Prone[] = {
 };
 
 constexpr Limb Crouch[] = {
-    {Role::Boots, -4.4, 2.0, -3.0, 2.0, 1.9, 0, 0, 1},
-    {Role::Trousers, -3.4, 1.9, -0.4, 2.1, 2.6, 0, 0.3f, 1.2f},
+    {Role::Boots, -6.6, 2.6, -5.2, 2.4, 1.9, 0, 0, 1},
+    {Role::Trousers, -5.2, 2.3, -0.4, 2.1, 2.4, 0, 0.3f, 1.2f},
     {Role::Trousers, -0.6, -1.9, 2.9, -2.2, 2.9, 0, 0.6f, 1.6f},
     {Role::Boots, 3.0, -2.4, 4.2, -2.4, 1.8, 0, 0, 1},
     {Role::Tunic, -1.2, -1.5, -1.2, 1.5, 4.0, 0, 1.4f, 2},
@@ -111,18 +111,24 @@ using Uniform = std::array<Ink, RoleCount>;
 
 constexpr std::array<Uniform, TeamCount> Uniforms{{
     // tunic, trousers, boots, pack, skin, iron, wood, head, badge
-    {Ink::Khaki, Ink::Canvas, Ink::Soil, Ink::Olive, Ink::Skin, Ink::Soot, Ink::Timber, Ink::Stubble,
-     Ink::Khaki},
-    {Ink::Cellar, Ink::Slate, Ink::Soot, Ink::Asphalt, Ink::Skin, Ink::Soot, Ink::Tan, Ink::Asphalt,
+    {Ink::Sand, Ink::Clay, Ink::Bark, Ink::Khaki, Ink::Skin, Ink::Concrete, Ink::Timber, Ink::Moss,
+     Ink::Moss},
+    {Ink::Ash, Ink::Slate, Ink::Iron, Ink::Asphalt, Ink::Skin, Ink::Concrete, Ink::Timber, Ink::Crimson,
      Ink::Scarlet},
-    {Ink::Chalk, Ink::Brook, Ink::Bark, Ink::Foam, Ink::Skin, Ink::Skin, Ink::Skin, Ink::Bark, Ink::Bark},
+    {Ink::Snow, Ink::Brook, Ink::Bark, Ink::Foam, Ink::Skin, Ink::Skin, Ink::Skin, Ink::Bark, Ink::Bark},
 }};
+// The dead of all teams lie alike, grey with dust.
+constexpr Uniform DeadUniform{Ink::Canvas, Ink::Khaki,  Ink::Soil, Ink::Olive, Ink::Skin,
+                              Ink::Iron,   Ink::Timber, Ink::Soil, Ink::Soil};
 constexpr int Computer = 1;
 constexpr int Civilians = 2;
 
 // So small a figure would drown in its own shadows: it takes half the light's contrast.
-constexpr float FigureGlow = 0.42f;
+constexpr float FigureGlow = 0.35f;
 constexpr double FigureDither = 0.008;
+
+// Length of the shadow on the ground, pixels, by stance.
+constexpr std::array<int, StanceCount> Shadows{1, 2, 3, 3};
 
 // Degrees from east, by facing.
 constexpr std::array<double, FacingCount> Turns{0, 180, -90, 90, -45, 45, 135, -135};
@@ -144,18 +150,8 @@ Limb Wider(Limb part, double by) {
     return part;
 }
 
-// A dark rim, heavier to the south-east, sets the figure off from any ground.
-void LayRim(Relief& relief, const QTransform& place, std::span<const Limb> parts, int team,
-            const QColor& rim) {
-    for (const Limb& part : parts) {
-        if (!Worn(part.role, team)) continue;
-        const double by = part.role == Role::Iron ? 0.5 : 1.2;
-        relief.Lay(place.map(Outline(Wider(part, by))).translated(0.25, 0.3), {.colour = rim, .grain = 0});
-    }
-}
-
-void LayFigure(Relief& relief, const QTransform& place, std::span<const Limb> parts, int team) {
-    const Uniform& uniform = Uniforms[static_cast<std::size_t>(team)];
+void LayFigure(Relief& relief, const QTransform& place, std::span<const Limb> parts, int team,
+               const Uniform& uniform) {
     for (const Limb& part : parts) {
         if (!Worn(part.role, team)) continue;
         if (part.role == Role::Head)
@@ -187,20 +183,20 @@ QImage Soldier(int team, int stance, int facing) {
     Relief relief = Blank();
     const QTransform place = Facing(Turns[static_cast<std::size_t>(facing)]);
     const std::span<const Limb> parts = Figures[static_cast<std::size_t>(stance)];
-    LayRim(relief, place, parts, team, Colour(Ink::Peat));
-    LayFigure(relief, place, parts, team);
-    return Settle(relief.Render(true), FigureDither);
+    LayFigure(relief, place, parts, team, Uniforms[static_cast<std::size_t>(team)]);
+    return Rimmed(Settle(relief.Render(true), FigureDither), Shadows[static_cast<std::size_t>(stance)]);
 }
 
 QImage DeadSoldier() {
-    Relief relief = Blank();
-    const QTransform place = Facing(-28);
-    relief.Lay(Lump(11.4, 11, 4.8, 0.3, 971), {.colour = Colour(Ink::Maroon), .grain = 0.15f});
-    relief.Lay(Lump(11.8, 11.4, 3.2, 0.3, 973), {.colour = Colour(Ink::Brick), .grain = 0.15f});
-    LayRim(relief, place, Dead, 0, Colour(Ink::Peat));
-    LayFigure(relief, place, Dead, 0);
-    relief.Stain(Ellipse(9.6, 10.4, 1.3, 1.1), Colour(Ink::Brick), 0.9);
-    return Settle(relief.Render(true), FigureDither);
+    Relief blood = Blank();
+    blood.Lay(Lump(12, 11.6, 6, 0.3, 971), {.colour = Colour(Ink::Maroon), .grain = 0.1f});
+    blood.Lay(Lump(12.4, 12, 3.8, 0.3, 973), {.colour = Colour(Ink::Brick), .grain = 0.1f});
+    Relief body = Blank();
+    LayFigure(body, Facing(-28), Dead, Civilians, DeadUniform);
+    body.Stain(Ellipse(9.6, 10.4, 1.3, 1.1), Colour(Ink::Brick), 0.9);
+    QImage picture = Settle(blood.Render(true), FigureDither);
+    Place(picture, 0, 0, Rimmed(Settle(body.Render(true), FigureDither), 0));
+    return picture;
 }
 
 QImage PeopleSheet() {

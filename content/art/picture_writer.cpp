@@ -4,11 +4,16 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include <gif_lib.h>
 
+#include <QBuffer>
+#include <QByteArray>
+#include <QFile>
 #include <QString>
+#include <QtEndian>
 
 #include "palette.h"
 
@@ -34,14 +39,22 @@ ColorMapObject* InkMap() {
     return map;
 }
 
+// The colour's place in the table; settled pictures have no others.
+int InkIndex(QRgb colour) {
+    static const std::unordered_map<QRgb, int> places = [] {
+        std::unordered_map<QRgb, int> table;
+        for (std::size_t i = 0; i < InkCount; ++i)
+            table.emplace(Inks[i].colour, static_cast<int>(i));
+        return table;
+    }();
+    return qAlpha(colour) == 0 ? SeeThrough : places.at(colour);
+}
+
 std::vector<GifPixelType> InkRow(const QImage& picture, int y) {
     std::vector<GifPixelType> row;
-    for (int x = 0; x < picture.width(); ++x) {
-        const QRgb colour = picture.pixel(x, y);
-        const int index =
-            qAlpha(colour) == 0 ? SeeThrough : static_cast<int>(NearestInk(colour, 0, Palette::Whole));
-        row.push_back(static_cast<GifPixelType>(index));
-    }
+    row.reserve(static_cast<std::size_t>(picture.width()));
+    for (int x = 0; x < picture.width(); ++x)
+        row.push_back(static_cast<GifPixelType>(InkIndex(picture.pixel(x, y))));
     return row;
 }
 
@@ -72,6 +85,23 @@ void WriteGif(const std::string& path, const QImage& picture) {
     if (!put || !closed) Fail(path);
 }
 
+// Qt leaves chance bytes at the ends of such rows; a picture drawn twice is to be the same file.
+void WriteIndexedBmp(const std::string& path, const QImage& picture) {
+    constexpr int OffsetPlace = 10;
+    constexpr int RowUnit = 4;
+    QBuffer content;
+    bool ok = content.open(QIODevice::WriteOnly) && picture.save(&content, "BMP");
+    QByteArray bytes = content.data();
+    const int width = picture.width();
+    const int gap = (RowUnit - width % RowUnit) % RowUnit;
+    const auto first = qFromLittleEndian<quint32>(bytes.constData() + OffsetPlace);
+    for (int y = 0; y < picture.height(); ++y)
+        bytes.replace(first + static_cast<qsizetype>(y) * (width + gap) + width, gap, QByteArray(gap, 0));
+    QFile file(QString::fromStdString(path));
+    ok = ok && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    if (!ok) Fail(path);
+}
+
 }  // namespace
 
 void PictureWriter::Write(const std::string& name, const QImage& picture) const {
@@ -82,6 +112,8 @@ void PictureWriter::Write(const std::string& name, const QImage& picture) const 
         return;
     }
     const bool flat = path.extension() == ".bmp";
+    const bool indexed = picture.format() == QImage::Format_Indexed8;
+    if (flat && indexed) return WriteIndexedBmp(path.string(), picture);
     const QImage stored = flat ? picture.convertToFormat(QImage::Format_RGB888) : picture;
     if (!stored.save(QString::fromStdString(path.string()), flat ? "BMP" : "PNG")) Fail(path.string());
 }

@@ -12,8 +12,8 @@ class PictureWriter {
   public:
     explicit PictureWriter(std::string targetFolder) : folder(std::move(targetFolder)) {}
 
-    // The kind is told by the ending: .bmp (24 bits), .gif (the palette, see-through where alpha is 0) or
-    // .png.
+    // The kind is told by the ending: .bmp (24 bits, or 8 of an indexed picture), .gif (the palette,
+    // see-through where alpha is 0) or .png.
     void Write(const std::string& name, const QImage& picture) const;
 
   private:

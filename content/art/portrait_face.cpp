@@ -17,7 +17,6 @@ constexpr double FaceDepth = 33;
 constexpr double EyesDepth = 3.2;
 constexpr double NoseDepth = 6.4;
 constexpr double MouthDepth = 4.4;
-constexpr double MouthHalf = 9.6;  // width of half an average mouth
 constexpr double EarsDepth = -2.5;
 
 double MouthOf(const Person& person) {
@@ -68,63 +67,50 @@ void Nose(Clay& clay, const Person& person) {
     clay.Mound(x, tip + 4.6, 5 * n, 2.2, -1.6);
 }
 
-// The line where the lips meet and the outlines of both.
-struct Lips {
-    double y, half, full;
-    QPainterPath line, upper, lower;
-};
-
-double MouthX(const Person& person, double across) {
-    return Turned(person, across, MouthDepth * (1 - 0.3 * std::abs(across) / (MouthHalf * person.mouth)));
-}
-
-Lips LipsOf(const Person& person) {
-    const double y = MouthOf(person);
-    const double half = MouthHalf * person.mouth;
-    const double full = person.lips;
-    const double rise = person.smile;
-    const auto at = [&](double share) { return MouthX(person, share * half); };
-    QPainterPath line(QPointF(at(-1), y - rise + 0.3));
-    line.cubicTo(at(-0.45), y + 0.5 + rise * 0.3, at(-0.25), y - 0.8, at(0), y + 0.2);
-    line.cubicTo(at(0.25), y - 0.8, at(0.45), y + 0.5 + rise * 0.3, at(1), y - rise + 0.3);
-    QPainterPath upper = line;
-    upper.cubicTo(at(0.5), y - 1.9 * full - rise * 0.3, at(0.25), y - 3.6 * full, at(0), y - 2.5 * full);
-    upper.cubicTo(at(-0.25), y - 3.6 * full, at(-0.5), y - 1.9 * full - rise * 0.3, at(-1), y - rise + 0.3);
-    QPainterPath lower = line;
-    lower.cubicTo(at(0.6), y + 3.2 * full, at(0.3), y + 4.3 * full, at(0), y + 4.3 * full);
-    lower.cubicTo(at(-0.3), y + 4.3 * full, at(-0.6), y + 3.2 * full, at(-1), y - rise + 0.3);
-    return {y, half, full, line, upper, lower};
-}
-
-void PaintLips(Clay& clay, const Person& person, const Lips& lips) {
-    ClayBrush brush(clay);
-    brush.setPen(Qt::NoPen);
-    brush.setOpacity(person.woman ? 0.85 : 0.6);
-    brush.setBrush(Darker(person.blood, 0.16));
-    brush.drawPath(lips.upper);
-    QColor lip = person.blood;
-    lip.setAlphaF(person.woman ? 0.8f : 0.5f);
-    brush.setBrush(lip);
-    brush.drawPath(lips.lower);
-    brush.setOpacity(0.9);
-    brush.setBrush(Qt::NoBrush);
-    brush.setPen(QPen(Darker(person.blood, 0.66), 0.95, Qt::SolidLine, Qt::RoundCap));
-    brush.drawPath(lips.line);
-}
-
 void Mouth(Clay& clay, const Person& person) {
-    const Lips lips = LipsOf(person);
-    const auto at = [&](double across) { return MouthX(person, across); };
-    clay.Mound(at(0), lips.y, 15, 10, 2.2);
-    PaintLips(clay, person, lips);
-    for (const double side : {-1.0, 1.0}) {
-        clay.Mound(at(side * 3), lips.y - 1.5 * lips.full, 5, 2.2 * lips.full, 0.7);
-        clay.Mound(at(side * (lips.half + 1.4)), lips.y - person.smile + 0.5, 2.4, 3, -1.0);
+    const double y = MouthOf(person);
+    const double half = 9.6 * person.mouth;
+    const double full = person.lips;
+    const auto at = [&](double across) {
+        return Turned(person, across, MouthDepth * (1 - 0.3 * std::abs(across) / half));
+    };
+    clay.Mound(at(0), y, 15, 10, 2.2);
+    const double rise = person.smile;
+    QPainterPath line(QPointF(at(-half), y - rise + 0.3));
+    line.cubicTo(at(-half * 0.45), y + 0.5 + rise * 0.3, at(-half * 0.25), y - 0.8, at(0), y + 0.2);
+    line.cubicTo(at(half * 0.25), y - 0.8, at(half * 0.45), y + 0.5 + rise * 0.3, at(half), y - rise + 0.3);
+    QPainterPath upper = line;
+    upper.cubicTo(at(half * 0.5), y - 1.9 * full - rise * 0.3, at(half * 0.25), y - 3.6 * full, at(0),
+                  y - 2.5 * full);
+    upper.cubicTo(at(-half * 0.25), y - 3.6 * full, at(-half * 0.5), y - 1.9 * full - rise * 0.3, at(-half),
+                  y - rise + 0.3);
+    QPainterPath lower = line;
+    lower.cubicTo(at(half * 0.6), y + 3.2 * full, at(half * 0.3), y + 4.3 * full, at(0), y + 4.3 * full);
+    lower.cubicTo(at(-half * 0.3), y + 4.3 * full, at(-half * 0.6), y + 3.2 * full, at(-half),
+                  y - rise + 0.3);
+    {
+        ClayBrush brush(clay);
+        brush.setPen(Qt::NoPen);
+        QColor lip = person.blood;
+        lip.setAlphaF(person.woman ? 0.8f : 0.5f);
+        brush.setBrush(Darker(lip, 0.16));
+        brush.setOpacity(person.woman ? 0.85 : 0.6);
+        brush.drawPath(upper);
+        brush.setBrush(lip);
+        brush.drawPath(lower);
+        brush.setOpacity(0.9);
+        brush.setBrush(Qt::NoBrush);
+        brush.setPen(QPen(Darker(person.blood, 0.66), 0.95, Qt::SolidLine, Qt::RoundCap));
+        brush.drawPath(line);
     }
-    clay.Mound(at(0), lips.y + 2.2 * lips.full, 7.5, 2.8 * lips.full, 1.3);
-    clay.Crease(lips.line, 1.3, -1.0);
-    clay.Mound(at(0), lips.y + 6.0 * lips.full, 7.5, 2.6, -1.7);
-    clay.Crease(Trace({{at(0), lips.y - 9}, {at(0), lips.y - 4}}), 1.5, -0.6);
+    clay.Mound(at(-3), y - 1.5 * full, 5, 2.2 * full, 0.7);
+    clay.Mound(at(3), y - 1.5 * full, 5, 2.2 * full, 0.7);
+    clay.Mound(at(0), y + 2.2 * full, 7.5, 2.8 * full, 1.3);
+    clay.Crease(line, 1.3, -1.0);
+    clay.Mound(at(0), y + 6.0 * full, 7.5, 2.6, -1.7);
+    for (const double side : {-1.0, 1.0})
+        clay.Mound(at(side * (half + 1.4)), y - rise + 0.5, 2.4, 3, -1.0);
+    clay.Crease(Trace({{at(0), y - 9}, {at(0), y - 4}}), 1.5, -0.6);
 }
 
 void Bones(Clay& clay, const Person& person) {

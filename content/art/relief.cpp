@@ -152,6 +152,17 @@ void Relief::LayLine(const QPainterPath& line, double lineWidth, const Solid& so
     Lay(Widened(line, lineWidth, cap, join), solid);
 }
 
+void Relief::Cut(const QPainterPath& path) {
+    const QRect points = PointsOf(path);
+    if (points.isEmpty()) return;
+    const QImage mask = MaskOf(path, points);
+    for (int y = 0; y < points.height(); ++y) {
+        const uchar* row = mask.constScanLine(y);
+        for (int x = 0; x < points.width(); ++x)
+            if (row[x] > 127) texels[Index(points.x() + x, points.y() + y)] = {};
+    }
+}
+
 void Relief::Stain(const QPainterPath& path, const QColor& colour, double strength) {
     const QRect points = PointsOf(path);
     if (points.isEmpty()) return;

@@ -50,6 +50,9 @@ class Relief {
     void LayLine(const QPainterPath& line, double width, const Solid& solid,
                  Qt::PenCapStyle cap = Qt::RoundCap, Qt::PenJoinStyle join = Qt::RoundJoin);
 
+    // Takes away what was laid there.
+    void Cut(const QPainterPath& path);
+
     // Colour alone, height stays.
     void Stain(const QPainterPath& path, const QColor& colour, double strength = 1);
     void StainLine(const QPainterPath& line, double width, const QColor& colour, double strength = 1,

@@ -74,7 +74,7 @@ void Cobbles(Relief& relief) {
     for (int row = 0; row < Rows; ++row) {
         for (int column = 0; column < Rows; ++column) {
             const double x = (column + (row % 2) * 0.5 + 0.5) * Step;
-            const double y = (row + 0.5) * Step;
+            const double y = (row + 1) * Step;
             const QColor colour = Colour(Inks4[dice.Pick(4)]);
             const auto seed = static_cast<std::uint32_t>(dice.Pick(9999));
             for (int wrap = 0; wrap < 9; ++wrap) {

@@ -19,7 +19,6 @@ Relief Blank() {
 // Three blocks taped together, a timer with a lamp, wires.
 QImage Charge() {
     Relief relief = Blank();
-    relief.Lay(Rect(3.2, 5.8, 13.6, 9.6, 1.4), {.colour = Colour(Ink::Peat), .grain = 0});
     for (int i = 0; i < 3; ++i) {
         relief.Lay(Rect(3.8, 6.4 + i * 2.75, 12, 2.6, 0.7),
                    {.colour = Colour(Ink::Sand), .height = 1.4f, .round = 1, .grain = 0.04f, .glow = 0.3f});
@@ -35,13 +34,12 @@ QImage Charge() {
     wire.cubicTo(11, 3, 15.4, 3.4, 14.6, 7);
     relief.LayLine(wire, 1,
                    {.colour = Colour(Ink::Scarlet), .height = 0.3f, .base = 1.6f, .grain = 0, .glow = 0.8f});
-    return Settle(relief.Render(true), 0.012);
+    return Rimmed(Settle(relief.Render(true), 0.012), 1);
 }
 
 // An open ammunition crate with a rifle across it.
 QImage Pile() {
     Relief relief = Blank();
-    relief.Lay(Rect(2.2, 3.6, 11.8, 9.4, 1), {.colour = Colour(Ink::Peat), .grain = 0});
     relief.Lay(Rect(2.7, 4, 10.6, 8.2, 0.4),
                {.colour = Colour(Ink::Plank), .height = 2, .round = 0.6f, .grain = 0.12f});
     relief.Lay(Rect(4, 5.3, 8, 5.6, 0.2), {.colour = Colour(Ink::Soil), .height = -1.4f, .base = 2});
@@ -59,7 +57,7 @@ QImage Pile() {
                    {.colour = Colour(Ink::Slate), .height = 0.8f, .base = 2.4f, .round = 0.6f});
     relief.LayLine(Trace({{9.2, 14.2}, {10.2, 16.8}}), 1.5,
                    {.colour = Colour(Ink::Slate), .height = 0.8f, .base = 2, .round = 0.6f});
-    return Settle(relief.Render(true), 0.012);
+    return Rimmed(Settle(relief.Render(true), 0.012), 1);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "blocks.h"
 
+#include "nearest.h"
+
 namespace {
 
 BlockLine SplitLine(const std::string& text, int number) {
@@ -10,24 +12,26 @@ BlockLine SplitLine(const std::string& text, int number) {
 
 }  // namespace
 
-std::vector<Block> ReadBlocks(const std::vector<std::string>& lines, const std::string& headWord) {
+std::vector<Block> ReadBlocks(const std::vector<std::string>& lines, const std::string& headWord,
+                              SourceFaults& faults) {
     std::vector<Block> blocks;
     int number = 0;
     for (const std::string& text : lines) {
-        const BlockLine line = SplitLine(text, ++number);
-        if (line.words.empty()) continue;
-        if (line.words.front().text == headWord) {
+        BlockLine line;
+        ++number;
+        if (!faults.Try([&] { line = SplitLine(text, number); }) || line.words.empty()) continue;
+        const SourceWord& first = line.words.front();
+        if (first.text == headWord) {
             blocks.push_back({line, {}});
         } else if (blocks.empty()) {
-            throw SourceError(line.words.front().place,
-                              "\"" + line.words.front().text + "\" stands outside a block",
-                              "\"" + headWord + "\" first");
+            faults.Add({first.place, "\"" + first.text + "\" stands outside a block",
+                        "\"" + headWord + "\" first", Nearest(first.text, {headWord})});
         } else {
             blocks.back().lines.push_back(line);
         }
     }
     if (blocks.empty())
-        throw SourceError({number, 1}, "the source has no block", "at least one \"" + headWord + "\"");
+        faults.Add({{number, 1}, "the source has no block", "at least one \"" + headWord + "\""});
     return blocks;
 }
 

@@ -17,8 +17,9 @@ struct Block {
     std::vector<BlockLine> lines;
 };
 
-/// The blocks of a source whose head lines begin with `headWord`. Throws SourceError.
-std::vector<Block> ReadBlocks(const std::vector<std::string>& lines, const std::string& headWord);
+/// The blocks of a source whose head lines begin with `headWord`.
+std::vector<Block> ReadBlocks(const std::vector<std::string>& lines, const std::string& headWord,
+                              SourceFaults& faults);
 
 /// Takes the words of a line one after another; a missing one is a SourceError that says what was expected.
 class LineWords {

@@ -19,20 +19,24 @@ using Lines = std::vector<std::string>;
 
 struct FileKind {
     const char* word;
-    std::string (*compile)(const Lines&);
+    std::string (*compile)(const Lines&, SourceFaults&);
 };
 
 constexpr FileKind FileKinds[] = {
-    {"roster", [](const Lines& lines) { return RosterBytes(ReadRoster(lines)); }},
-    {"store", [](const Lines& lines) { return StoreBytes(ReadStore(lines)); }},
-    {"ground", [](const Lines& lines) { return GroundBytes(ReadGround(lines)); }},
+    {"roster", [](const Lines& lines,
+                  SourceFaults& faults) { return RosterBytes(Soldiers(ReadRoster(lines, faults))); }},
+    {"store", [](const Lines& lines, SourceFaults& faults) { return StoreBytes(ReadStore(lines, faults)); }},
+    {"ground",
+     [](const Lines& lines, SourceFaults& faults) { return GroundBytes(ReadGround(lines, faults)); }},
 };
 
-void Compile(const FileKind& kind, const std::filesystem::path& source, const std::filesystem::path& target) {
+void Compile(const FileKind& kind, const std::filesystem::path& source, const std::filesystem::path& target,
+             SourceFaults& faults) {
     SetProgramFolder(std::filesystem::absolute(source).parent_path().parent_path());
     InitTables();
     LoadCountries();
-    const std::string bytes = kind.compile(ReadSourceLines(source.string()));
+    const std::string bytes = kind.compile(ReadSourceLines(source.string()), faults);
+    if (!faults.Empty()) return;
     if (target.has_parent_path()) std::filesystem::create_directories(target.parent_path());
     std::ofstream file(target, std::ios::binary);
     file << bytes;
@@ -55,5 +59,5 @@ int main(int argc, char** argv) {
         std::cerr << "usage: sarnoth_campaign_compiler roster|store|ground SOURCE OUTFILE\n";
         return 1;
     }
-    return RunCompiler(argv[2], [&] { Compile(*kind, argv[2], argv[3]); });
+    return RunCompiler(argv[2], [&](SourceFaults& faults) { Compile(*kind, argv[2], argv[3], faults); });
 }

@@ -4,15 +4,19 @@
 #include <string>
 #include <vector>
 
+#include "source_text.h"
 #include "state/state.h"
 
+constexpr int Nowhere = -1;
+
 struct ThingPlace {
-    int x = 0, y = 0;
+    int x = 0, y = 0;            // Nowhere when their line has a fault
     std::vector<InvItem> items;  // at most CellItemSlots
+    SourcePlace place;           // of its head line
 };
 
-/// The one block "store". Throws SourceError, as does ReadGround.
-ThingPlace ReadStore(const std::vector<std::string>& lines);
+/// The one block "store".
+ThingPlace ReadStore(const std::vector<std::string>& lines, SourceFaults& faults);
 
 /// Blocks "place X Y", each on a cell of its own.
-std::vector<ThingPlace> ReadGround(const std::vector<std::string>& lines);
+std::vector<ThingPlace> ReadGround(const std::vector<std::string>& lines, SourceFaults& faults);

@@ -1,47 +1,17 @@
 #include "roster_source.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <variant>
 
+#include "campaign_rules.h"
 #include "data/campaign_layout.h"
-#include "data/countries_file.h"
 #include "item_source.h"
+#include "nearest.h"
 #include "platform/code_page.h"
 
 namespace {
-
-struct NumberKey {
-    const char* word;
-    std::variant<u8 Unit::*, i16 Unit::*> field;
-    int low, high;
-};
-
-constexpr int MaxAttribute = 100;
-
-// clang-format off
-const NumberKey NumberKeys[] = {
-    // key             field                low  high
-    {"serial",        &Unit::serialNo,        0, 32767},
-    {"vitality",      &Unit::vitality,        1, MaxAttribute},
-    {"strength",      &Unit::strength,        1, MaxAttribute},
-    {"agility",       &Unit::agility,         1, MaxAttribute},
-    {"perception",    &Unit::perception,      1, MaxAttribute},
-    {"intelligence",  &Unit::intelligence,    1, MaxAttribute},
-    {"mood",          &Unit::mood,            1, MaxAttribute},
-    {"marksmanship",  &Unit::marksmanship,    1, MaxAttribute},
-    {"stealth",       &Unit::stealth,         1, MaxAttribute},
-    {"melee",         &Unit::melee,           1, MaxAttribute},
-    {"sidearms",      &Unit::sidearms,        1, MaxAttribute},
-    {"smgs",          &Unit::smgs,            1, MaxAttribute},
-    {"rifles",        &Unit::rifles,          1, MaxAttribute},
-    {"machineguns",   &Unit::machineguns,     1, MaxAttribute},
-    {"explosives",    &Unit::explosives,      1, MaxAttribute},
-    {"time",          &Unit::time,            0, 800},
-    {"health",        &Unit::health,          1, 255},
-    {"energy",        &Unit::energy,          0, 800},
-};
-// clang-format on
 
 const std::vector<std::string> WordKeys = {"name", "rank", "country", "face", "facing", "stance"};
 const std::vector<std::string> FacingWords = {"east",       "west",       "north",      "south",
@@ -49,19 +19,6 @@ const std::vector<std::string> FacingWords = {"east",       "west",       "north
 const std::vector<std::string> StanceWords = {"prone", "crouch", "stand", "run"};
 
 constexpr std::size_t NameLength = 30;
-constexpr std::size_t CountryLength = 2;
-constexpr int RankCount = 24;
-constexpr int LastLongSlot = 3;  // long things fit the hand and the long places
-constexpr int HeadSlot = 4, BodySlot = 5, BackSlot = 6;
-constexpr int FirstPocket = 10;
-
-struct WornPlace {
-    int slot;
-    const char* kind;  // what alone it takes
-};
-
-constexpr WornPlace WornPlaces[] = {{HeadSlot, "helmet"}, {BodySlot, "vest"}, {BackSlot, "pack"}};
-
 std::string TextOf(const SourceWord& word, std::size_t length, const std::string& name) {
     if (word.text.size() != length) {
         throw SourceError(word.place, "\"" + word.text + "\" is no " + name,
@@ -87,9 +44,8 @@ std::string NameOf(LineWords& line) {
 }
 
 std::string CountryOf(const SourceWord& word) {
-    if (CountryName(word.text).empty() || word.text.size() != CountryLength) {
-        throw SourceError(word.place, "there is no country \"" + word.text + "\"", "a code of countries.dat");
-    }
+    for (const Flaw& flaw : CountryFlaws(word.text))
+        throw SourceError(word.place, flaw.wrong, flaw.expected, flaw.meant);
     return word.text;
 }
 
@@ -108,7 +64,8 @@ void ReadFace(LineWords& line, Unit& soldier) {
     soldier.faceType = type.text;
 }
 
-void ReadWordKey(int key, LineWords& line, Unit& soldier) {
+void ReadWordKey(int key, LineWords& line, RosterEntry& entry) {
+    Unit& soldier = entry.soldier;
     switch (key) {
         case 0:
             soldier.name = NameOf(line);
@@ -117,9 +74,11 @@ void ReadWordKey(int key, LineWords& line, Unit& soldier) {
             soldier.rank = RankOf(line.Take("a rank"));
             break;
         case 2:
+            entry.country = line.Place();
             soldier.country = CountryOf(line.Take("a country"));
             break;
         case 3:
+            entry.face = line.Place();
             ReadFace(line, soldier);
             break;
         case 4:
@@ -131,100 +90,96 @@ void ReadWordKey(int key, LineWords& line, Unit& soldier) {
     }
 }
 
-void StoreNumber(Unit& soldier, const NumberKey& key, int value) {
-    std::visit([&](const auto field) { soldier.*field = value; }, key.field);
+void ReadNumber(const SoldierNumber& number, LineWords& line, Unit& soldier) {
+    const int value = NumberOf(line.Take("a number"), number.low, number.high, number.key);
+    std::visit([&](const auto member) { soldier.*member = value; }, number.member);
 }
 
 std::vector<std::string> AllKeys() {
     std::vector<std::string> keys = WordKeys;
-    for (const NumberKey& key : NumberKeys)
-        keys.emplace_back(key.word);
+    for (const SoldierNumber& number : SoldierNumbers())
+        keys.emplace_back(number.key);
     return keys;
 }
 
-void ReadKey(const SourceWord& word, LineWords& line, Unit& soldier) {
-    const int key = IndexOf(word, AllKeys(), "key of a soldier");
-    const int words = static_cast<int>(WordKeys.size());
-    if (key < words) {
-        ReadWordKey(key, line, soldier);
-    } else {
-        const NumberKey& number = NumberKeys[key - words];
-        StoreNumber(soldier, number, NumberOf(line.Take("a number"), number.low, number.high, number.word));
-    }
-}
+// What a soldier's block has told so far.
+struct Told {
+    RosterEntry entry;
+    std::set<std::string> keys;
+    std::map<std::string, SourcePlace> slots;  // by the name of the field, as "items[7]"
+};
 
-void CheckSlotTakes(int slot, const InvItem& item, SourcePlace place) {
-    if (item.count == 1 && slot > LastLongSlot) {
-        throw SourceError(place, item.name + " is too long for slot " + std::to_string(slot),
-                          "one of the slots 0 to 3");
-    }
-    for (const WornPlace& worn : WornPlaces) {
-        if (slot == worn.slot && item.ammoMain != worn.kind) {
-            throw SourceError(place, item.name + " doesn't go to slot " + std::to_string(slot),
-                              std::string("a ") + worn.kind);
-        }
-    }
+void ReadKey(const SourceWord& word, LineWords& line, Told& told) {
+    std::vector<std::string> known = AllKeys();
+    known.emplace_back("slot");
+    // Who mistypes a key hasn't forgotten it.
+    if (std::find(known.begin(), known.end(), word.text) == known.end())
+        told.keys.insert(Nearest(word.text, known));
+    const auto key = static_cast<std::size_t>(IndexOf(word, known, "key of a soldier"));
+    if (!told.keys.insert(word.text).second)
+        throw SourceError(word.place, "\"" + word.text + "\" comes twice", "each key once");
+    if (key < WordKeys.size())
+        ReadWordKey(static_cast<int>(key), line, told.entry);
+    else
+        ReadNumber(SoldierNumbers()[key - WordKeys.size()], line, told.entry.soldier);
 }
 
 // "slot 0: ak count 1 ..."
-void ReadSlot(LineWords& line, Unit& soldier) {
+void ReadSlot(LineWords& line, Told& told, SourceFaults& faults) {
     SourceWord number = line.Take("the number of a slot");
     if (number.text.back() == ':') number.text.pop_back();
     const int slot = NumberOf(number, 0, RosterItems - 1, "slot");
-    if (!soldier.items[slot].name.empty()) {
+    if (!told.slots.insert({"items[" + number.text + "]", number.place}).second) {
         throw SourceError(number.place, "slot " + std::to_string(slot) + " comes twice", "each slot once");
     }
     const SourcePlace place = line.Place();
-    soldier.items[slot] = ReadItem(line);
-    CheckSlotTakes(slot, soldier.items[slot], place);
+    InvItem& item = told.entry.soldier.items[slot];
+    item = ReadItem(line, faults);
+    for (const Flaw& flaw : SlotFlaws(slot, item))
+        faults.Add({place, flaw.wrong, flaw.expected, flaw.meant});
 }
 
-// The pack gives as many pockets as its size.
-void CheckPockets(const Unit& soldier, SourcePlace place) {
-    const int pockets = soldier.items[BackSlot].capMain;
-    for (int slot = FirstPocket + pockets; slot < RosterItems; ++slot) {
-        if (!soldier.items[slot].name.empty()) {
-            throw SourceError(place, soldier.name + " has a thing in slot " + std::to_string(slot),
-                              std::to_string(pockets) + " pockets at most by the pack");
-        }
-    }
-}
-
-Unit ReadSoldier(const Block& block) {
-    Unit soldier;
-    std::set<std::string> seen;
-    LineWords(block.head).Take("soldier");
+RosterEntry ReadSoldier(const Block& block, SourceFaults& faults) {
+    Told told;
     for (const BlockLine& text : block.lines) {
         LineWords line(text);
-        const SourceWord& key = line.Take("a key");
-        if (key.text == "slot") {
-            ReadSlot(line, soldier);
-        } else {
-            if (!seen.insert(key.text).second)
-                throw SourceError(key.place, "\"" + key.text + "\" comes twice", "each key once");
-            ReadKey(key, line, soldier);
-        }
-        line.Finish();
+        faults.Try([&] {
+            const SourceWord& key = line.Take("a key");
+            if (key.text == "slot")
+                ReadSlot(line, told, faults);
+            else
+                ReadKey(key, line, told);
+            line.Finish();
+        });
     }
     for (const std::string& key : AllKeys()) {
-        if (!seen.contains(key))
-            throw SourceError(block.head.words.front().place, "this soldier lacks \"" + key + "\"",
-                              "all keys");
+        if (!told.keys.contains(key))
+            faults.Add({block.head.words.front().place, "this soldier lacks \"" + key + "\"", "all keys"});
     }
-    CheckPockets(soldier, block.head.words.front().place);
-    return soldier;
+    for (const Flaw& flaw : PocketFlaws(told.entry.soldier))
+        faults.Add({told.slots[flaw.field], flaw.wrong, flaw.expected, flaw.meant});
+    return told.entry;
 }
 
 }  // namespace
 
-std::vector<Unit> ReadRoster(const std::vector<std::string>& lines) {
-    std::vector<Unit> soldiers;
-    for (const Block& block : ReadBlocks(lines, "soldier")) {
-        if (soldiers.size() == static_cast<std::size_t>(RosterSize)) {
-            throw SourceError(block.head.words.front().place, "one soldier too many",
-                              std::to_string(RosterSize) + " soldiers at most");
+std::vector<RosterEntry> ReadRoster(const std::vector<std::string>& lines, SourceFaults& faults) {
+    std::vector<RosterEntry> roster;
+    for (const Block& block : ReadBlocks(lines, "soldier", faults)) {
+        if (roster.size() == static_cast<std::size_t>(RosterSize)) {
+            faults.Add({block.head.words.front().place, "one soldier too many",
+                        std::to_string(RosterSize) + " soldiers at most"});
+            break;
         }
-        soldiers.push_back(ReadSoldier(block));
+        roster.push_back(ReadSoldier(block, faults));
     }
+    return roster;
+}
+
+std::vector<Unit> Soldiers(const std::vector<RosterEntry>& roster) {
+    std::vector<Unit> soldiers;
+    soldiers.reserve(roster.size());
+    for (const RosterEntry& entry : roster)
+        soldiers.push_back(entry.soldier);
     return soldiers;
 }

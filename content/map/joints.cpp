@@ -59,7 +59,7 @@ constexpr Bank Banks[] = {
 constexpr Bank CornerBanks[] = {{NorthWest, 9}, {NorthEast, 10}, {SouthWest, 11}, {SouthEast, 12}};
 
 bool GoesOnInto(const MapSource& map, const Glyph& glyph, int x, int y) {
-    if (!InField(x, y) || !map.At(x, y).links) return false;
+    if (!OnMap(x, y) || !map.At(x, y).links) return false;
     for (const Terrain terrain : glyph.joins) {
         if (terrain == map.At(x, y).terrain) return true;
     }
@@ -106,7 +106,7 @@ int AxisColumn(const MapSource& map, int x, int y) {
 }
 
 bool IsLand(const MapSource& map, int x, int y) {
-    return InField(x, y) && map.At(x, y).terrain != Water && !map.At(x, y).steep;
+    return OnMap(x, y) && map.At(x, y).terrain != Water && !map.At(x, y).steep;
 }
 
 // Scatters the cells over `count` choices so that neighbours differ; the same cell always gets the same.
@@ -153,7 +153,7 @@ int BlockColumn(const MapSource& map, int x, int y) {
         --top;
     for (int j = 0; j < glyph.height; ++j) {
         for (int i = 0; i < glyph.width; ++i) {
-            if (!InField(left + i, top + j) || map.GlyphAt(left + i, top + j) != map.GlyphAt(x, y)) {
+            if (!OnMap(left + i, top + j) || map.GlyphAt(left + i, top + j) != map.GlyphAt(x, y)) {
                 throw SourceError(
                     map.Place(left, top), "this drawing is not whole",
                     std::to_string(glyph.width) + " by " + std::to_string(glyph.height) + " cells of it");
@@ -187,12 +187,13 @@ int ColumnOf(const MapSource& map, int x, int y) {
 
 }  // namespace
 
-TileGrid PlaceTiles(const MapSource& map) {
+TileGrid PlaceTiles(const MapSource& map, SourceFaults& faults) {
     TileGrid grid;
     for (int y = 0; y < MapHeight; ++y) {
         for (int x = 0; x < MapWidth; ++x) {
-            grid[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] = {ColumnOf(map, x, y),
-                                                                              map.At(x, y).terrain};
+            Tile& tile = grid[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
+            tile.terrain = map.At(x, y).terrain;
+            faults.Try([&] { tile.column = ColumnOf(map, x, y); });
         }
     }
     return grid;

@@ -4,5 +4,5 @@
 
 #include "map_source.h"
 
-/// Throws SourceError where the sheet has no tile for a joint.
-TileGrid PlaceTiles(const MapSource& map);
+/// A fault where the sheet has no tile for a joint; such a cell gets the first column of its class.
+TileGrid PlaceTiles(const MapSource& map, SourceFaults& faults);

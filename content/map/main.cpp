@@ -4,41 +4,34 @@
 
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <iostream>
 #include <stdexcept>
 
 #include "joints.h"
 #include "map_checks.h"
+#include "map_files.h"
 
 namespace {
 
-using LayerValue = std::function<int(const Tile&)>;
-
-constexpr int FirstCode = 32;  // the character of the value 0
-
-void WriteLayer(const std::filesystem::path& path, const TileGrid& grid, const LayerValue& valueOf) {
+void WriteFile(const std::filesystem::path& path, const std::string& content) {
     std::ofstream file(path, std::ios::binary);
-    for (const auto& row : grid) {
-        for (const Tile& tile : row)
-            file.put(static_cast<char>(FirstCode + valueOf(tile)));
-        file << "\r\n";
-    }
+    file << content;
     file.close();
     if (!file) throw std::runtime_error("can't write " + path.string());
 }
 
-void Compile(const std::string& source, const std::filesystem::path& folder) {
-    const MapSource map = ReadMapSource(ReadSourceLines(source));
-    const TileGrid grid = PlaceTiles(map);
-    CheckMap(map, grid);
+void Compile(const std::string& source, const std::filesystem::path& folder, SourceFaults& faults) {
+    const MapSource map = ReadMapSource(ReadSourceLines(source), faults);
+    if (!faults.Empty()) return;
+    const TileGrid grid = PlaceTiles(map, faults);
+    CheckMap(grid, map.firstLine, faults);
+    if (!faults.Empty()) return;
     const std::string name = std::filesystem::path(source).stem().string();
     std::filesystem::create_directories(folder);
-    WriteLayer(folder / (name + "1.map"), grid, [](const Tile& tile) { return tile.column; });
-    WriteLayer(folder / (name + "2.map"), grid,
-               [](const Tile& tile) { return static_cast<int>(tile.terrain); });
-    // The game reads the third layer's strength values and then works them out itself: any character does.
-    WriteLayer(folder / (name + "3.map"), grid, [](const Tile&) { return 0; });
+    const LayerTexts layers = LayersOf(grid);
+    WriteFile(folder / (name + "1.map"), layers.columns);
+    WriteFile(folder / (name + "2.map"), layers.classes);
+    WriteFile(folder / (name + "3.map"), layers.strengths);
 }
 
 }  // namespace
@@ -48,5 +41,5 @@ int main(int argc, char** argv) {
         std::cerr << "usage: sarnoth_map_compiler SOURCE OUTDIR\n";
         return 1;
     }
-    return RunCompiler(argv[1], [&] { Compile(argv[1], argv[2]); });
+    return RunCompiler(argv[1], [&](SourceFaults& faults) { Compile(argv[1], argv[2], faults); });
 }

@@ -29,20 +29,30 @@ bool& MarkAt(Marks& marks, int x, int y) {
     return marks[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
 }
 
+// A map under check: what stands where, and where in its file a cell is told.
+struct MapGround {
+    const TileGrid& grid;
+    int firstLine;
+    SourceFaults& faults;
+
+    void Refuse(int x, int y, const std::string& wrong, const std::string& expected) const {
+        faults.Add({{firstLine + y, x + 1}, wrong, expected});
+    }
+};
+
 bool Free(const TileGrid& grid, int x, int y) {
     return !StopsStep(TileAt(grid, x, y));
 }
 
 // A walk from row 0 or column 0 can't be planned: nobody may ever stand there.
-void CheckEdges(const MapSource& map, const TileGrid& grid) {
+void CheckEdges(const MapGround& map) {
     for (int x = 0; x < MapWidth; ++x) {
-        if (Free(grid, x, 0))
-            throw SourceError(map.Place(x, 0), "row 0 can be stood on here", "something that stops a step");
+        if (Free(map.grid, x, 0))
+            map.Refuse(x, 0, "row 0 can be stood on here", "something that stops a step");
     }
-    for (int y = 0; y < MapHeight; ++y) {
-        if (Free(grid, 0, y))
-            throw SourceError(map.Place(0, y), "column 0 can be stood on here",
-                              "something that stops a step");
+    for (int y = 1; y < MapHeight; ++y) {
+        if (Free(map.grid, 0, y))
+            map.Refuse(0, y, "column 0 can be stood on here", "something that stops a step");
     }
 }
 
@@ -58,31 +68,29 @@ std::vector<CellPlace> LandingCells(const TileGrid& grid) {
     return cells;
 }
 
-void CheckLandingCorner(const MapSource& map, const std::vector<CellPlace>& landing) {
+void CheckLandingCorner(const MapGround& map, const std::vector<CellPlace>& landing) {
     if (landing.size() < static_cast<std::size_t>(SquadSize)) {
-        throw SourceError(map.Place(0, 0), "the field has too few free cells", "room for a squad");
+        map.Refuse(0, 0, "the field has too few free cells", "room for a squad");
     }
     for (const CellPlace& cell : landing) {
         if (cell.x >= CornerWidth || cell.y >= CornerHeight) {
-            throw SourceError(map.Place(cell.x, cell.y), "a soldier of the squad would land here",
-                              "all " + std::to_string(SquadSize) + " in the first " +
-                                  std::to_string(CornerWidth) + " columns and " +
-                                  std::to_string(CornerHeight) + " rows");
+            map.Refuse(cell.x, cell.y, "a soldier of the squad would land here",
+                       "all " + std::to_string(SquadSize) + " in the first " + std::to_string(CornerWidth) +
+                           " columns and " + std::to_string(CornerHeight) + " rows");
         }
     }
 }
 
-void CheckVehicle(const MapSource& map, const TileGrid& grid) {
+void CheckVehicle(const MapGround& map) {
     constexpr int VehicleCells = 8;
     int cells = 0;
     for (int y = 0; y < VehicleReach; ++y) {
         for (int x = 0; x < VehicleReach; ++x)
-            cells += IsVehicle(TileAt(grid, x, y));
+            cells += IsVehicle(TileAt(map.grid, x, y));
     }
     if (cells != VehicleCells) {
-        throw SourceError(map.Place(0, 0),
-                          std::to_string(cells) + " cells of the squad's vehicle near the landing corner",
-                          std::to_string(VehicleCells));
+        map.Refuse(0, 0, std::to_string(cells) + " cells of the squad's vehicle near the landing corner",
+                   std::to_string(VehicleCells));
     }
 }
 
@@ -97,7 +105,7 @@ int Flood(const TileGrid& grid, int x, int y, Marks& reached) {
         ++count;
         for (int i = 0; i < 9; ++i) {
             const int nx = cell.x + i % 3 - 1, ny = cell.y + i / 3 - 1;
-            if (!InField(nx, ny) || !Free(grid, nx, ny) || MarkAt(reached, nx, ny)) continue;
+            if (!OnMap(nx, ny) || !Free(grid, nx, ny) || MarkAt(reached, nx, ny)) continue;
             MarkAt(reached, nx, ny) = true;
             open.push_back({nx, ny});
         }
@@ -105,17 +113,16 @@ int Flood(const TileGrid& grid, int x, int y, Marks& reached) {
     return count;
 }
 
-void CheckWays(const MapSource& map, const TileGrid& grid, const CellPlace& start) {
+void CheckWays(const MapGround& map, const CellPlace& start) {
     Marks reached = {};
-    Flood(grid, start.x, start.y, reached);
+    Flood(map.grid, start.x, start.y, reached);
     for (int y = 0; y < MapHeight; ++y) {
         for (int x = 0; x < MapWidth; ++x) {
-            if (!Free(grid, x, y) || MarkAt(reached, x, y)) continue;
-            const int size = Flood(grid, x, y, reached);
-            if (size > NookSize || IsLandingSpot(TileAt(grid, x, y))) {
-                throw SourceError(map.Place(x, y),
-                                  std::to_string(size) + " free cells from here on are closed in",
-                                  "a way from the landing corner");
+            if (!Free(map.grid, x, y) || MarkAt(reached, x, y)) continue;
+            const int size = Flood(map.grid, x, y, reached);
+            if (size > NookSize || IsLandingSpot(TileAt(map.grid, x, y))) {
+                map.Refuse(x, y, std::to_string(size) + " free cells from here on are closed in",
+                           "a way from the landing corner");
             }
         }
     }
@@ -132,42 +139,43 @@ bool ClearLine(const TileGrid& grid, const CellPlace& from, const CellPlace& to)
     return true;
 }
 
-void CheckSpotHidden(const MapSource& map, const TileGrid& grid, const CellPlace& spot,
-                     const std::vector<CellPlace>& landing) {
+void CheckSpotHidden(const MapGround& map, const CellPlace& spot, const std::vector<CellPlace>& landing) {
     for (const CellPlace& cell : landing) {
         const int dx = spot.x - cell.x, dy = spot.y - cell.y;
-        if (dx * dx + dy * dy <= ClearSight * ClearSight && ClearLine(grid, cell, spot)) {
-            throw SourceError(map.Place(spot.x, spot.y),
-                              "this landing spot is in sight of the squad at column " +
-                                  std::to_string(cell.x) + ", row " + std::to_string(cell.y),
-                              "something between them that stops the view, or more than " +
-                                  std::to_string(ClearSight) + " cells");
+        if (dx * dx + dy * dy <= ClearSight * ClearSight && ClearLine(map.grid, cell, spot)) {
+            map.Refuse(spot.x, spot.y,
+                       "this landing spot is in sight of the squad at column " + std::to_string(cell.x) +
+                           ", row " + std::to_string(cell.y),
+                       "something between them that stops the view, or more than " +
+                           std::to_string(ClearSight) + " cells");
+            return;
         }
     }
 }
 
-void CheckSpots(const MapSource& map, const TileGrid& grid, const std::vector<CellPlace>& landing) {
+void CheckSpots(const MapGround& map, const std::vector<CellPlace>& landing) {
     int spots = 0;
     for (int y = 0; y < MapHeight; ++y) {
         for (int x = 0; x < MapWidth; ++x) {
-            if (!IsLandingSpot(TileAt(grid, x, y))) continue;
+            if (!IsLandingSpot(TileAt(map.grid, x, y))) continue;
             ++spots;
-            CheckSpotHidden(map, grid, {x, y}, landing);
+            CheckSpotHidden(map, {x, y}, landing);
         }
     }
     if (spots < MinSpots || spots > MaxSpots) {
-        throw SourceError(map.Place(0, 0), std::to_string(spots) + " landing spots of the computer's team",
-                          std::to_string(MinSpots) + " to " + std::to_string(MaxSpots));
+        map.Refuse(0, 0, std::to_string(spots) + " landing spots of the computer's team",
+                   std::to_string(MinSpots) + " to " + std::to_string(MaxSpots));
     }
 }
 
 }  // namespace
 
-void CheckMap(const MapSource& map, const TileGrid& grid) {
-    CheckEdges(map, grid);
+void CheckMap(const TileGrid& grid, int firstLine, SourceFaults& faults) {
+    const MapGround map{grid, firstLine, faults};
+    CheckEdges(map);
     const std::vector<CellPlace> landing = LandingCells(grid);
     CheckLandingCorner(map, landing);
-    CheckVehicle(map, grid);
-    CheckWays(map, grid, landing.front());
-    CheckSpots(map, grid, landing);
+    CheckVehicle(map);
+    if (!landing.empty()) CheckWays(map, landing.back());
+    CheckSpots(map, landing);
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "map_files.h"
+
 namespace {
 
 struct WayRule {
@@ -50,13 +52,14 @@ std::vector<SourceWord> SplitAt(const SourceWord& word, char mark) {
 }
 
 // "0x8,1-7": column 0 eight times and the columns 1 to 7 once each.
-std::vector<int> ColumnsOf(const SourceWord& word) {
+std::vector<int> ColumnsOf(const SourceWord& word, Terrain terrain) {
+    const int lastKnown = KnownColumns(terrain) - 1;
     std::vector<int> columns;
     for (const SourceWord& part : SplitAt(word, ',')) {
         const std::vector<SourceWord> repeat = SplitAt(part, 'x');
         const std::vector<SourceWord> range = SplitAt(repeat.front(), '-');
-        const int first = NumberOf(range.front(), 0, SheetColumns - 1, "column");
-        const int last = NumberOf(range.back(), first, SheetColumns - 1, "column");
+        const int first = NumberOf(range.front(), 0, lastKnown, "column");
+        const int last = NumberOf(range.back(), first, lastKnown, "column");
         const int times = repeat.size() > 1 ? NumberOf(repeat.back(), 1, MaxRepeat, "repeat") : 1;
         for (int column = first; column <= last; ++column)
             columns.insert(columns.end(), static_cast<std::size_t>(times), column);
@@ -113,7 +116,7 @@ Glyph ReadGlyph(LegendLine& line) {
     glyph.way = rule.way;
     glyph.links = rule.links;
     for (int i = 0; i < rule.columnLists; ++i) {
-        const std::vector<int> columns = ColumnsOf(line.Take("columns of the tile sheet"));
+        const std::vector<int> columns = ColumnsOf(line.Take("columns of the tile sheet"), glyph.terrain);
         glyph.columns.insert(glyph.columns.end(), columns.begin(), columns.end());
     }
     if (glyph.way == Way::Block) {
@@ -134,15 +137,17 @@ void ReadLegendLine(const std::string& text, int number, MapSource& map) {
     Glyph& entry = map.legend[static_cast<unsigned char>(glyph)];
     if (entry.defined)
         throw SourceError(key.place, "glyph \"" + key.text + "\" comes twice", "each glyph once");
+    entry.defined = true;  // also when the rest has a fault
     entry = ReadGlyph(line);
 }
 
-void ReadFieldLine(const std::string& text, int number, MapSource& map, std::string& row) {
+void ReadFieldLine(const std::string& text, int number, MapSource& map, std::string& row,
+                   SourceFaults& faults) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto code = static_cast<unsigned char>(text[i]);
         if (code >= map.legend.size() || !map.legend[code].defined) {
-            throw SourceError({number, static_cast<int>(i) + 1}, "the legend has no such glyph",
-                              "a glyph of the legend");
+            faults.Add(
+                {{number, static_cast<int>(i) + 1}, "the legend has no such glyph", "a glyph of the legend"});
         }
     }
     if (text.size() != static_cast<std::size_t>(MapWidth)) {
@@ -175,23 +180,26 @@ SourcePlace MapSource::Place(int x, int y) const {
     return {firstLine + y, x + 1};
 }
 
-MapSource ReadMapSource(const std::vector<std::string>& lines) {
+MapSource ReadMapSource(const std::vector<std::string>& lines, SourceFaults& faults) {
     MapSource map;
     std::size_t i = 0;
     for (; i < lines.size() && lines[i] != "field"; ++i) {
-        if (!IsBlankOrComment(lines[i]) && lines[i] != "legend") ReadLegendLine(lines[i], LineNumber(i), map);
+        if (!IsBlankOrComment(lines[i]) && lines[i] != "legend")
+            faults.Try([&] { ReadLegendLine(lines[i], LineNumber(i), map); });
     }
     map.firstLine = LineNumber(i) + 1;
     for (std::string& row : map.rows) {
         if (++i >= lines.size()) {
-            throw SourceError({LineNumber(std::min(i, lines.size())), 1}, "the field ends too early",
-                              "\"field\" and " + std::to_string(MapHeight) + " rows");
+            faults.Add({{LineNumber(std::min(i, lines.size())), 1},
+                        "the field ends too early",
+                        "\"field\" and " + std::to_string(MapHeight) + " rows"});
+            return map;
         }
-        ReadFieldLine(lines[i], LineNumber(i), map, row);
+        faults.Try([&] { ReadFieldLine(lines[i], LineNumber(i), map, row, faults); });
     }
     for (++i; i < lines.size(); ++i) {
         if (!IsBlankOrComment(lines[i]))
-            throw SourceError({LineNumber(i), 1}, "text after the field", "the end of the file");
+            faults.Add({{LineNumber(i), 1}, "text after the field", "the end of the file"});
     }
     return map;
 }

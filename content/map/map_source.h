@@ -41,5 +41,5 @@ struct MapSource {
     SourcePlace Place(int x, int y) const;
 };
 
-/// Throws SourceError.
-MapSource ReadMapSource(const std::vector<std::string>& lines);
+/// With faults the map isn't fit for use.
+MapSource ReadMapSource(const std::vector<std::string>& lines, SourceFaults& faults);

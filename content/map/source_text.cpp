@@ -4,6 +4,9 @@
 #include <charconv>
 #include <fstream>
 #include <iostream>
+#include <tuple>
+
+#include "nearest.h"
 
 namespace {
 
@@ -19,8 +22,25 @@ void RefuseControlCharacters(std::string_view text, int line) {
 
 }  // namespace
 
-SourceError::SourceError(SourcePlace at, const std::string& wrong, const std::string& expected)
-    : std::runtime_error(wrong + ", expected " + expected), place(at) {}
+std::string FaultMessage(const std::string& wrong, const std::string& expected, const std::string& meant) {
+    return wrong + ", expected " + expected + (meant.empty() ? "" : ", did you mean \"" + meant + "\"?");
+}
+
+SourceError::SourceError(SourcePlace at, const std::string& what, const std::string& instead,
+                         const std::string& suggestion)
+    : std::runtime_error(FaultMessage(what, instead, suggestion)),
+      place(at),
+      wrong(what),
+      expected(instead),
+      meant(suggestion) {}
+
+std::vector<SourceError> SourceFaults::Sorted() const {
+    std::vector<SourceError> sorted = faults;
+    std::stable_sort(sorted.begin(), sorted.end(), [](const SourceError& one, const SourceError& other) {
+        return std::tie(one.place.line, one.place.column) < std::tie(other.place.line, other.place.column);
+    });
+    return sorted;
+}
 
 std::vector<std::string> ReadSourceLines(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
@@ -69,20 +89,22 @@ std::string JoinWords(const std::vector<std::string>& list) {
 int IndexOf(const SourceWord& word, const std::vector<std::string>& list, const std::string& name) {
     const auto found = std::find(list.begin(), list.end(), word.text);
     if (found == list.end()) {
-        throw SourceError(word.place, "\"" + word.text + "\" is no " + name, "one of " + JoinWords(list));
+        throw SourceError(word.place, "\"" + word.text + "\" is no " + name, "one of " + JoinWords(list),
+                          Nearest(word.text, list));
     }
     return static_cast<int>(found - list.begin());
 }
 
-int RunCompiler(const std::string& source, const std::function<void()>& work) {
+int RunCompiler(const std::string& source, const std::function<void(SourceFaults&)>& work) {
+    SourceFaults faults;
     try {
-        work();
-        return 0;
-    } catch (const SourceError& error) {
-        std::cerr << source << ':' << error.place.line << ':' << error.place.column << ": " << error.what()
-                  << '\n';
+        faults.Try([&] { work(faults); });
     } catch (const std::exception& error) {
         std::cerr << source << ": " << error.what() << '\n';
+        return 1;
     }
-    return 1;
+    for (const SourceError& fault : faults.Sorted())
+        std::cerr << source << ':' << fault.place.line << ':' << fault.place.column << ": " << fault.what()
+                  << '\n';
+    return faults.Empty() ? 0 : 1;
 }

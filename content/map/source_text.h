@@ -15,15 +15,46 @@ struct SourcePlace {
 
 class SourceError : public std::runtime_error {
   public:
-    SourceError(SourcePlace at, const std::string& wrong, const std::string& expected);
+    /// `meant` is what the writer may have meant; empty when there is nothing to suggest.
+    SourceError(SourcePlace at, const std::string& wrong, const std::string& expected,
+                const std::string& meant = "");
 
     SourcePlace place;
+    std::string wrong, expected, meant;
+};
+
+/// Gathers the faults of a source, so that a reader goes on after one and its user sees all of them.
+class SourceFaults {
+  public:
+    void Add(const SourceError& fault) { faults.push_back(fault); }
+
+    /// Runs `work` and takes the fault that ends it. Whether it came to its end.
+    template <typename Work>
+    bool Try(Work work) {
+        try {
+            work();
+            return true;
+        } catch (const SourceError& fault) {
+            Add(fault);
+            return false;
+        }
+    }
+
+    bool Empty() const { return faults.empty(); }
+    /// By line and column.
+    std::vector<SourceError> Sorted() const;
+
+  private:
+    std::vector<SourceError> faults;
 };
 
 struct SourceWord {
     std::string text;
     SourcePlace place;
 };
+
+/// "wrong, expected X, did you mean "Y"?": the one form of all messages about content.
+std::string FaultMessage(const std::string& wrong, const std::string& expected, const std::string& meant);
 
 /// The lines of a text file without their ends (LF or CR LF). Throws std::runtime_error when it can't be
 /// read.
@@ -35,12 +66,12 @@ std::vector<SourceWord> SplitWords(std::string_view text, int line);
 /// The text of the word as a plain decimal number from low to high. `name` says what the number is.
 int NumberOf(const SourceWord& word, int low, int high, const std::string& name);
 
-/// The place of `key` in a list of words, or a SourceError that lists them all.
+/// The place of `key` in a list of words, or a SourceError that lists them all and names the nearest.
 int IndexOf(const SourceWord& word, const std::vector<std::string>& list, const std::string& name);
 
 /// The words with ", " between them, for messages.
 std::string JoinWords(const std::vector<std::string>& list);
 
-/// Runs a compiler over `source` and returns the exit code of its program: 0, or 1 after one message on
-/// standard error.
-int RunCompiler(const std::string& source, const std::function<void()>& work);
+/// Runs a compiler over `source` and returns the exit code of its program: 0, or 1 after a message on
+/// standard error for each fault.
+int RunCompiler(const std::string& source, const std::function<void(SourceFaults&)>& work);

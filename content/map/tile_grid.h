@@ -39,6 +39,6 @@ inline const Tile& TileAt(const TileGrid& grid, int x, int y) {
     return grid[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
 }
 
-inline bool InField(int x, int y) {
+inline bool OnMap(int x, int y) {
     return x >= 0 && x < MapWidth && y >= 0 && y < MapHeight;
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "tools/missions/options.h"
+#include "tools/usage_error.h"
 
 namespace lab {
 

@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "tools/lab/commands.h"
-#include "tools/missions/options.h"
+#include "tools/usage_error.h"
 
 namespace {
 

@@ -11,10 +11,11 @@
 
 #include "platform/files.h"
 #include "tools/game_copy.h"
+#include "tools/json_text.h"
 #include "tools/lab/arguments.h"
 #include "tools/lab/commands.h"
 #include "tools/lab/soak.h"
-#include "tools/missions/options.h"
+#include "tools/usage_error.h"
 
 namespace lab {
 
@@ -139,27 +140,18 @@ void Collect(const Worker& worker, Totals& totals) {
         Count(totals, {running, 0, "", "its process died, status " + std::to_string(status)});
 }
 
-std::string Quoted(const std::string& text) {
-    std::string quoted = "\"";
-    for (const char character : text) {
-        if (character == '"' || character == '\\') quoted += '\\';
-        quoted += character;
-    }
-    return quoted + "\"";
-}
-
 void PrintJson(const Totals& totals) {
     std::cout << "{\"missions\": " << totals.missions << ", \"events\": " << totals.events << ", \"ends\": {";
     const char* comma = "";
     for (const auto& [end, count] : totals.ends) {
-        std::cout << comma << Quoted(end) << ": " << count;
+        std::cout << comma << JsonQuoted(end) << ": " << count;
         comma = ", ";
     }
     std::cout << "}, \"faults\": [";
     comma = "";
     for (const SoakedMission& mission : totals.faults) {
         std::cout << comma << "{\"seed\": " << mission.seed << ", \"events\": " << mission.events
-                  << ", \"fault\": " << Quoted(mission.fault) << "}";
+                  << ", \"fault\": " << JsonQuoted(mission.fault) << "}";
         comma = ", ";
     }
     std::cout << "]}\n";

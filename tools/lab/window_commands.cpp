@@ -13,7 +13,7 @@
 #include "tools/lab/commands.h"
 #include "tools/lab/recorder.h"
 #include "tools/lab/replay.h"
-#include "tools/missions/options.h"
+#include "tools/usage_error.h"
 #include "view/events.h"
 #include "view/mini_map.h"
 

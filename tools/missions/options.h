@@ -5,9 +5,10 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
+
+#include "tools/usage_error.h"
 
 struct MissionOptions {
     std::uint32_t firstSeed = 1;
@@ -19,12 +20,6 @@ struct MissionOptions {
     bool json = false;
     bool time = false;
     bool help = false;
-};
-
-/// A command line that can't be followed; the text says why.
-class UsageError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
 };
 
 /// What --help prints.

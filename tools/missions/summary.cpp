@@ -5,6 +5,8 @@
 #include <sstream>
 #include <string_view>
 
+#include "tools/json_text.h"
+
 namespace {
 
 // What is told about some of the missions; without missions the other figures mean nothing.
@@ -78,21 +80,6 @@ std::string Row(const std::string& name, const Figures& figures) {
     return row.str();
 }
 
-std::string Quoted(const std::string& text) {
-    std::ostringstream quoted;
-    quoted << '"' << std::hex << std::setfill('0');
-    for (const char c : text) {
-        if (static_cast<unsigned char>(c) < ' ')
-            quoted << "\\u" << std::setw(4) << static_cast<int>(c);
-        else if (c == '"' || c == '\\')
-            quoted << '\\' << c;
-        else
-            quoted << c;
-    }
-    quoted << '"';
-    return quoted.str();
-}
-
 std::string FiguresJson(const Figures& figures) {
     if (figures.missions == 0) return R"({"missions": 0, "share": 0, "turns": null, "mean": null})";
     std::ostringstream json;
@@ -109,11 +96,11 @@ std::string PlayedJson(const PlayedMission& mission) {
     json << R"({"seed": )" << mission.seed;
     const MissionResult& result = mission.result;
     if (mission.error.empty())
-        json << R"(, "verdict": )" << Quoted(result.verdict) << R"(, "turns": )" << result.turns
+        json << R"(, "verdict": )" << JsonQuoted(result.verdict) << R"(, "turns": )" << result.turns
              << R"(, "squadWounded": )" << result.squadWounded << R"(, "squadDead": )" << result.squadDead
              << R"(, "enemiesDead": )" << result.enemiesDead << "}";
     else
-        json << R"(, "error": )" << Quoted(mission.error) << "}";
+        json << R"(, "error": )" << JsonQuoted(mission.error) << "}";
     return json.str();
 }
 
@@ -131,7 +118,7 @@ std::string MissionTable(const std::vector<PlayedMission>& missions) {
 std::string MissionJson(const std::vector<PlayedMission>& missions) {
     std::string json = "{\n";
     for (const char* verdict : Verdicts)
-        json += "  " + Quoted(verdict) + ": " + FiguresJson(FiguresOf(missions, verdict)) + ",\n";
+        json += "  " + JsonQuoted(verdict) + ": " + FiguresJson(FiguresOf(missions, verdict)) + ",\n";
     json += "  \"All\": " + FiguresJson(FiguresOf(missions, "")) + ",\n  \"missions\": [";
     const char* separator = "\n    ";
     for (const PlayedMission& mission : missions) {

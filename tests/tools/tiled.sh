@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# A map goes through the editor Tiled itself and comes back as it was. Exit code 77 where Tiled isn't installed.
+# Usage: tiled.sh PROGRAM GAME_FOLDER
+set -u
+program=$(readlink -f "$1")
+game=$(readlink -f "$2")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work" || exit 2
+failed=0
+
+# expect CODE ARGUMENT...: runs the program; standard error is left in err.
+expect() {
+    local code=$1 got=0
+    shift
+    timeout 60 "$program" "$@" >out 2>err || got=$?
+    [ "$got" -eq "$code" ] || { echo "exit code $got instead of $code: $*"; cat err; failed=1; }
+}
+
+# same NAME: whether the map of this name is the game's, byte for byte.
+same() {
+    local part
+    for part in 1 2 3 g; do
+        cmp "$1$part.map" "$game/map/49$part.map" || failed=1
+    done
+}
+
+expect 0 export "$game/map/49" 49.tmx
+[ -s picMap.bmp ] || { echo "the tile sheet is missing"; failed=1; }
+expect 0 import 49.tmx back
+same back
+expect 0 --help
+expect 2 export "$game/map/49"
+expect 1 export nowhere/49 50.tmx
+expect 1 import nowhere.tmx back
+sed 's/encoding="csv"/encoding="base64"/' 49.tmx >packed.tmx
+expect 1 import packed.tmx packed
+grep -qF 'packed.tmx:1603:4: the layer' err || { cat err; failed=1; }
+[ -e packed1.map ] && { echo "a refused map was written"; failed=1; }
+
+if ! command -v tiled >/dev/null; then
+    echo "Tiled isn't installed: what it makes of the map is not tested."
+    [ $failed -eq 0 ] && exit 77
+    exit 1
+fi
+export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$work HOME=$work
+timeout 60 tiled --export-map 49.tmx saved.tmx 2>err || { cat err; exit 1; }
+cmp -s 49.tmx saved.tmx && { echo "Tiled changed nothing: the test says nothing"; failed=1; }
+expect 0 import saved.tmx saved
+same saved
+exit $failed

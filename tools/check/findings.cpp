@@ -1,0 +1,130 @@
+#include "tools/check/findings.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+#include "platform/code_page.h"
+#include "tools/json_text.h"
+
+namespace {
+
+bool IsUtf8(const std::string& text) {
+    int following = 0;  // bytes that the character still needs
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool follows = (byte & 0xC0) == 0x80;
+        if (follows != (following > 0)) return false;
+        if (follows)
+            --following;
+        else
+            following = byte < 0x80 ? 0 : byte >= 0xF0 ? 3 : byte >= 0xE0 ? 2 : 1;
+    }
+    return following == 0;
+}
+
+// Messages are UTF-8; what isn't is taken for the 8-bit code of the binary files.
+std::string Shown(const std::string& text) {
+    std::string shown = IsUtf8(text) ? text : FromCodePage(text);
+    for (char& c : shown)
+        if (static_cast<unsigned char>(c) < ' ' && c != '\t') c = '?';
+    return shown;
+}
+
+// Blanks up to the column, tabs where the line has them; the bytes after the first of a character take no
+// room.
+std::string CaretLine(const std::string& text, int column) {
+    std::string caret;
+    for (std::size_t i = 0; i + 1 < static_cast<std::size_t>(column); ++i) {
+        const bool follows = i < text.size() && (static_cast<unsigned char>(text[i]) & 0xC0) == 0x80;
+        if (!follows) caret.push_back(i < text.size() && text[i] == '\t' ? '\t' : ' ');
+    }
+    return caret + "^";
+}
+
+std::string Place(const Finding& finding) {
+    if (finding.line > 0)
+        return finding.file + ":" + std::to_string(finding.line) + ":" + std::to_string(finding.column);
+    if (finding.record == 0) return finding.file;
+    return finding.file + ": record " + std::to_string(finding.record) + ", " + finding.field + ", byte " +
+           std::to_string(finding.byte);
+}
+
+}  // namespace
+
+std::string ReadChecked(const std::filesystem::path& path, Findings& findings) {
+    std::ifstream file(path, std::ios::binary);
+    std::string content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    if (!file.is_open()) {
+        Finding missing;
+        missing.file = path.string();
+        missing.wrong = "the file can't be opened";
+        missing.expected = "a file of the game";
+        findings.push_back(missing);
+    }
+    return content;
+}
+
+CheckedText OpenText(const std::filesystem::path& path, Findings& findings) {
+    CheckedText text;
+    text.path = path;
+    text.content = ReadChecked(path, findings);
+    std::size_t begin = 0;
+    while (begin < text.content.size()) {
+        const std::size_t end = std::min(text.content.find('\n', begin), text.content.size());
+        std::string line = text.content.substr(begin, end - begin);
+        if (line.ends_with('\r')) line.pop_back();
+        text.lines.push_back(line);
+        begin = end + 1;
+        if (end == text.content.size())
+            text.faults.Add({{static_cast<int>(text.lines.size()), static_cast<int>(line.size()) + 1},
+                             "the file ends within a line",
+                             "the end of the line"});
+    }
+    return text;
+}
+
+void TakeFaults(const CheckedText& text, Findings& findings) {
+    for (const SourceError& fault : text.faults.Sorted()) {
+        Finding finding;
+        finding.file = text.path.string();
+        finding.line = fault.place.line;
+        finding.column = fault.place.column;
+        finding.wrong = Shown(fault.wrong);
+        finding.expected = fault.expected;
+        finding.meant = fault.meant;
+        const auto index = static_cast<std::size_t>(fault.place.line) - 1;
+        if (index < text.lines.size()) finding.text = text.lines[index];
+        findings.push_back(finding);
+    }
+}
+
+std::string FindingsText(const Findings& findings) {
+    std::string shown;
+    for (const Finding& finding : findings) {
+        shown += Place(finding) + ": " + FaultMessage(finding.wrong, finding.expected, finding.meant) + "\n";
+        if (!finding.text.empty())
+            shown += "    " + Shown(finding.text) + "\n    " + CaretLine(finding.text, finding.column) + "\n";
+    }
+    return shown;
+}
+
+std::string FindingsJson(const Findings& findings) {
+    std::string json = "[";
+    const char* separator = "\n  ";
+    for (const Finding& finding : findings) {
+        json += separator + std::string(R"({"file": )") + JsonQuoted(finding.file);
+        if (finding.line > 0)
+            json += R"(, "line": )" + std::to_string(finding.line) + R"(, "column": )" +
+                    std::to_string(finding.column);
+        if (finding.record > 0)
+            json += R"(, "record": )" + std::to_string(finding.record) + R"(, "field": )" +
+                    JsonQuoted(finding.field) + R"(, "byte": )" + std::to_string(finding.byte);
+        json +=
+            R"(, "wrong": )" + JsonQuoted(finding.wrong) + R"(, "expected": )" + JsonQuoted(finding.expected);
+        if (!finding.meant.empty()) json += R"(, "meant": )" + JsonQuoted(finding.meant);
+        json += "}";
+        separator = ",\n  ";
+    }
+    return json + (findings.empty() ? "]\n" : "\n]\n");
+}

@@ -1,0 +1,90 @@
+#include "tools/check/weapons_scale.h"
+
+namespace {
+
+constexpr FigureRange None = {0, 0};
+
+// clang-format off
+constexpr GroupScale Scales[] = {
+    // group     kinds  power       accur      time      range     durab
+    {"hand",     "w", {{{  1,  20}, {80, 100}, { 4, 12}, { 1,  1}, {1000, 1000}}}},
+    {"blade",    "w", {{{ 15,  70}, {40, 100}, { 6, 20}, { 4, 14}, { 100, 1000}}}},
+    {"tool",     "w", {{{  8,  50}, {40,  80}, {12, 30}, { 1,  1}, { 400, 1000}}}},
+    {"grenade",  "w", {{{ 80, 250}, {60, 100}, {20, 45}, {10, 25}, {1000, 1000}}}},
+    {"charge",   "w", {{{250, 600}, {80, 100}, {25, 60}, { 1,  6}, {1000, 1000}}}},
+    {"launcher", "w", {{{120, 220}, {65,  95}, {20, 50}, {25, 45}, { 300,  900}}}},
+    {"shotgun",  "w", {{{180, 360}, {50,  90}, {12, 32}, { 8, 20}, { 300,  900}}}},
+    {"bow",      "w", {{{ 15,  90}, {75, 100}, {15, 45}, { 8, 30}, { 300,  800}}}},
+    {"air",      "w", {{{  5,  20}, {85, 100}, {12, 28}, {10, 20}, { 400,  900}}}},
+    {"rimfire",  "w", {{{ 20,  45}, {45, 100}, { 5, 25}, {15, 35}, { 300,  900}}}},
+    {"pistol",   "mw", {{{30,  55}, {50,  85}, { 6, 20}, {12, 26}, { 300, 1000}}}},
+    {"smg",      "m", {{{ 30,  55}, {45,  85}, { 6, 14}, {14, 32}, { 300, 1000}}}},
+    {"rifle",    "m", {{{ 45, 100}, {55,  95}, {10, 20}, {24, 55}, { 400, 1000}}}},
+    {"combo",    "m", {{{ 60, 120}, {60,  92}, {12, 22}, {24, 50}, { 400, 1000}}}},
+    {"sniper",   "mw", {{{60, 170}, {80, 100}, {14, 32}, {36, 80}, { 400, 1000}}}},
+    {"mg",       "m", {{{ 45, 110}, {55,  92}, { 7, 18}, {36, 65}, { 400, 1000}}}},
+    {"ammo",     "a", {{None, None, None, None, None}}},
+    {"equip",    "i", {{None, None, None, None, None}}},
+    {"thing",    "s", {{None, None, None, None, None}}},
+};
+
+constexpr NamedKey Keys[] = {
+    {"hand",      Need::Main,    "is held by who holds nothing"},
+    {"ak",        Need::Main,    "is what the computer's soldiers carry"},
+    {"med",       Need::Main,    "heals"},
+    {"c4",        Need::Nothing, "is set as a charge"},
+    {"m67",       Need::Main,    "explodes where it stops"},
+    {"m67a2",     Need::Main,    "explodes where it stops"},
+    {"m367",      Need::Main,    "explodes where it stops"},
+    {"etool",     Need::Nothing, "digs and folds"},
+    {"etoolfold", Need::Nothing, "unfolds"},
+    {"bsl",       Need::Nothing, "digs"},
+    {"mpl",       Need::Nothing, "digs"},
+    {"m203",      Need::Second,  "launches grenades"},
+    {"mm1",       Need::Second,  "launches grenades"},
+    {"m4m203",    Need::Second,  "launches grenades as its second mode"},
+    {"steyrm203", Need::Second,  "launches grenades as its second mode"},
+    {"xm8xm320",  Need::Second,  "launches grenades as its second mode"},
+    {"famasm203", Need::Second,  "launches grenades as its second mode"},
+    {"xm8lss",    Need::Second,  "fires pellets as its second mode"},
+    {"mkey",      Need::Second,  "fires pellets as its second mode"},
+    {"nova",      Need::Second,  "fires pellets"},
+    {"spas",      Need::Second,  "fires pellets"},
+    {"super90",   Need::Second,  "fires pellets"},
+    {"jackham",   Need::Second,  "fires pellets"},
+    {"rem870s",   Need::Second,  "fires pellets"},
+    {"rem870m",   Need::Second,  "fires pellets"},
+    {"rem870l",   Need::Second,  "fires pellets"},
+    {"rem870gs",  Need::Second,  "fires pellets"},
+    {"crossbow",  Need::Second,  "shoots from its second feed"},
+    {"airpipe",   Need::Second,  "shoots from its second feed"},
+    {"anschutz",  Need::Main,    "has a feed of its own size"},
+    {"american",  Need::Main,    "has a feed of its own size"},
+    {"anslgw",    Need::Main,    "has a feed of its own size"},
+    {"anslgg",    Need::Main,    "has a feed of its own size"},
+    {"anslgs",    Need::Main,    "has a feed of its own size"},
+    {"luger",     Need::Main,    "has a feed of its own size"},
+    {"lahti",     Need::Main,    "has a feed of its own size"},
+    {"smle",      Need::Main,    "has a feed of its own size"},
+    {"smlet",     Need::Main,    "has a feed of its own size"},
+    {"thronives", Need::Main,    "comes in a set"},
+    {"shuriken",  Need::Main,    "comes in a set"},
+    {"shaken",    Need::Main,    "comes in a set"},
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const GroupScale> GroupScales() {
+    return Scales;
+}
+
+const GroupScale* ScaleOf(std::string_view group) {
+    for (const GroupScale& scale : Scales)
+        if (group == scale.group) return &scale;
+    return nullptr;
+}
+
+std::span<const NamedKey> NamedKeys() {
+    return Keys;
+}
