@@ -2,20 +2,17 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <limits>
 #include <stdexcept>
 
 #include "platform/headless_host.h"
-#include "platform/input_event.h"
 #include "state/state.h"
-#include "view/events.h"
+#include "tools/orders.h"
+#include "tools/squad_player.h"
 #include "view/field_form.h"
 
 namespace {
-
-constexpr int LeftButton = 1;
-constexpr int RightButton = 2;
-constexpr int SpaceKey = 32;
 
 // The turns that the squad has begun, by the log, which is read on from where it was read up to.
 class TurnCount {
@@ -31,11 +28,6 @@ class TurnCount {
     std::size_t read = 0;
     int turns = 0;
 };
-
-void Click(int button, const Unit& on) {
-    Dispatch({EventKind::MouseDown, "frmField.area", -1, button, 0, static_cast<float>(on.pixelX + HalfCell),
-              static_cast<float>(on.pixelY + HalfCell)});
-}
 
 // Whether no comrade stands between two cells.
 bool LineIsClear(const Unit& from, const Unit& to) {
@@ -75,9 +67,9 @@ void PlaySoldier(int soldier) {
     const Unit& unit = UnitTable[soldier];
     for (int order = 0; order < Orders && curUnit == soldier && unit.time >= TimeToAct; ++order) {
         if (const Unit* target = NearestEnemy(unit, Choice::Target))
-            Click(RightButton, *target);
+            ActOn(target->cellX, target->cellY);
         else if (const Unit* goal = NearestEnemy(unit, Choice::Goal))
-            Click(LeftButton, *goal);
+            SelectOrWalkTo(goal->cellX, goal->cellY);
     }
 }
 
@@ -88,17 +80,16 @@ void PlayTurn(TurnCount& count) {
     for (int i = 0; i <= teamLast[SquadTeam] && count.Now() == turn; ++i) {
         const int soldier = curUnit;
         PlaySoldier(soldier);
-        if (count.Now() == turn && curUnit == soldier)
-            Dispatch({EventKind::KeyDown, "frmField", -1, SpaceKey});
+        if (count.Now() == turn && curUnit == soldier) PassToNext();
     }
-    if (count.Now() == turn) Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
+    if (count.Now() == turn) EndTurn();
 }
 
-void PlayToTheEnd(int turns, TurnCount& count) {
+void PlayToTheEnd(int turns, TurnCount& count, const std::function<void()>& playTurn) {
     try {
         while (count.Now() <= turns)
-            PlayTurn(count);
-        Dispatch({EventKind::Click, "frmField.mnuExit"});
+            playTurn();
+        LeaveMission();
     } catch (const ProcessEnded& end) {
         if (end.exitCode == 0) return;
         throw;
@@ -128,9 +119,14 @@ std::string Verdict() {
 
 }  // namespace
 
-MissionResult PlayMission(int turns) {
+MissionResult PlayMission(int turns, const Habits* habits) {
     TurnCount count;
-    PlayToTheEnd(turns, count);
+    if (habits != nullptr) {
+        SquadPlayer player(*habits, [&count] { return count.Now(); });
+        PlayToTheEnd(turns, count, [&player] { player.PlayTurn(); });
+    } else {
+        PlayToTheEnd(turns, count, [&count] { PlayTurn(count); });
+    }
     const int had = std::min(count.Now(), turns);  // one more has begun when he leaves
     return {Verdict(), had, WoundedOfSquad(), DeadOf(SquadTeam), DeadOf(EnemyTeam)};
 }

@@ -1,8 +1,11 @@
-// A simple player in code, who gives his orders through the door for input like any other: soldiers that see
-// an enemy past their comrades fire at the nearest, the others walk toward him.
+// A mission played by code, whose orders go through the door for input like any other's. The simple player's
+// soldiers fire at the nearest enemy whom they see past their comrades, the others walk toward one, seen or
+// not; the players with habits know only what a person would.
 #pragma once
 
 #include <string>
+
+struct Habits;
 
 struct MissionResult {
     std::string verdict;   // as the end's message names it: "Victory", "Defeat" or "Withdrawal"
@@ -13,6 +16,7 @@ struct MissionResult {
 };
 
 /// Plays the running mission, in which the squad has the turn, to its end; after `turns` turns of the squad
-/// the player leaves by the menu. The host's EndProcess must throw ProcessEnded; one with another exit code
-/// than 0 comes through, as does any RunTimeError.
-MissionResult PlayMission(int turns);
+/// the player leaves by the menu. `habits` is the player's row, nullptr for the simple one. The host's
+/// EndProcess must throw ProcessEnded; one with another exit code than 0 comes through, as does any
+/// RunTimeError.
+MissionResult PlayMission(int turns, const Habits* habits = nullptr);

@@ -13,8 +13,8 @@ struct CellPlace {
 };
 
 constexpr int SquadSize = 20;
-constexpr int CornerWidth = 5;    // the squad must find its places within so many columns
-constexpr int CornerHeight = 8;   // and rows of the top left corner
+constexpr int CornerWidth = 3;    // the squad must find its places within so many columns
+constexpr int CornerHeight = 21;  // and rows of the top left corner
 constexpr int VehicleReach = 16;  // columns and rows from the corner in which the vehicle must stand
 constexpr int NookSize =
     2;  // closed-in free cells that nobody misses: gaps between rocks, a shelf in a cupboard

@@ -138,7 +138,7 @@ TEST_F(ComputerPlayerTest, AnEmptyClipIsFilledForTheNextTurnAlone) {
     HandSync("real2fake");
     AiAct();
     // 20 for the clip, 4 to run, 8 for the steps, 12 to drop, 15 for the empty click.
-    EXPECT_EQ(self.time, 100 - 20 - 4 - 8 - 12 - 15);
+    EXPECT_EQ(self.time, 100 - 20 - 4 - 8 - 12 - 33);
     EXPECT_EQ(self.items[0].roundsMain, 20) << "the hand doesn't know of it";
     self.time = 100;
     RefreshHand();
@@ -171,7 +171,7 @@ TEST_F(ComputerPlayerTest, HavingLostSightOnTheWayItFiresAllTheSame) {
     EXPECT_EQ(self.facing, NorthEast) << "through the wall toward the target: 8 cells east and 11 north";
     EXPECT_EQ(self.items[0].roundsMain, 28);
     // Up 4, two eighths of a turn, four steps, down 12, an eighth, the shot.
-    EXPECT_EQ(self.time, 100 - 4 - 2 - 8 - 12 - 1 - 15);
+    EXPECT_EQ(self.time, 100 - 4 - 2 - 8 - 12 - 1 - 33);
     for (const int facing : {North, NorthEast}) {
         self.facing = facing;
         EnemyCounter("clear");
@@ -184,8 +184,8 @@ TEST_F(ComputerPlayerTest, ItEndsBesideALivingTargetAndOnTheCellOfADeadOne) {
         int status, occupant, column, time;
     };
     constexpr Case Cases[] = {
-        {Active, 0, 41, 100 - 4 - 2 * 2 - 12 - 15},  // the third step is refused, for nothing
-        {Dead, -1, 40, 100 - 4 - 3 * 2 - 12 - 15},
+        {Active, 0, 41, 100 - 4 - 2 * 2 - 12 - 33},  // the third step is refused, for nothing
+        {Dead, -1, 40, 100 - 4 - 3 * 2 - 12 - 33},
     };
     PutUnit(1, 38, 20);
     for (const Case& c : Cases) {

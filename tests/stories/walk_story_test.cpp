@@ -4,9 +4,9 @@
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
+#include "view/depot_form.h"
 #include "view/events.h"
 #include "view/field_form.h"
-#include "view/depot_form.h"
 
 namespace {
 
@@ -33,8 +33,8 @@ class StoryTest : public GameTest {
 
 TEST_F(StoryTest, FromTheLandingCornerIntoTheVillage) {
     StartGame();
-    Unit& soldier = UnitTable[11];
-    ASSERT_EQ(soldier.cellX, 2);
+    Unit& soldier = UnitTable[4];
+    ASSERT_EQ(soldier.cellX, 1);
     ASSERT_EQ(soldier.cellY, 5);
     soldier.agility = 74;
     soldier.strength = 60;
@@ -43,11 +43,11 @@ TEST_F(StoryTest, FromTheLandingCornerIntoTheVillage) {
     soldier.facing = East;
     soldier.stance = Stand;
 
-    Click(2, 5);
-    ASSERT_EQ(curUnit, 11);
-    EXPECT_NE(Log().find("Selected " + soldier.name + " (#11)  from team #0\n"), std::string::npos);
+    Click(1, 5);
+    ASSERT_EQ(curUnit, 4);
+    EXPECT_NE(Log().find("Selected " + soldier.name + " (#4)  from team #0\n"), std::string::npos);
 
-    // To the road before the first house: fifteen steps east, then one turn of 45 degrees and two steps
+    // To the road before the first house: sixteen steps east, then one turn of 45 degrees and two steps
     // south-east.
     Click(19, 7);
     EXPECT_EQ(soldier.time, 148) << "east already";
@@ -55,17 +55,17 @@ TEST_F(StoryTest, FromTheLandingCornerIntoTheVillage) {
     EXPECT_EQ(soldier.cellX, 19);
     EXPECT_EQ(soldier.cellY, 7);
     EXPECT_EQ(soldier.facing, SouthEast);
-    EXPECT_EQ(soldier.time, 148 - 17 * 4 - 1);
-    EXPECT_EQ(soldier.energy, 100 - 17);
+    EXPECT_EQ(soldier.time, 148 - 18 * 4 - 1);
+    EXPECT_EQ(soldier.energy, 100 - 18);
 
     EndTurn();
     EXPECT_EQ(curTeam, SquadTeam);
     EXPECT_EQ(soldier.time, 148);
-    EXPECT_EQ(soldier.energy, 83 + 30);
+    EXPECT_EQ(soldier.energy, 82 + 30);
 
     // Through the door at (22, 6) onto the rug: two steps east, one north-east, two north, and three turns.
     Click(19, 7);
-    ASSERT_EQ(curUnit, 11);
+    ASSERT_EQ(curUnit, 4);
     Click(22, 4);
     const int turned = 148 - soldier.time;  // toward the click: from south-east to north-east
     EXPECT_EQ(turned, 2);
@@ -74,9 +74,9 @@ TEST_F(StoryTest, FromTheLandingCornerIntoTheVillage) {
     EXPECT_EQ(soldier.cellY, 4);
     EXPECT_EQ(soldier.facing, North);
     EXPECT_EQ(soldier.time, 148 - turned - 5 * 4 - 3);
-    EXPECT_EQ(soldier.energy, 113 - 5);
-    EXPECT_EQ(cellGrid[4][22].occupant, 11);
-    EXPECT_EQ(cellGrid[5][2].occupant, -1);
+    EXPECT_EQ(soldier.energy, 112 - 5);
+    EXPECT_EQ(cellGrid[4][22].occupant, 4);
+    EXPECT_EQ(cellGrid[5][1].occupant, -1);
 }
 
 TEST_F(StoryTest, AnEnemyIsSightedDrawnHiddenAndSightedAgain) {

@@ -32,7 +32,7 @@ says() {
 cp -r "$game" game
 before=$(cd game && find . -type f -exec cksum {} +)
 
-for command in "--seeds 1..20" "--seeds 1..20 --json" "--log 7"; do
+for command in "--seeds 1..20" "--seeds 1..20 --json" "--log 7" "--log 7 --player sensible"; do
     expect 0 --game "$work/game" $command
     cp out first
     expect 0 --game game $command
@@ -74,6 +74,7 @@ done <<'END'
 --log 1 --json
 --seeds 1..2 --log 1
 --game /nowhere
+--player nobody
 END
 
 [ -z "$(ls "$TMPDIR")" ] || complain "a copy was left behind: $(ls "$TMPDIR")"

@@ -18,14 +18,16 @@ std::vector<PlayedMission> Missions() {
 }
 
 TEST(MissionSummaryTest, TheTableLeavesOutWhatFailed) {
-    EXPECT_EQ(MissionTable(Missions()),
-              "                              turns                      mean of a mission\n"
-              "            missions   share    min  median   90%   max  wounded   dead  enemies dead\n"
-              "Victory           10   83.3%      1       5     9    10     0.50   0.00          3.00\n"
-              "Defeat             0\n"
-              "Withdrawal         2   16.7%      7       7    30    30     2.50   1.50          0.50\n"
-              // Of twelve the sixth and the eleventh; ten wounded, three dead and 31 enemies.
-              "All               12  100.0%      1       6    10    30     0.83   0.25          2.58\n");
+    EXPECT_EQ(
+        MissionTable(Missions()),
+        "                              turns                      mean of a mission\n"
+        "            missions   share    min  median   90%   max  wounded   dead  enemies dead  costly\n"
+        "Victory           10   83.3%      1       5     9    10     0.50   0.00          3.00   50.0%\n"
+        "Defeat             0\n"
+        "Withdrawal         2   16.7%      7       7    30    30     2.50   1.50          0.50  100.0%\n"
+        // Of twelve the sixth and the eleventh; ten wounded, three dead and 31 enemies; seven were costly.
+        "All               12  100.0%      1       6    10    30     0.83   0.25          2.58   58.3%\n"
+        "costly: cost the squad a wounded or dead soldier\n");
 }
 
 TEST(MissionSummaryTest, TheJsonHoldsTheFiguresAndEachMission) {
@@ -33,12 +35,12 @@ TEST(MissionSummaryTest, TheJsonHoldsTheFiguresAndEachMission) {
     EXPECT_EQ(
         MissionJson({all[10], all[12]}),
         R"({
-  "Victory": {"missions": 0, "share": 0, "turns": null, "mean": null},
-  "Defeat": {"missions": 0, "share": 0, "turns": null, "mean": null},
+  "Victory": {"missions": 0, "share": 0, "turns": null, "mean": null, "costly": null},
+  "Defeat": {"missions": 0, "share": 0, "turns": null, "mean": null, "costly": null},
   "Withdrawal": {"missions": 1, "share": 1.0000, "turns": {"minimum": 30, "median": 30, "percentile90": 30, )"
-        R"("maximum": 30}, "mean": {"squadWounded": 4.0000, "squadDead": 2.0000, "enemiesDead": 1.0000}},
+        R"("maximum": 30}, "mean": {"squadWounded": 4.0000, "squadDead": 2.0000, "enemiesDead": 1.0000}, "costly": 1.0000},
   "All": {"missions": 1, "share": 1.0000, "turns": {"minimum": 30, "median": 30, "percentile90": 30, )"
-        R"("maximum": 30}, "mean": {"squadWounded": 4.0000, "squadDead": 2.0000, "enemiesDead": 1.0000}},
+        R"("maximum": 30}, "mean": {"squadWounded": 4.0000, "squadDead": 2.0000, "enemiesDead": 1.0000}, "costly": 1.0000},
   "missions": [
     {"seed": 111, "verdict": "Withdrawal", "turns": 30, "squadWounded": 4, "squadDead": 2, "enemiesDead": 1},
     {"seed": 113, "error": "a \"quoted\" name\u000a"}

@@ -69,7 +69,7 @@ struct Foreign {
 };
 
 // Line 2 is the map, 3 the tileset; the terrain begins in line 1602 and its row 0 is line 1604. The first
-// thing is line 1653 with its properties from 1655 on, the second 1666; the landing spots are from 2110 on.
+// thing is line 1653 with its properties from 1655 on, the second 1666; the landing spots are from 2201 on.
 // clang-format off
 constexpr Foreign Foreigners[] = {
     {"\"orthogonal\"",        "\"isometric\"",        "2:2: orientation is \"isometric\""},
@@ -96,8 +96,8 @@ constexpr Foreign Foreigners[] = {
     {"name=\"count\"",        "name=\"coutn\"",       "1656:6: \"coutn\" is no property of a thing"},
     {"name=\"place\" type=\"int\" value=\"1\"", "name=\"place\" value=\"0\"", "1668:6: place 0 of this cell is taken"},
     {"name=\"place\" type=\"int\" value=\"1\"", "name=\"place\" value=\"30\"", "1668:6: \"30\" is no place"},
-    {"x=\"900\" y=\"60\"",    "x=\"800\" y=\"80\"",   "2111:4: a second landing spot here"},
-    {"x=\"900\" y=\"60\"",    "x=\"0\" y=\"0\"",      "2110:4: a landing spot on tile 2 of fence"},
+    {"x=\"900\" y=\"60\"",    "x=\"800\" y=\"80\"",   "2202:4: a second landing spot here"},
+    {"x=\"900\" y=\"60\"",    "x=\"0\" y=\"0\"",      "2201:4: a landing spot on tile 2 of fence"},
     {"</layer>",              "</laier>",             "1651:4: no XML: Start-end tags mismatch"},
 };
 // clang-format on

@@ -35,7 +35,7 @@ PlayedMission Play(std::uint32_t seed, const MissionOptions& options, const Game
     mission.seed = seed;
     try {
         Main(seed);
-        mission.result = PlayMission(options.turns);
+        mission.result = PlayMission(options.turns, options.habits);
         const std::string& verdict = mission.result.verdict;
         if (std::find(Verdicts.begin(), Verdicts.end(), verdict) == Verdicts.end())
             mission.error = "ended as \"" + verdict + "\"";

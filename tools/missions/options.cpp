@@ -3,6 +3,8 @@
 #include <charconv>
 #include <limits>
 
+#include "tools/squad_player.h"
+
 namespace {
 
 struct Option {
@@ -41,6 +43,11 @@ void ReadGame(MissionOptions& options, const std::string& folder) {
     options.game = folder;
 }
 
+void ReadPlayer(MissionOptions& options, const std::string& name) {
+    options.habits = HabitsNamed(name);
+    if (options.habits == nullptr && name != "simple") throw UsageError("no such player: " + name);
+}
+
 // The limit fits a clock that counts nanoseconds.
 void ReadLimit(MissionOptions& options, const std::string& seconds) {
     options.limit = std::chrono::seconds(ReadNumber<std::int32_t>(seconds, 0));
@@ -50,6 +57,7 @@ void ReadLimit(MissionOptions& options, const std::string& seconds) {
 constexpr Option Options[] = {
     {"--seeds", "A..B",    ReadSeeds},
     {"--turns", "N",       [](MissionOptions& o, const std::string& v) { o.turns = ReadNumber<int>(v, 1); }},
+    {"--player", "NAME",   ReadPlayer},
     {"--log",   "SEED",    [](MissionOptions& o, const std::string& v) { o.log = ReadSeed(v); }},
     {"--game",  "FOLDER",  ReadGame},
     {"--limit", "SECONDS", ReadLimit},
@@ -68,15 +76,18 @@ const Option& FindOption(const std::string& name) {
 }  // namespace
 
 const char* const MissionUsage =
-    "usage: sarnoth-missions [--seeds A..B] [--turns N] [--json] [--time]\n"
+    "usage: sarnoth-missions [--seeds A..B] [--player NAME] [--turns N] [--json] [--time]\n"
     "                        [--game FOLDER] [--limit SECONDS]\n"
-    "       sarnoth-missions --log SEED [--turns N] [--game FOLDER] [--limit SECONDS]\n"
+    "       sarnoth-missions --log SEED [--player NAME] [--turns N] [--game FOLDER] [--limit SECONDS]\n"
     "\n"
     "Plays whole missions without a window, one for each seed, and tells how they ended.\n"
     "The same command prints the same bytes. The game folder is only read.\n"
     "\n"
     "  --seeds A..B     the seeds, both included (1..1000)\n"
-    "  --turns N        the squad leaves the field after so many turns (30)\n"
+    "  --player NAME    simple: knows where the enemy is, walks there and fires (the default);\n"
+    "                   sensible: searches in short bounds, fires when the odds are fair, takes cover;\n"
+    "                   careless: searches at a run, runs at the enemy, fires whoever is in the way\n"
+    "  --turns N        the squad leaves the field after so many turns (40)\n"
     "  --json           for programs: the same figures, and each mission's own\n"
     "  --log SEED       the whole log of that one mission instead\n"
     "  --game FOLDER    the game to play: the folder of dat/, map/, pic/ and wav/ (the one built with this)\n"

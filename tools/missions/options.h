@@ -10,13 +10,16 @@
 
 #include "tools/usage_error.h"
 
+struct Habits;
+
 struct MissionOptions {
     std::uint32_t firstSeed = 1;
     std::uint32_t lastSeed = 1000;  // included
-    int turns = 30;                 // after which the player leaves a mission
+    int turns = 40;                 // after which the player leaves a mission
     std::optional<std::uint32_t> log;
     std::filesystem::path game;  // empty: the one that was built beside the program
     std::chrono::seconds limit{60};
+    const Habits* habits = nullptr;  // of the player; nullptr for the simple one
     bool json = false;
     bool time = false;
     bool help = false;

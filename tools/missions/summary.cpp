@@ -20,6 +20,7 @@ struct Figures {
     double squadWounded = 0;  // a mission
     double squadDead = 0;
     double enemiesDead = 0;
+    double costly = 0;  // share of these that cost a wounded or dead soldier
 };
 
 using Missions = std::vector<const PlayedMission*>;
@@ -34,6 +35,13 @@ double Mean(const Missions& missions, int MissionResult::*figure) {
     for (const PlayedMission* mission : missions)
         sum += mission->result.*figure;
     return sum / static_cast<double>(missions.size());
+}
+
+double CostlyShare(const Missions& missions) {
+    const auto costly = std::count_if(missions.begin(), missions.end(), [](const PlayedMission* mission) {
+        return mission->result.squadWounded + mission->result.squadDead > 0;
+    });
+    return static_cast<double>(costly) / static_cast<double>(missions.size());
 }
 
 Missions Ended(const std::vector<PlayedMission>& all, std::string_view verdict) {
@@ -63,6 +71,7 @@ Figures FiguresOf(const std::vector<PlayedMission>& all, std::string_view verdic
     figures.squadWounded = Mean(missions, &MissionResult::squadWounded);
     figures.squadDead = Mean(missions, &MissionResult::squadDead);
     figures.enemiesDead = Mean(missions, &MissionResult::enemiesDead);
+    figures.costly = CostlyShare(missions);
     return figures;
 }
 
@@ -74,20 +83,22 @@ std::string Row(const std::string& name, const Figures& figures) {
             << std::setw(7) << figures.least << std::setw(8) << figures.median << std::setw(6)
             << figures.ninetieth << std::setw(6) << figures.most << std::setprecision(2) << std::setw(9)
             << figures.squadWounded << std::setw(7) << figures.squadDead << std::setw(14)
-            << figures.enemiesDead;
+            << figures.enemiesDead << std::setprecision(1) << std::setw(7) << figures.costly * 100 << "%";
     }
     row << "\n";
     return row.str();
 }
 
 std::string FiguresJson(const Figures& figures) {
-    if (figures.missions == 0) return R"({"missions": 0, "share": 0, "turns": null, "mean": null})";
+    if (figures.missions == 0)
+        return R"({"missions": 0, "share": 0, "turns": null, "mean": null, "costly": null})";
     std::ostringstream json;
     json << std::fixed << std::setprecision(4) << R"({"missions": )" << figures.missions << R"(, "share": )"
          << figures.share << R"(, "turns": {"minimum": )" << figures.least << R"(, "median": )"
          << figures.median << R"(, "percentile90": )" << figures.ninetieth << R"(, "maximum": )"
          << figures.most << R"(}, "mean": {"squadWounded": )" << figures.squadWounded << R"(, "squadDead": )"
-         << figures.squadDead << R"(, "enemiesDead": )" << figures.enemiesDead << "}}";
+         << figures.squadDead << R"(, "enemiesDead": )" << figures.enemiesDead << R"(}, "costly": )"
+         << figures.costly << "}";
     return json.str();
 }
 
@@ -109,10 +120,10 @@ std::string PlayedJson(const PlayedMission& mission) {
 std::string MissionTable(const std::vector<PlayedMission>& missions) {
     std::string table =
         "                              turns                      mean of a mission\n"
-        "            missions   share    min  median   90%   max  wounded   dead  enemies dead\n";
+        "            missions   share    min  median   90%   max  wounded   dead  enemies dead  costly\n";
     for (const char* verdict : Verdicts)
         table += Row(verdict, FiguresOf(missions, verdict));
-    return table + Row("All", FiguresOf(missions, ""));
+    return table + Row("All", FiguresOf(missions, "")) + "costly: cost the squad a wounded or dead soldier\n";
 }
 
 std::string MissionJson(const std::vector<PlayedMission>& missions) {

@@ -17,7 +17,7 @@ struct PlayedMission {
 };
 
 /// Of the missions that ended, one row a verdict and one for all: how many, the turns that they took
-/// (percentiles by nearest rank) and the mean losses.
+/// (percentiles by nearest rank), the mean losses, and how many cost a wounded or dead soldier.
 std::string MissionTable(const std::vector<PlayedMission>& missions);
 
 /// The same figures, null where there are none, and every mission's own.

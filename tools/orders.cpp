@@ -1,0 +1,52 @@
+#include "tools/orders.h"
+
+#include "view/events.h"
+
+namespace {
+
+constexpr int LeftButton = 1;
+constexpr int RightButton = 2;
+constexpr int SpaceKey = 32;
+
+// By facing: the arrows, Page Up, Page Down, End and Home.
+constexpr int StepKeys[] = {39, 37, 38, 40, 33, 34, 35, 36};
+
+void ClickCell(int button, int cellX, int cellY) {
+    Dispatch({EventKind::MouseDown, "frmField.area", -1, button, 0,
+              static_cast<float>(cellX * CellSize + HalfCell),
+              static_cast<float>(cellY * CellSize + HalfCell)});
+}
+
+void PressKey(int key) {
+    Dispatch({EventKind::KeyDown, "frmField", -1, key});
+}
+
+}  // namespace
+
+void SelectOrWalkTo(int cellX, int cellY) {
+    ClickCell(LeftButton, cellX, cellY);
+}
+
+void ActOn(int cellX, int cellY) {
+    ClickCell(RightButton, cellX, cellY);
+}
+
+void TurnOrStepTo(Facing facing) {
+    PressKey(StepKeys[facing]);
+}
+
+void TakeStance(Stance stance) {
+    Dispatch({EventKind::Click, "frmField.imgStance", stance});
+}
+
+void PassToNext() {
+    PressKey(SpaceKey);
+}
+
+void EndTurn() {
+    Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
+}
+
+void LeaveMission() {
+    Dispatch({EventKind::Click, "frmField.mnuExit"});
+}

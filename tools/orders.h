@@ -1,0 +1,16 @@
+// The orders that a player in code gives, each through the door for input like a person's.
+#pragma once
+
+#include "state/state.h"
+
+/// A left or right click on the middle of a cell.
+void SelectOrWalkTo(int cellX, int cellY);
+void ActOn(int cellX, int cellY);
+
+/// The current soldier turns to `facing` or, if he faces there already, takes one step.
+void TurnOrStepTo(Facing facing);
+
+void TakeStance(Stance stance);
+void PassToNext();
+void EndTurn();
+void LeaveMission();

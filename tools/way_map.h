@@ -1,0 +1,25 @@
+// How far every cell of the field lies from a goal, on foot: what a person reads off the map before he sends
+// somebody. Soldiers in the way don't count.
+#pragma once
+
+#include <array>
+
+#include "state/state.h"
+
+class WayMap {
+  public:
+    static constexpr int NoWay = 9999;
+
+    /// All ways to the cell (goalX, goalY), over the field as it is now.
+    WayMap(int goalX, int goalY);
+
+    /// Steps from (x, y) to the goal; NoWay where there is none, and outside the field.
+    int StepsFrom(int x, int y) const;
+
+    /// The facing of the best step that the unit can take now: nearer to the goal, else past a comrade at the
+    /// same distance; straight on where that is as good. -1 for none.
+    int BestStep(const Unit& unit) const;
+
+  private:
+    std::array<std::array<int, FieldWidth>, FieldHeight> steps;
+};
