@@ -18,7 +18,8 @@ struct WindowRun {
 /// window it says so on standard error and is 1.
 int RunInWindow(char** arguments, const WindowRun& run);
 
-/// Saves a window of the running game, named as "frmField", as it would be shown. False when it can't be written.
+/// Saves a window of the running game, named as "frmField", as it would be shown. False when it can't be
+/// written.
 bool SaveWindow(const std::string& form, const std::filesystem::path& file);
 
 /// The folder that the running program lies in.

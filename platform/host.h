@@ -27,8 +27,9 @@ class Host {
     /// Shows the changes of `control` and of its window now.
     virtual void Refresh(Control& control) = 0;
 
-    /// The number of the innermost pump, wait or modal window that lets events in now, counted from 1 in the order
-    /// in which they began; 0 outside them all. With the order of the events it tells where in a run each came.
+    /// The number of the innermost pump, wait or modal window that lets events in now, counted from 1 in the
+    /// order in which they began; 0 outside them all. With the order of the events it tells where in a run
+    /// each came.
     int InnermostPump() const { return innermost; }
 
     /// Lets the events that wait be handled; each may run a whole order before this returns.

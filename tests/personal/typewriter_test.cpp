@@ -148,8 +148,7 @@ TEST_F(TypewriterTest, TheSheetHasEverythingInItsPlace) {
     const Picture blank = StoredPicture("frmInfo.bmp");
     const auto barEnds = [&](int y) {
         int x = 441;
-        while (sheet.Pixel(x, y) == frmInfo.canvas.Pixel(x, y - 1) &&
-               sheet.Pixel(x, y) != blank.Pixel(x, y))
+        while (sheet.Pixel(x, y) == frmInfo.canvas.Pixel(x, y - 1) && sheet.Pixel(x, y) != blank.Pixel(x, y))
             ++x;
         return x;
     };

@@ -5,12 +5,12 @@
 #include "platform/blit.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"
+#include "view/depot_form.h"
 #include "view/field_form.h"
 #include "view/mini_map.h"
 #include "view/overlays.h"
 #include "view/scrolling.h"
 #include "view/sound.h"
-#include "view/depot_form.h"
 #include "view/unit_painting.h"
 
 namespace {
