@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # A map goes through the editor Tiled itself and comes back as it was. Exit code 77 where Tiled isn't installed.
-# Usage: tiled.sh PROGRAM GAME_FOLDER
+# The Tiled map that is kept beside the source must be the same map.
+# Usage: tiled.sh PROGRAM GAME_FOLDER KEPT_MAP.tmx
 set -u
 program=$(readlink -f "$1")
 game=$(readlink -f "$2")
+kept=$(readlink -f "$3")
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work" || exit 2
@@ -29,6 +31,8 @@ expect 0 export "$game/map/49" 49.tmx
 [ -s picMap.bmp ] || { echo "the tile sheet is missing"; failed=1; }
 expect 0 import 49.tmx back
 same back
+expect 0 import "$kept" kept
+same kept
 expect 0 --help
 expect 2 export "$game/map/49"
 expect 1 export nowhere/49 50.tmx
