@@ -35,15 +35,17 @@ Glyph GlyphOf(char character, int lastAdvance) {
     return {glyph, glyph >= FirstNarrow && glyph <= LastNarrow ? NarrowAdvance : WideAdvance};
 }
 
+// Lays the 8 by 8 pixels of the strip at (`left`, `top`) on the target.
+void Lay(Picture& target, int x, int y, int left, int top, RasterOp operation) {
+    BitBlt(target, x, y, GlyphSize, GlyphSize, frmDepot.picScript.canvas, left, top, operation);
+}
+
 void Stamp(Picture& target, int x, int y, int glyph, bool shadow) {
-    const Picture& strip = frmDepot.picScript.canvas;
     const int left = glyph * GlyphPitch;
-    const auto put = [&](int offset, int row, RasterOp operation) {
-        BitBlt(target, x + offset, y + GlyphDrop + offset, GlyphSize, GlyphSize, strip, left, row, operation);
-    };
-    if (shadow) put(1, 0, RasterOp::SRCAND);
-    put(0, 0, RasterOp::SRCAND);
-    put(0, GlyphSize, RasterOp::SRCINVERT);
+    const int top = y + GlyphDrop;
+    if (shadow) Lay(target, x + 1, top + 1, left, 0, RasterOp::SRCAND);
+    Lay(target, x, top, left, 0, RasterOp::SRCAND);
+    Lay(target, x, top, left, GlyphSize, RasterOp::SRCINVERT);
 }
 
 }  // namespace
