@@ -1,5 +1,6 @@
 #include "tools/lab/state_watch.h"
 
+#include <initializer_list>
 #include <map>
 #include <string_view>
 
@@ -26,6 +27,17 @@ std::uint64_t HashOf(std::string_view text) {
     for (const char character : text)
         hash = (hash ^ static_cast<unsigned char>(character)) * 1099511628211U;
     return hash;
+}
+
+std::string Joined(std::initializer_list<std::string_view> parts) {
+    std::string text;
+    for (const std::string_view part : parts)
+        text += part;
+    return text;
+}
+
+std::uint64_t HashOfField(const std::string& name, const std::string& value) {
+    return HashOf(Joined({name, "=", value}));
 }
 
 // What the windows hold of the game's state beside the records, and how far chance has come.
@@ -78,9 +90,10 @@ class Comparison {
         for (const auto& [name, value] : now) {
             const auto old = before.find(name);
             if (old != before.end() && old->second == value) continue;
-            if (old != before.end()) hash -= HashOf(name + "=" + old->second);
-            hash += HashOf(name + "=" + value);
-            lines.push_back(name + " " + (old == before.end() ? "" : old->second) + " -> " + value);
+            const std::string was = old == before.end() ? "" : old->second;
+            if (old != before.end()) hash -= HashOfField(name, was);
+            hash += HashOfField(name, value);
+            lines.push_back(Joined({name, " ", was, " -> ", value}));
         }
     }
 
