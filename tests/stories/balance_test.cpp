@@ -44,8 +44,7 @@ TEST_F(BalanceTest, TheMissionLastsAndCarelessnessCosts) {
     EXPECT_GE(sensible.victories, Seeds * 9 / 10);
     EXPECT_GE(sensible.turns[Seeds / 2], 8);
     EXPECT_LE(sensible.turns[Seeds / 2], 25);
-    // Of 300 seeds 39% do; so few seeds stray from that by a tenth.
-    EXPECT_GE(sensible.costly * 4, Seeds) << "at least every fourth costs somebody";
+    EXPECT_GE(sensible.costly * 3, Seeds) << "at least every third costs somebody";
     EXPECT_LE(sensible.losses, Seeds * 3 / 2) << "it stays fair";
     EXPECT_GE(careless.losses, sensible.losses * 2);
 }

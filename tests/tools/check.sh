@@ -1,26 +1,8 @@
 #!/usr/bin/env bash
 # sarnoth-check as a script meets it: the built data is clean, exit codes, places in its report.
 # Usage: check.sh PROGRAM GAME_FOLDER
-set -u
-program=$(readlink -f "$1")
-game=$(readlink -f "$2")
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+. "$(dirname "$0")/program.sh"
 cd "$work" || exit 2
-failed=0
-
-# expect CODE ARGUMENT...: runs the program; its outputs are left in out and err.
-expect() {
-    local code=$1 got=0
-    shift
-    timeout 60 "$program" "$@" >out 2>err || got=$?
-    [ "$got" -eq "$code" ] || { echo "exit code $got instead of $code: $*"; head -20 out err; failed=1; }
-}
-
-# says FILE TEXT: whether an output holds the text.
-says() {
-    grep -qF -e "$2" "$1" || { echo "\"$2\" is missing in std$1: $(head -3 "$1")"; failed=1; }
-}
 
 expect 0
 [ -s out ] && { echo "clean data, but:"; cat out; failed=1; }

@@ -1,33 +1,10 @@
 #!/usr/bin/env bash
 # sarnoth-missions as a script meets it: the same bytes each time, exit codes, and a game folder left as it was.
 # Usage: missions.sh PROGRAM GAME_FOLDER
-set -u
-program=$(readlink -f "$1")
-game=$(readlink -f "$2")
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-cd "$work" || exit 2
+. "$(dirname "$0")/program.sh"
 export TMPDIR=$work/tmp  # where the program makes its copies
-mkdir tmp
-failed=0
-
-complain() {
-    echo "$*"
-    failed=1
-}
-
-# expect CODE ARGUMENT...: runs the program; its outputs are left in out and err.
-expect() {
-    local code=$1 got=0
-    shift
-    timeout 240 "$program" "$@" >out 2>err || got=$?
-    [ "$got" -eq "$code" ] || complain "exit code $got instead of $code: $*"
-}
-
-# says FILE TEXT: whether an output holds the text.
-says() {
-    grep -qF -e "$2" "$1" || complain "\"$2\" is missing in std$1: $(head -3 "$1")"
-}
+mkdir "$TMPDIR"
+cd "$work" || exit 2
 
 cp -r "$game" game
 before=$(cd game && find . -type f -exec cksum {} +)

@@ -2,22 +2,9 @@
 # A map goes through the editor Tiled itself and comes back as it was. Exit code 77 where Tiled isn't installed.
 # The Tiled map that is kept beside the source must be the same map.
 # Usage: tiled.sh PROGRAM GAME_FOLDER KEPT_MAP.tmx
-set -u
-program=$(readlink -f "$1")
-game=$(readlink -f "$2")
+. "$(dirname "$0")/program.sh"
 kept=$(readlink -f "$3")
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
 cd "$work" || exit 2
-failed=0
-
-# expect CODE ARGUMENT...: runs the program; standard error is left in err.
-expect() {
-    local code=$1 got=0
-    shift
-    timeout 60 "$program" "$@" >out 2>err || got=$?
-    [ "$got" -eq "$code" ] || { echo "exit code $got instead of $code: $*"; cat err; failed=1; }
-}
 
 # same NAME: whether the map of this name is the game's, byte for byte.
 same() {
