@@ -1,6 +1,9 @@
 #include "platform/picture_file.h"
 
+#include <functional>
+#include <map>
 #include <memory>
+#include <string>
 
 #include "platform/files.h"
 #include "platform/run_time_error.h"
@@ -37,5 +40,15 @@ Picture DecodePicture(std::string_view content, std::string_view name) {
 }
 
 PictureRef ReadPictureFile(std::string_view name) {
-    return std::make_shared<Picture>(DecodePicture(ReadWholeFile(name), name));
+    // Decoding is dear, and the same few pictures are asked for thousands of times in a mission. A picture is
+    // never changed once it was read.
+    static std::map<std::string, PictureRef, std::less<>> read;
+    static std::string folder;
+    if (const std::string now = ProgramPath("").native(); now != folder) {
+        read.clear();
+        folder = now;
+    }
+    const auto known = read.find(name);
+    if (known != read.end()) return known->second;
+    return read[std::string(name)] = std::make_shared<Picture>(DecodePicture(ReadWholeFile(name), name));
 }

@@ -8,5 +8,6 @@
 /// The picture in `content`; `name` stands for it in messages. Throws RunTimeError (BadData).
 Picture DecodePicture(std::string_view content, std::string_view name);
 
-/// The picture of a file under the program's folder, named as "\pic\weapon.gif". Throws RunTimeError.
+/// The picture of a file under the program's folder, named as "\pic\weapon.gif"; a file is read once. Throws
+/// RunTimeError.
 PictureRef ReadPictureFile(std::string_view name);

@@ -11,17 +11,23 @@ constexpr int SpaceKey = 32;
 // By facing: the arrows, Page Up, Page Down, End and Home.
 constexpr int StepKeys[] = {39, 37, 38, 40, 33, 34, 35, 36};
 
+void (*orderDoor)(const InputEvent&) = Dispatch;
+
 void ClickCell(int button, int cellX, int cellY) {
-    Dispatch({EventKind::MouseDown, "frmField.area", -1, button, 0,
-              static_cast<float>(cellX * CellSize + HalfCell),
-              static_cast<float>(cellY * CellSize + HalfCell)});
+    orderDoor({EventKind::MouseDown, "frmField.area", -1, button, 0,
+               static_cast<float>(cellX * CellSize + HalfCell),
+               static_cast<float>(cellY * CellSize + HalfCell)});
 }
 
 void PressKey(int key) {
-    Dispatch({EventKind::KeyDown, "frmField", -1, key});
+    orderDoor({EventKind::KeyDown, "frmField", -1, key});
 }
 
 }  // namespace
+
+void SendOrdersTo(void (*door)(const InputEvent&)) {
+    orderDoor = door;
+}
 
 void SelectOrWalkTo(int cellX, int cellY) {
     ClickCell(LeftButton, cellX, cellY);
@@ -36,7 +42,7 @@ void TurnOrStepTo(Facing facing) {
 }
 
 void TakeStance(Stance stance) {
-    Dispatch({EventKind::Click, "frmField.imgStance", stance});
+    orderDoor({EventKind::Click, "frmField.imgStance", stance});
 }
 
 void PassToNext() {
@@ -44,9 +50,9 @@ void PassToNext() {
 }
 
 void EndTurn() {
-    Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
+    orderDoor({EventKind::Click, "frmField.cmdNextTurn"});
 }
 
 void LeaveMission() {
-    Dispatch({EventKind::Click, "frmField.mnuExit"});
+    orderDoor({EventKind::Click, "frmField.mnuExit"});
 }

@@ -1,7 +1,11 @@
 // The orders that a player in code gives, each through the door for input like a person's.
 #pragma once
 
+#include "platform/input_event.h"
 #include "state/state.h"
+
+/// Where orders go from now on; the game's own door until then.
+void SendOrdersTo(void (*door)(const InputEvent&));
 
 /// A left or right click on the middle of a cell.
 void SelectOrWalkTo(int cellX, int cellY);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <functional>
 #include <limits>
 #include <stdexcept>
 
@@ -13,21 +12,6 @@
 #include "view/field_form.h"
 
 namespace {
-
-// The turns that the squad has begun, by the log, which is read on from where it was read up to.
-class TurnCount {
-  public:
-    int Now() {
-        const auto& lines = frmField.cmbLog.List;
-        for (; read < lines.size(); ++read)
-            if (lines[read] == "New turn for team #0") ++turns;
-        return turns;
-    }
-
-  private:
-    std::size_t read = 0;
-    int turns = 0;
-};
 
 // Whether no comrade stands between two cells.
 bool LineIsClear(const Unit& from, const Unit& to) {
@@ -75,7 +59,7 @@ void PlaySoldier(int soldier) {
 
 // Orders for each soldier, and the end of the turn, unless the last one's orders have brought it already. A
 // soldier without time has handed over to the next by himself.
-void PlayTurn(TurnCount& count) {
+void PlaySimpleTurn(TurnCount& count) {
     const int turn = count.Now();
     for (int i = 0; i <= teamLast[SquadTeam] && count.Now() == turn; ++i) {
         const int soldier = curUnit;
@@ -85,10 +69,10 @@ void PlayTurn(TurnCount& count) {
     if (count.Now() == turn) EndTurn();
 }
 
-void PlayToTheEnd(int turns, TurnCount& count, const std::function<void()>& playTurn) {
+void PlayToTheEnd(int turns, ScriptedPlayer& player) {
     try {
-        while (count.Now() <= turns)
-            playTurn();
+        while (player.Turns() <= turns)
+            player.PlayTurn();
         LeaveMission();
     } catch (const ProcessEnded& end) {
         if (end.exitCode == 0) return;
@@ -119,14 +103,27 @@ std::string Verdict() {
 
 }  // namespace
 
+int TurnCount::Now() {
+    const auto& lines = frmField.cmbLog.List;
+    for (; read < lines.size(); ++read)
+        if (lines[read] == "New turn for team #0") ++turns;
+    return turns;
+}
+
+ScriptedPlayer::ScriptedPlayer(const Habits* habits) {
+    if (habits != nullptr) squad.emplace(*habits, [this] { return count.Now(); });
+}
+
+void ScriptedPlayer::PlayTurn() {
+    if (squad)
+        squad->PlayTurn();
+    else
+        PlaySimpleTurn(count);
+}
+
 MissionResult PlayMission(int turns, const Habits* habits) {
-    TurnCount count;
-    if (habits != nullptr) {
-        SquadPlayer player(*habits, [&count] { return count.Now(); });
-        PlayToTheEnd(turns, count, [&player] { player.PlayTurn(); });
-    } else {
-        PlayToTheEnd(turns, count, [&count] { PlayTurn(count); });
-    }
-    const int had = std::min(count.Now(), turns);  // one more has begun when he leaves
+    ScriptedPlayer player(habits);
+    PlayToTheEnd(turns, player);
+    const int had = std::min(player.Turns(), turns);  // one more has begun when he leaves
     return {Verdict(), had, WoundedOfSquad(), DeadOf(SquadTeam), DeadOf(EnemyTeam)};
 }

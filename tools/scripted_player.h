@@ -3,9 +3,39 @@
 // not; the players with habits know only what a person would.
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
-struct Habits;
+#include "tools/squad_player.h"
+
+/// The turns that the squad has begun, by the log, which is read on from where it was read up to.
+class TurnCount {
+  public:
+    int Now();
+
+  private:
+    std::size_t read = 0;
+    int turns = 0;
+};
+
+/// Plays the running mission turn by turn.
+class ScriptedPlayer {
+  public:
+    /// `habits` is the player's row, nullptr for the simple one.
+    explicit ScriptedPlayer(const Habits* habits);
+    ScriptedPlayer(const ScriptedPlayer&) = delete;
+    ScriptedPlayer& operator=(const ScriptedPlayer&) = delete;
+
+    int Turns() { return count.Now(); }
+
+    /// The orders of one turn of the squad's, to its end. What ends the process comes through.
+    void PlayTurn();
+
+  private:
+    TurnCount count;
+    std::optional<SquadPlayer> squad;  // none: the simple player
+};
 
 struct MissionResult {
     std::string verdict;   // as the end's message names it: "Victory", "Defeat" or "Withdrawal"
@@ -16,7 +46,6 @@ struct MissionResult {
 };
 
 /// Plays the running mission, in which the squad has the turn, to its end; after `turns` turns of the squad
-/// the player leaves by the menu. `habits` is the player's row, nullptr for the simple one. The host's
-/// EndProcess must throw ProcessEnded; one with another exit code than 0 comes through, as does any
-/// RunTimeError.
+/// the player leaves by the menu. The host's EndProcess must throw ProcessEnded; one with another exit code
+/// than 0 comes through, as does any RunTimeError.
 MissionResult PlayMission(int turns, const Habits* habits = nullptr);

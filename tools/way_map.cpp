@@ -1,33 +1,38 @@
 #include "tools/way_map.h"
 
+#include <algorithm>
 #include <vector>
 
+#include "data/terrain.h"
 #include "field/geometry.h"
 
+namespace {
+
+constexpr int Closed = WayMap::NoWay + 1;
+
+}  // namespace
+
 WayMap::WayMap(int goalX, int goalY) {
-    for (auto& row : steps)
-        row.fill(NoWay);
-    struct Place {
-        int x, y;
-    };
-    std::vector<Place> reached = {{goalX, goalY}};
-    const auto at = [this](int x, int y) -> int& {
-        return steps[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
-    };
-    at(goalX, goalY) = 0;
+    steps.fill(Closed);
+    for (int y = 0; y < FieldHeight; ++y)
+        for (int x = 0; x < FieldWidth; ++x)
+            if (LetsStepThrough(cellGrid[y][x])) steps[Index(x, y)] = NoWay;
+    std::vector<std::size_t> reached = {Index(goalX, goalY)};
+    reached.reserve(steps.size());
+    steps[reached[0]] = 0;
     for (std::size_t i = 0; i < reached.size(); ++i) {
-        const Place from = reached[i];
+        const std::size_t from = reached[i];
         for (const FacingWay& way : FacingWays) {
-            const Place to = {from.x + way.dx, from.y + way.dy};
-            if (!CellOpen("step", to.x, to.y) || at(to.x, to.y) != NoWay) continue;
-            at(to.x, to.y) = at(from.x, from.y) + 1;
+            const std::size_t to = from + static_cast<std::size_t>(way.dy * Stride + way.dx);
+            if (steps[to] != NoWay) continue;
+            steps[to] = steps[from] + 1;
             reached.push_back(to);
         }
     }
 }
 
 int WayMap::StepsFrom(int x, int y) const {
-    return InField(x, y) ? steps[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] : NoWay;
+    return InField(x, y) ? std::min<int>(steps[Index(x, y)], NoWay) : NoWay;
 }
 
 int WayMap::BestStep(const Unit& unit) const {

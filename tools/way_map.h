@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 #include "state/state.h"
 
@@ -21,5 +22,9 @@ class WayMap {
     int BestStep(const Unit& unit) const;
 
   private:
-    std::array<std::array<int, FieldWidth>, FieldHeight> steps;
+    // With a border of closed cells around the field, so that a search needs no other bounds.
+    static constexpr int Stride = FieldWidth + 2;
+    static std::size_t Index(int x, int y) { return static_cast<std::size_t>((y + 1) * Stride + x + 1); }
+
+    std::array<int, static_cast<std::size_t>(Stride) * (FieldHeight + 2)> steps;
 };

@@ -25,9 +25,13 @@ constexpr Command Commands[] = {
      "it.\n"},
     {"soak", [](const lab::Words& words, char** /*arguments*/) { return lab::SoakSeeds(words); },
      "soak [--seeds A..B] [--events N] [--jobs J] [--json] [--record FOLDER] [--game FOLDER]\n"
-     "  Plays missions of N random events (400) in J processes at once, and looks after each event whether "
-     "all is in\n"
-     "  order. A mission that isn't is recorded into FOLDER when one is named.\n"},
+     "  Plays missions of N events (600) at most in J processes at once, turns to win them with random "
+     "events between "
+     "and\n"
+     "  within the orders, and looks after each whether all is in order. A mission that isn't is recorded "
+     "into "
+     "FOLDER\n"
+     "  when one is named.\n"},
     {"shot", lab::Shot,
      "shot FILE.png [--seed N] [--window field|info|map] [--game FOLDER]\n"
      "  Paints a window of a new game into FILE.png; needs no display.\n"},

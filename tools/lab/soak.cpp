@@ -1,9 +1,11 @@
 #include "tools/lab/soak.h"
 
+#include <algorithm>
 #include <chrono>
 #include <fstream>
-#include <functional>
+#include <iterator>
 #include <stdexcept>
+#include <string_view>
 
 #include "data/weapons_file.h"
 #include "personal/info_form.h"
@@ -13,6 +15,9 @@
 #include "tools/lab/random_player.h"
 #include "tools/lab/recorder.h"
 #include "tools/lab/recording.h"
+#include "tools/orders.h"
+#include "tools/scripted_player.h"
+#include "view/events.h"
 #include "view/field_form.h"
 
 namespace {
@@ -66,9 +71,25 @@ std::string StrayDrag() {
     return carries == (frmInfo.imgDrag.Picture != nullptr) ? "" : "the pointer doesn't show what it carries";
 }
 
+// The tree top over who stands in a forest stays until he leaves it.
 std::string StrayOverlay() {
-    if (frmField.imgBlowup.Visible || frmField.imgCover.Visible) return "an overlay was left on the field";
+    if (frmField.imgBlowup.Visible) return "an animation was left on the field";
     return frmField.shpSelect.Visible ? "the selection's frame was left on the field" : "";
+}
+
+// A flight draws its trail in a grey that no picture of the game has, and takes it away again.
+std::string LeftTrail() {
+    constexpr Colour TrailGrey = Rgb(128, 128, 128);
+    Picture& area = frmField.area.canvas;
+    const Rectangle changed = area.TakeChanged();
+    for (int y = changed.top; y < changed.top + changed.height; ++y) {
+        const Colour* from = area.Row(y) + changed.left;
+        const Colour* found = std::find(from, from + changed.width, TrailGrey);
+        if (found != from + changed.width)
+            return "a trail was left on the field at " + std::to_string(found - area.Row(y)) + "," +
+                   std::to_string(y);
+    }
+    return "";
 }
 
 // Rifles and pistols are never used up; only the catalogue makes and its bin takes them.
@@ -95,13 +116,15 @@ bool IsByTheRules(const RunTimeError& error) {
            error.About().ends_with("is not within 0 to 255");
 }
 
+void GiveToRecorder(const InputEvent& event) {
+    running->Dispatch(event);
+}
+
 // While a soldier's file is open the random player goes on in it, and puts everything away in the end.
 class SoakHost : public HeadlessHost {
   public:
     SoakHost(Recorder& by, RandomPlayer& ofPlayer)
-        : HeadlessHost([](const InputEvent& event) { running->Dispatch(event); }),
-          recorder(by),
-          player(ofPlayer) {}
+        : HeadlessHost(GiveToRecorder), recorder(by), player(ofPlayer) {}
 
     void ShowModal(Form& form) override {
         constexpr int EventsInside = 40;
@@ -128,15 +151,24 @@ class SoakHost : public HeadlessHost {
     RandomPlayer& player;
 };
 
-// One mission in the making.
+// One mission in the making: turns played to win it, with anything that comes to a player's mind between and
+// in the middle of his orders.
 class Mission {
   public:
     Mission(std::uint32_t seed, int events, Recorder::Sink sink)
-        : limit(events), player(seed ^ 0x5A17U), recorder(std::move(sink)), host(recorder, player) {
+        : limit(events),
+          player(seed ^ 0x5A17U),
+          recorder(std::move(sink)),
+          host(recorder, player),
+          soldier(HabitsNamed(Players[seed % std::size(Players)])) {
         running = &recorder;
+        SendOrdersTo(GiveToRecorder);
         result.seed = seed;
     }
-    ~Mission() { running = nullptr; }
+    ~Mission() {
+        SendOrdersTo(Dispatch);
+        running = nullptr;
+    }
     Mission(const Mission&) = delete;
     Mission& operator=(const Mission&) = delete;
 
@@ -146,7 +178,7 @@ class Mission {
             guns = CountGuns();
             while (recorder.Events() < limit && result.fault.empty())
                 Step();
-            result.end = "running";
+            if (result.fault.empty()) Leave();
         } catch (const ProcessEnded&) {
             result.end = frmField.cmbLog.Text.substr(0, frmField.cmbLog.Text.find('.'));
         } catch (const RunTimeError& error) {
@@ -160,18 +192,28 @@ class Mission {
 
   private:
     void Step() {
-        // Some of what he does falls into the middle of the order before.
+        // Some of what he does falls into the middle of the orders that follow.
         while (player.Draw(3) == 0)
             host.Queue(player.Next(), host.pumps + 1 + player.Draw(40));
+        const bool wholeTurn = player.Draw(TurnsEvery) == 0;
         const InputEvent event = player.Next();
-        recorder.Dispatch(event);
-        if (recorder.LongestEvent() > HandlerLimit)
-            result.fault = "an event took over a second by itself, the last one: " + EventText(event);
+        if (wholeTurn)
+            soldier.PlayTurn();
         else
-            Look(event);
+            recorder.Dispatch(event);
+        const std::string last = wholeTurn ? "a turn" : EventText(event);
+        if (recorder.LongestEvent() > HandlerLimit)
+            result.fault = "an event took over a second by itself, the last one: " + last;
+        else
+            Look(last);
     }
 
-    void Look(const InputEvent& event) {
+    void Leave() {
+        LeaveMission();
+        result.fault = "\"Exit\" didn't end the mission";
+    }
+
+    void Look(const std::string& last) {
         result.fault = Disorder();
         if (result.fault.empty() && frmInfo.Visible) return;  // things are on their way
         const int now = CountGuns();
@@ -179,13 +221,17 @@ class Mission {
         if (result.fault.empty() && now != guns && !catalogue)
             result.fault = std::to_string(guns) + " guns have become " + std::to_string(now);
         guns = now;
-        if (!result.fault.empty()) result.fault += " after " + EventText(event);
+        if (!result.fault.empty()) result.fault += " after " + last;
     }
+
+    static constexpr std::string_view Players[] = {"simple", "sensible", "careless"};
+    static constexpr int TurnsEvery = 12;  // one of as many things that he does is a whole turn
 
     const int limit;
     RandomPlayer player;
     Recorder recorder;
     SoakHost host;
+    ScriptedPlayer soldier;
     SoakedMission result;
     int guns = 0;
 };
@@ -193,13 +239,14 @@ class Mission {
 }  // namespace
 
 std::string Disorder() {
-    for (const auto& look : {MisplacedUnit, MisplacedOccupant, OpenOperation, StrayDrag, StrayOverlay})
+    for (const auto& look :
+         {MisplacedUnit, MisplacedOccupant, OpenOperation, StrayDrag, StrayOverlay, LeftTrail})
         if (std::string found = look(); !found.empty()) return found;
     return "";
 }
 
 SoakedMission Soak(std::uint32_t seed, int events, const std::filesystem::path& recording) {
-    if (recording.empty()) return Mission(seed, events, [](const std::string&) {}).Play();
+    if (recording.empty()) return Mission(seed, events, nullptr).Play();
     std::ofstream file(recording);
     file << RecordingHead(seed) << "\n";
     return Mission(seed, events, [&file](const std::string& line) { file << line << "\n"; }).Play();

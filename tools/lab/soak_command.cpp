@@ -24,7 +24,7 @@ namespace {
 struct Plan {
     std::uint32_t firstSeed = 1;
     std::uint32_t lastSeed = 100;
-    int events = 400;
+    int events = 600;
     std::uint32_t jobs = 1;
     std::string recordings;  // folder, empty for none
     std::string game;
@@ -47,7 +47,7 @@ Plan ReadPlan(const Words& words) {
     plan.firstSeed = ReadNumber(seeds.substr(0, dots));
     plan.lastSeed = ReadNumber(seeds.substr(dots + 2));
     if (plan.firstSeed > plan.lastSeed) throw UsageError("--seeds counts upward: " + seeds);
-    plan.events = static_cast<int>(std::min(given.Number("--events", 400), 1'000'000U));
+    plan.events = static_cast<int>(std::min(given.Number("--events", 600), 1'000'000U));
     plan.jobs = std::clamp(given.Number("--jobs", 1), 1U, 64U);
     plan.recordings = given.Text("--record", "");
     plan.game = given.Text("--game", GAME_FOLDER);
@@ -76,6 +76,9 @@ SoakedMission MissionFrom(const std::string& line) {
     return mission;
 }
 
+// Ends a process whose mission hangs, which is then told as the mission's fault.
+constexpr unsigned MissionSeconds = 600;
+
 // One process: every seed of its own, told before ("begin") and after.
 void Work(const Plan& plan, std::uint32_t job, std::FILE* to) {
     const GameCopy copy(plan.game);
@@ -84,6 +87,7 @@ void Work(const Plan& plan, std::uint32_t job, std::FILE* to) {
         const auto number = static_cast<std::uint32_t>(seed);
         std::fprintf(to, "begin %u\n", number);
         std::fflush(to);
+        alarm(MissionSeconds);
         const SoakedMission mission = Soak(number, plan.events);
         if (!mission.fault.empty() && !plan.recordings.empty())
             Soak(number, plan.events, plan.recordings + "/" + std::to_string(number) + ".rec");

@@ -72,7 +72,7 @@ ExitCode PlayAll(const MissionOptions& options, const GameCopy& copy) {
     return ended ? AllEnded : SomeFailed;
 }
 
-ExitCode Run(const MissionOptions& options) {
+ExitCode PlayMissions(const MissionOptions& options) {
     const GameCopy copy(options.game.empty() ? GAME_FOLDER : options.game);
     SetProgramFolder(copy.Path());
     return options.log ? PrintLog(options, copy) : PlayAll(options, copy);
@@ -86,7 +86,7 @@ int main(int count, char** arguments) try {
         std::cout << MissionUsage;
         return AllEnded;
     }
-    return Run(options);
+    return PlayMissions(options);
 } catch (const UsageError& error) {
     std::cerr << "sarnoth-missions: " << error.what() << "\nsarnoth-missions --help tells more.\n";
     return WrongUsage;
