@@ -3,27 +3,23 @@
 
 #include <string>
 
+#include "bench/stage.h"
 #include "combat/actions.h"
 #include "combat/things.h"
-#include "state/setup.h"
 #include "state/state.h"
 #include "view/field_form.h"
 
 namespace {
 
-// The first soldier at the west end of a long clear row, with a thing in his hand under a mode of it.
+constexpr Spot Shooter = {10, 24};
+
+// The first soldier alone on open ground with room to the east, with a thing in his hand under a mode of it.
 void Prepare(const char* name, const std::string& mode) {
-    Main(1);
-    for (int x = 10; x < FieldWidth; ++x) {
-        cellGrid[24][x] = Cell();
-        cellGrid[24][x].occupant = -1;
-    }
+    StartGame();
+    ClearGround(0, 0, FieldWidth, FieldHeight);
     curUnit = 0;
+    PutUnit(0, Shooter, East);
     Unit& unit = UnitTable[0];
-    unit.cellX = 10;
-    unit.cellY = 24;
-    unit.pixelX = unit.cellX * CellSize;
-    unit.pixelY = unit.cellY * CellSize;
     unit.items[0] = InvItem();
     unit.items[0].name = name;
     unit.items[0].count = 1;
@@ -32,12 +28,13 @@ void Prepare(const char* name, const std::string& mode) {
         if (frmField.comboMode.List[i] == mode) ChooseMode(static_cast<int>(i));
 }
 
-void Fire(int cells) {
+void Fire(int cells, int rounds = 200) {
     Unit& unit = UnitTable[0];
     unit.time = 900;
-    unit.handRounds = 200;
+    unit.energy = 900;
+    unit.handRounds = rounds;
     unit.hand.durab = 900;
-    unit.items[0].roundsMain = unit.items[0].roundsSecond = 200;
+    unit.items[0].roundsMain = unit.items[0].roundsSecond = rounds;
     frmField.cmbLog.List.clear();
     ActOnTarget(unit.pixelX + cells * CellSize, unit.pixelY + HalfCell);
 }
@@ -48,6 +45,20 @@ void FullAutoOver40Cells(benchmark::State& state) {
         Fire(40);
 }
 BENCHMARK(FullAutoOver40Cells)->Unit(benchmark::kMicrosecond);
+
+void SingleShotOver40Cells(benchmark::State& state) {
+    Prepare("m249", "Full auto");
+    for (auto _ : state)
+        Fire(40, 1);
+}
+BENCHMARK(SingleShotOver40Cells)->Unit(benchmark::kMicrosecond);
+
+void BurstByLength(benchmark::State& state) {
+    Prepare("m249", "Full auto");
+    for (auto _ : state)
+        Fire(40, static_cast<int>(state.range(0)));
+}
+BENCHMARK(BurstByLength)->RangeMultiplier(2)->Range(1, 16)->Unit(benchmark::kMicrosecond);
 
 void ShotgunBlast(benchmark::State& state) {
     Prepare("spas", "Aimed shot");

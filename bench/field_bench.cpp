@@ -2,35 +2,18 @@
 #include <benchmark/benchmark.h>
 #include <libtcod/libtcod.hpp>
 
-#include <random>
+#include <utility>
 #include <vector>
 
+#include "bench/stage.h"
 #include "field/geometry.h"
 #include "field/path_search.h"
 #include "field/sight.h"
 #include "field/sightings.h"
 #include "platform/headless_host.h"
-#include "state/setup.h"
 #include "state/state.h"
 
 namespace {
-
-struct Place {
-    int x;
-    int y;
-};
-
-// Cells that a unit can stand on, the same for every run.
-std::vector<Place> Standings(int count) {
-    std::mt19937 generator(5);
-    std::vector<Place> places;
-    while (static_cast<int>(places.size()) < count) {
-        const int x = 1 + static_cast<int>(generator() % (FieldWidth - 1));
-        const int y = 1 + static_cast<int>(generator() % (FieldHeight - 1));
-        if (CellFreeToStep(x, y)) places.push_back({x, y});
-    }
-    return places;
-}
 
 TCODMap PeerMap() {
     TCODMap map(FieldWidth, FieldHeight);
@@ -42,10 +25,9 @@ TCODMap PeerMap() {
 
 constexpr int SightRadius = 26;  // cells, as far as our fan reaches
 
-// A whole look as the game does it: the enemies on the way are noted, the window is told.
-void Look(benchmark::State& state) {
-    Main(1);
-    const std::vector<Place> places = Standings(64);
+// Looks as the game does them, with the enemies on the way noted and the window told.
+void LookAround(benchmark::State& state) {
+    const std::vector<Spot> places = Standings(64);
     Unit& looker = UnitTable[0];
     curUnit = 0;
     std::size_t i = 0;
@@ -57,24 +39,36 @@ void Look(benchmark::State& state) {
         ++i;
     }
 }
+
+void Look(benchmark::State& state) {
+    StartGame();
+    LookAround(state);
+}
 BENCHMARK(Look);
 
+void LookByFill(benchmark::State& state) {
+    StartGame();
+    WallOff(static_cast<int>(state.range(0)));
+    LookAround(state);
+}
+BENCHMARK(LookByFill)->DenseRange(0, 40, 10);
+
 void PeerFieldOfView(benchmark::State& state) {
-    Main(1);
+    StartGame();
     TCODMap map = PeerMap();
-    const std::vector<Place> places = Standings(64);
+    const std::vector<Spot> places = Standings(64);
     std::size_t i = 0;
     for (auto _ : state) {
-        const Place& from = places[i++ % places.size()];
+        const Spot& from = places[i++ % places.size()];
         map.computeFov(from.x, from.y, SightRadius, true, static_cast<TCOD_fov_algorithm_t>(state.range(0)));
     }
 }
 BENCHMARK(PeerFieldOfView)->ArgName("algorithm")->DenseRange(FOV_BASIC, FOV_SYMMETRIC_SHADOWCAST);
 
 // The same walks for both: every pair that a path joins.
-std::vector<std::pair<Place, Place>> Walks() {
-    std::vector<std::pair<Place, Place>> walks;
-    const std::vector<Place> places = Standings(200);
+std::vector<std::pair<Spot, Spot>> Walks() {
+    std::vector<std::pair<Spot, Spot>> walks;
+    const std::vector<Spot> places = Standings(200);
     TCODMap map = PeerMap();
     TCODPath path(&map, 1.0F);
     for (std::size_t i = 0; i + 1 < places.size(); i += 2)
@@ -83,20 +77,16 @@ std::vector<std::pair<Place, Place>> Walks() {
     return walks;
 }
 
-void Search(benchmark::State& state) {
-    Main(1);
+void SearchWalks(benchmark::State& state) {
     const auto walks = Walks();
     std::size_t i = 0;
     for (auto _ : state) {
         const auto& [from, to] = walks[i++ % walks.size()];
         benchmark::DoNotOptimize(SearchPath(from.x, from.y, to.x, to.y, 250, [] { TheHost().PumpEvents(); }));
     }
-    state.SetLabel(std::to_string(walks.size()) + " walks");
 }
-BENCHMARK(Search);
 
-void PeerAStar(benchmark::State& state) {
-    Main(1);
+void PeerSearchWalks(benchmark::State& state) {
     const auto walks = Walks();
     TCODMap map = PeerMap();
     TCODPath path(&map, 1.0F);
@@ -106,6 +96,31 @@ void PeerAStar(benchmark::State& state) {
         benchmark::DoNotOptimize(path.compute(from.x, from.y, to.x, to.y));
     }
 }
+
+void Search(benchmark::State& state) {
+    StartGame();
+    SearchWalks(state);
+}
+BENCHMARK(Search);
+
+void PeerAStar(benchmark::State& state) {
+    StartGame();
+    PeerSearchWalks(state);
+}
 BENCHMARK(PeerAStar);
+
+void SearchByFill(benchmark::State& state) {
+    StartGame();
+    WallOff(static_cast<int>(state.range(0)));
+    SearchWalks(state);
+}
+BENCHMARK(SearchByFill)->DenseRange(0, 40, 10);
+
+void PeerAStarByFill(benchmark::State& state) {
+    StartGame();
+    WallOff(static_cast<int>(state.range(0)));
+    PeerSearchWalks(state);
+}
+BENCHMARK(PeerAStarByFill)->DenseRange(0, 40, 10);
 
 }  // namespace

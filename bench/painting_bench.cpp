@@ -1,10 +1,10 @@
 // How long painting and setting up take.
 #include <benchmark/benchmark.h>
 
-#include "data/map.h"
-#include "state/setup.h"
+#include "bench/stage.h"
 #include "state/state.h"
 #include "view/field_form.h"
+#include "view/mini_map.h"
 #include "view/painting.h"
 #include "view/unit_painting.h"
 
@@ -12,12 +12,12 @@ namespace {
 
 void NewGameHeadless(benchmark::State& state) {
     for (auto _ : state)
-        Main(1);
+        StartGame();
 }
 BENCHMARK(NewGameHeadless)->Unit(benchmark::kMillisecond);
 
 void PaintWholeMap(benchmark::State& state) {
-    Main(1);
+    StartGame();
     fieldBusy = True;
     for (auto _ : state)
         for (int y = 0; y < FieldHeight; ++y)
@@ -28,15 +28,29 @@ void PaintWholeMap(benchmark::State& state) {
 BENCHMARK(PaintWholeMap)->Unit(benchmark::kMillisecond);
 
 void RepaintCell(benchmark::State& state) {
-    Main(1);
+    StartGame();
     for (auto _ : state)
         PaintCell(40, 20, frmField.area.canvas);
 }
 BENCHMARK(RepaintCell);
 
+void MiniMapOfWholeField(benchmark::State& state) {
+    StartGame();
+    for (auto _ : state)
+        picStretch(frmField.area.canvas, frmField.picAreaMap.canvas, MiniMapRatio);
+}
+BENCHMARK(MiniMapOfWholeField)->Unit(benchmark::kMillisecond);
+
+void MiniMapCell(benchmark::State& state) {
+    StartGame();
+    for (auto _ : state)
+        picStretchSquare(frmField, 40, 20);
+}
+BENCHMARK(MiniMapCell);
+
 // One frame of a soldier drawn in place; a step is twenty of them.
 void PaintUnitFrame(benchmark::State& state) {
-    Main(1);
+    StartGame();
     for (auto _ : state)
         PaintUnit(0, 0);
 }
