@@ -1,39 +1,17 @@
 // sarnoth-check: tells every fault in the game's data.
 #include <iostream>
 
-#include "tools/check/checker.h"
-#include "tools/check/options.h"
+#include "tools/check/run_check.h"
+#include "tools/usage_error.h"
 
 namespace {
 
-enum ExitCode { NoFault, Faults, WrongUsage };
-
-Findings CheckAll(const CheckOptions& options) {
-    const bool both = options.game.empty() && options.sources.empty();
-    const std::filesystem::path game = options.game.empty() ? GAME_FOLDER : options.game;
-    Findings findings;
-    if (both || !options.sources.empty())
-        findings = CheckSources(both ? SOURCES_FOLDER : options.sources, game);
-    if (both || !options.game.empty()) {
-        const Findings inGame = CheckGame(game);
-        findings.insert(findings.end(), inGame.begin(), inGame.end());
-    }
-    return findings;
-}
+enum ExitCode { Faults = 1, WrongUsage };
 
 }  // namespace
 
 int main(int count, char** arguments) try {
-    const CheckOptions options = ReadCheckOptions({arguments + 1, arguments + count});
-    if (options.help) {
-        std::cout << CheckUsage;
-        return NoFault;
-    }
-    const Findings findings = CheckAll(options);
-    std::cout << (options.json ? FindingsJson(findings) : FindingsText(findings));
-    if (!options.json && !findings.empty())
-        std::cerr << findings.size() << (findings.size() == 1 ? " fault\n" : " faults\n");
-    return findings.empty() ? NoFault : Faults;
+    return RunCheck({arguments + 1, arguments + count}, {GAME_FOLDER, SOURCES_FOLDER});
 } catch (const UsageError& error) {
     std::cerr << "sarnoth-check: " << error.what() << "\nsarnoth-check --help tells more.\n";
     return WrongUsage;

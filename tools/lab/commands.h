@@ -18,6 +18,12 @@ int ReplayFile(const Words& words, char** arguments);
 /// Random missions in several processes.
 int SoakSeeds(const Words& words);
 
+/// The data's faults, as sarnoth-check tells them.
+int Check(const Words& words);
+
+/// The odds on the firing range.
+int Odds(const Words& words);
+
 /// Paints a window into a file.
 int Shot(const Words& words, char** arguments);
 

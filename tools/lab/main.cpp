@@ -1,4 +1,5 @@
-// sarnoth-lab: the makers' program around the game: plays and records, replays, soaks, paints.
+// sarnoth-lab: the makers' program around the game: plays and records, replays, soaks, checks, measures the
+// odds, paints.
 #include <algorithm>
 #include <iostream>
 
@@ -32,6 +33,14 @@ constexpr Command Commands[] = {
      "into "
      "FOLDER\n"
      "  when one is named.\n"},
+    {"check", [](const lab::Words& words, char** /*arguments*/) { return lab::Check(words); },
+     "check [--game FOLDER] [--sources FOLDER] [--json]\n"
+     "  Tells all faults in the game's data and their sources, as sarnoth-check does.\n"},
+    {"odds", [](const lab::Words& words, char** /*arguments*/) { return lab::Odds(words); },
+     "odds [--weapon NAME] [--trials N] [--seed N] [--json | --out FOLDER] [--game FOLDER]\n"
+     "  Fires N orders (1000) for each weapon, fire mode, distance, stance and facing by the game's rules,\n"
+     "  and prints what they come to as tables; with --out writes tables and charts into FOLDER. NAME is a\n"
+     "  key of weapons.dat.\n"},
     {"shot", lab::Shot,
      "shot FILE.png [--seed N] [--window field|info|map] [--game FOLDER]\n"
      "  Paints a window of a new game into FILE.png; needs no display.\n"},

@@ -1,0 +1,92 @@
+#include "tools/lab/odds_study.h"
+
+#include <algorithm>
+#include <array>
+#include <sstream>
+#include <string_view>
+
+#include "tools/json_text.h"
+
+namespace lab {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> HarmlessModes = {"Dig", "Fill", "Fold", "Unfold"};
+
+bool IsHarmless(const std::string& mode) {
+    return std::find(HarmlessModes.begin(), HarmlessModes.end(), mode) != HarmlessModes.end();
+}
+
+std::string DrillJson(const Drill& drill) {
+    std::ostringstream json;
+    json << R"("weapon": )" << JsonQuoted(drill.weapon) << R"(, "mode": )" << drill.mode << R"(, "east": )"
+         << drill.east << R"(, "south": )" << drill.south << R"(, "shooterStance": )" << drill.shooterStance
+         << R"(, "targetStance": )" << drill.targetStance << R"(, "targetFacing": )" << drill.targetFacing
+         << R"(, "screen": )" << JsonQuoted(drill.screen.name);
+    return json.str();
+}
+
+std::string ScoreJson(const Score& score) {
+    std::ostringstream json;
+    json << R"("orders": )" << score.orders << R"(, "hitting": )" << score.hitting << R"(, "hits": )"
+         << score.hits << R"(, "damage": )" << score.damage << R"(, "disabled": )" << score.disabled
+         << R"(, "killed": )" << score.killed << R"(, "time": )" << score.time << R"(, "energy": )"
+         << score.energy;
+    return json.str();
+}
+
+}  // namespace
+
+OddsStudy::OddsStudy(FiringRange& on, int toFire, std::uint32_t fromSeed)
+    : range(on), orders(toFire), seed(fromSeed) {}
+
+const Score& OddsStudy::Of(const Drill& drill) {
+    const auto known =
+        std::find_if(fired.begin(), fired.end(), [&drill](const Fired& one) { return one.drill == drill; });
+    if (known != fired.end()) return known->score;
+    return fired.emplace_back(Fired{drill, range.Fire(drill, orders, seed)}).score;
+}
+
+std::vector<ToldOrder> OddsStudy::OrdersOf(const std::string& weapon, const std::vector<int>& distances) {
+    std::vector<ToldOrder> told;
+    std::vector<std::vector<Score>> scores;
+    const std::vector<std::string> modes = range.ModesOf(weapon);
+    for (std::size_t mode = 0; mode < modes.size(); ++mode) {
+        if (IsHarmless(modes[mode])) continue;
+        std::vector<Score> ofMode;
+        ofMode.reserve(distances.size());
+        for (const int distance : distances)
+            ofMode.push_back(Of({.weapon = weapon, .mode = static_cast<int>(mode), .east = distance}));
+        const auto same = std::find(scores.begin(), scores.end(), ofMode);
+        if (same != scores.end()) {
+            told[static_cast<std::size_t>(same - scores.begin())].modes += ", " + modes[mode];
+        } else {
+            told.push_back({weapon, static_cast<int>(mode), modes[mode]});
+            scores.push_back(ofMode);
+        }
+    }
+    return told;
+}
+
+std::string OddsStudy::Json() const {
+    std::ostringstream json;
+    json << R"({"orders": )" << orders << R"(, "seed": )" << seed << R"(, "shooter": )"
+         << JsonQuoted(range.Shooter().name) << R"(, "drills": [)";
+    const char* separator = "\n  ";
+    for (const Fired& one : fired) {
+        json << separator << "{" << DrillJson(one.drill) << ", " << ScoreJson(one.score) << "}";
+        separator = ",\n  ";
+    }
+    json << "\n]}\n";
+    return json.str();
+}
+
+double PercentOf(int count, const Score& score) {
+    return 100.0 * MeanOf(count, score);
+}
+
+double MeanOf(int sum, const Score& score) {
+    return static_cast<double>(sum) / score.orders;
+}
+
+}  // namespace lab
