@@ -4,6 +4,7 @@
 packages_play="cmake ninja-build g++ ccache pkg-config qt6-base-dev libsdl2-mixer-dev libstb-dev libgif-dev libpugixml-dev fonts-dejavu-core"
 packages_check="$packages_play sox libgtest-dev libbenchmark-dev libtcod-dev"
 packages_lint="clang-format clang-tidy"
+packages_clang="clang"
 
 # need PURPOSE...: installs what is missing, as root or through sudo; without either it says what and stops.
 need() {

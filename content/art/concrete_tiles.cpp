@@ -2,6 +2,7 @@
 #include "grounds.h"
 #include "noise.h"
 #include "shapes.h"
+#include "tile_drawing.h"
 #include "tile_rows.h"
 #include "walls.h"
 
@@ -124,10 +125,8 @@ void Cracked(Relief& relief) {
     Rubble(relief, 3, 1, 533);
 }
 
-using Drawing = void (*)(Relief&);
-
 // Columns 11 to 23.
-constexpr Drawing Fittings[] = {
+constexpr TileDrawing Fittings[] = {
     [](Relief& r) { Window(r, true, false); },
     [](Relief& r) { Window(r, false, false); },
     [](Relief& r) { Window(r, true, true); },
@@ -147,18 +146,8 @@ constexpr Drawing Fittings[] = {
 
 TileRow ConcreteTiles() {
     TileRow row;
-    for (std::size_t i = 0; i < FullJoints; ++i) {
-        Relief relief;
-        GrassGround(relief);
-        BuildApron(relief, Joints[i], ConcreteWall);
-        BuildWall(relief, Joints[i], ConcreteWall);
-        row.push_back(Finished(relief));
-    }
-    for (const Drawing draw : Fittings) {
-        Relief relief;
-        draw(relief);
-        row.push_back(Finished(relief));
-    }
+    AddWalls(row, ConcreteWall);
+    AddTiles(row, TileGround::Bare, Fittings);
     return row;
 }
 

@@ -10,6 +10,7 @@
 #include "grounds.h"
 #include "noise.h"
 #include "shapes.h"
+#include "tile_drawing.h"
 #include "tile_rows.h"
 
 namespace art {
@@ -88,9 +89,7 @@ void WheelTracks(Relief& relief) {
     }
 }
 
-using Drawing = void (*)(Relief&);
-
-constexpr Drawing Drawings[] = {
+constexpr TileDrawing Drawings[] = {
     [](Relief& r) { GrassGround(r); },
     [](Relief& r) {
         GrassGround(r);
@@ -171,11 +170,7 @@ QImage CutBetweenGrains(const QImage& tile) {
 
 TileRow SurfaceTiles() {
     TileRow row;
-    for (const Drawing draw : Drawings) {
-        Relief relief;
-        draw(relief);
-        row.push_back(Finished(relief));
-    }
+    AddTiles(row, TileGround::Bare, Drawings);
     for (const std::size_t tile : Lone)
         row[tile] = CutBetweenGrains(row[tile]);
     return row;

@@ -4,6 +4,7 @@
 #include "grounds.h"
 #include "joints.h"
 #include "shapes.h"
+#include "tile_drawing.h"
 #include "tile_rows.h"
 #include "walls.h"
 
@@ -70,10 +71,8 @@ void Crossing(Relief& relief, bool westEast) {
     }
 }
 
-using Drawing = void (*)(Relief&);
-
 // Columns 15 to 19.
-constexpr Drawing Pieces[] = {
+constexpr TileDrawing Pieces[] = {
     [](Relief& r) { Deck(r, true); },
     [](Relief& r) { Deck(r, false); },
     [](Relief& r) { Crossing(r, true); },
@@ -91,12 +90,7 @@ TileRow HighwayTiles() {
         Highway(relief, joint);
         row.push_back(Finished(relief));
     }
-    for (const Drawing draw : Pieces) {
-        Relief relief;
-        GrassGround(relief);
-        draw(relief);
-        row.push_back(Finished(relief));
-    }
+    AddTiles(row, TileGround::Grass, Pieces);
     return row;
 }
 

@@ -3,6 +3,7 @@
 #include "joints.h"
 #include "noise.h"
 #include "shapes.h"
+#include "tile_drawing.h"
 #include "tile_rows.h"
 #include "walls.h"
 
@@ -87,10 +88,8 @@ void Cobbles(Relief& relief) {
     }
 }
 
-using Drawing = void (*)(Relief&);
-
 // Columns 15 to 20.
-constexpr Drawing Pieces[] = {
+constexpr TileDrawing Pieces[] = {
     Yard,
     [](Relief& r) { PlankBridge(r, true); },
     Cobbles,
@@ -109,12 +108,7 @@ TileRow RoadTiles() {
         Road(relief, joint);
         row.push_back(Finished(relief));
     }
-    for (const Drawing draw : Pieces) {
-        Relief relief;
-        GrassGround(relief);
-        draw(relief);
-        row.push_back(Finished(relief));
-    }
+    AddTiles(row, TileGround::Grass, Pieces);
     return row;
 }
 

@@ -5,6 +5,7 @@
 #include "grounds.h"
 #include "noise.h"
 #include "shapes.h"
+#include "tile_drawing.h"
 #include "tile_rows.h"
 #include "walls.h"
 
@@ -190,10 +191,8 @@ void Grating(Relief& relief) {
     }
 }
 
-using Drawing = void (*)(Relief&);
-
 // Columns 11 to 24.
-constexpr Drawing Fittings[] = {
+constexpr TileDrawing Fittings[] = {
     [](Relief& r) { Porthole(r, true); },
     [](Relief& r) { Porthole(r, false); },
     Gangway,
@@ -219,11 +218,7 @@ TileRow ShipTiles() {
         Hull(relief, column);
         row.push_back(Finished(relief));
     }
-    for (const Drawing draw : Fittings) {
-        Relief relief;
-        draw(relief);
-        row.push_back(Finished(relief));
-    }
+    AddTiles(row, TileGround::Bare, Fittings);
     return row;
 }
 

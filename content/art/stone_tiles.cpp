@@ -4,6 +4,7 @@
 #include "grounds.h"
 #include "noise.h"
 #include "shapes.h"
+#include "tile_drawing.h"
 #include "tile_rows.h"
 #include "walls.h"
 
@@ -166,10 +167,8 @@ void Hearth(Relief& relief) {
                    {.colour = Colour(Ink::Soot), .height = 0.8f, .base = 0.6f, .round = 0.6f});
 }
 
-using Drawing = void (*)(Relief&);
-
 // Columns 11 to 20.
-constexpr Drawing Fittings[] = {
+constexpr TileDrawing Fittings[] = {
     Boulder,
     Outcrop,
     [](Relief& r) { LooseWall(r, true); },
@@ -186,19 +185,8 @@ constexpr Drawing Fittings[] = {
 
 TileRow StoneTiles() {
     TileRow row;
-    for (std::size_t i = 0; i < FullJoints; ++i) {
-        Relief relief;
-        GrassGround(relief);
-        BuildApron(relief, Joints[i], Masonry);
-        BuildWall(relief, Joints[i], Masonry);
-        row.push_back(Finished(relief));
-    }
-    for (const Drawing draw : Fittings) {
-        Relief relief;
-        GrassGround(relief);
-        draw(relief);
-        row.push_back(Finished(relief));
-    }
+    AddWalls(row, Masonry);
+    AddTiles(row, TileGround::Grass, Fittings);
     return row;
 }
 

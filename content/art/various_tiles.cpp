@@ -5,6 +5,7 @@
 #include "grounds.h"
 #include "noise.h"
 #include "shapes.h"
+#include "tile_drawing.h"
 #include "tile_rows.h"
 #include "vehicle.h"
 
@@ -251,10 +252,8 @@ void Signpost(Relief& relief) {
                    {.colour = Colour(Ink::Bark), .height = 1.4f, .round = 0.5f});
 }
 
-using Drawing = void (*)(Relief&);
-
 // Columns 0 to 17; the landing spot is never shown and stays grass.
-constexpr Drawing Things[] = {
+constexpr TileDrawing Things[] = {
     Rug,     Hay,          Campfire,   Tyre,       FlowerBed, Mushrooms, VegetablePatch, [](Relief&) {},
     Bones,   FallenLeaves, TargetCard, FlatCrates, Sack,      Puddle,    Stump,          Papers,
     LogPile, Signpost,
@@ -264,12 +263,7 @@ constexpr Drawing Things[] = {
 
 TileRow VariousTiles() {
     TileRow row;
-    for (const Drawing draw : Things) {
-        Relief relief;
-        GrassGround(relief);
-        draw(relief);
-        row.push_back(Finished(relief));
-    }
+    AddTiles(row, TileGround::Grass, Things);
     for (const QImage& cell : VehicleCells())
         row.push_back(cell);
     return row;

@@ -2,6 +2,7 @@
 #include "grounds.h"
 #include "noise.h"
 #include "shapes.h"
+#include "tile_drawing.h"
 #include "tile_rows.h"
 #include "walls.h"
 
@@ -149,10 +150,8 @@ void Window(Relief& relief, bool westEast, bool broken) {
     BuildWindow(relief, westEast, PlankWall, WindowSill, broken);
 }
 
-using Drawing = void (*)(Relief&);
-
 // Columns 11 to 23.
-constexpr Drawing Fittings[] = {
+constexpr TileDrawing Fittings[] = {
     [](Relief& r) { Window(r, true, false); },
     [](Relief& r) { Window(r, false, false); },
     [](Relief& r) { Window(r, true, true); },
@@ -172,19 +171,8 @@ constexpr Drawing Fittings[] = {
 
 TileRow WoodenTiles() {
     TileRow row;
-    for (std::size_t i = 0; i < FullJoints; ++i) {
-        Relief relief;
-        GrassGround(relief);
-        BuildApron(relief, Joints[i], PlankWall);
-        BuildWall(relief, Joints[i], PlankWall);
-        row.push_back(Finished(relief));
-    }
-    for (const Drawing draw : Fittings) {
-        Relief relief;
-        GrassGround(relief);
-        draw(relief);
-        row.push_back(Finished(relief));
-    }
+    AddWalls(row, PlankWall);
+    AddTiles(row, TileGround::Grass, Fittings);
     return row;
 }
 

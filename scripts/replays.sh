@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Replays every recording in every build: a run is its seed and its events, whatever compiler and options made the
+# program. The builds must be there.
+# Usage: replays.sh PRESET...
+set -u
+cd "$(dirname "$0")/.."
+failed=0
+for preset in "$@"; do
+    for recording in tests/recordings/*.rec; do
+        printf '%-9s %-24s ' "$preset" "$(basename "$recording")"
+        "build/$preset/tools/sarnoth-lab" replay "$recording" || failed=1
+    done
+done
+exit $failed
