@@ -67,6 +67,10 @@ void LoadRoster() {
     }
 }
 
+void KeepStore() {
+    KeepForPlayer(StoreFile);
+}
+
 void LoadStore() {
     const RecordReader file(StoreFile, PlaceLength);
     file.ReadCounted(HeaderRecord, "the header");

@@ -7,6 +7,10 @@
 /// Reads "\dat\save.dat" into the units 60 to 79 and teamLast[3]. Throws RunTimeError with file and record.
 void LoadRoster();
 
+/// Sees to it, before a game begins, that "\dat\apc.dat" is there and can be rewritten at the mission's end,
+/// so that a player learns of trouble before he has played. See KeepForPlayer.
+void KeepStore();
+
 /// Reads "\dat\apc.dat" into storeItems. Throws RunTimeError with file and record.
 void LoadStore();
 

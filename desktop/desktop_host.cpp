@@ -15,6 +15,7 @@ namespace {
 using std::chrono::steady_clock;
 
 constexpr const char* GameName = "Sarnoth III";
+constexpr QLatin1String ScreenInMemory("offscreen");     // the toolkit's name of it
 constexpr std::chrono::milliseconds PlayBackPause(150);  // between events, so that a watcher can follow
 constexpr std::chrono::seconds QuietTime(10);  // an open sound device costs processor time also in silence
 
@@ -166,6 +167,7 @@ void DesktopHost::EndProcess(int exitCode) {
 
 void DesktopHost::Fail(const std::string& text) {
     std::fprintf(stderr, "%s: %s\n", GameName, text.c_str());
-    ShowBox(QMessageBox::Critical, text);
+    // Nobody sits before a screen in memory to answer a box.
+    if (QGuiApplication::platformName() != ScreenInMemory) ShowBox(QMessageBox::Critical, text);
     EndProcess(EXIT_FAILURE);
 }

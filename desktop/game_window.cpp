@@ -13,12 +13,13 @@
 #include "desktop/appearance.h"
 #include "desktop/desktop_host.h"
 #include "desktop/scale.h"
-#include "platform/files.h"
 #include "platform/run_time_error.h"
 #include "view/field_form.h"
 #include "view/forms.h"
 
 namespace {
+
+constexpr const char* DesktopEntry = "sarnoth3";  // by which desktops find the window's name and icon
 
 void PrintNoDisplay() {
     const RunTimeError error(Fault::NoDisplay,
@@ -34,7 +35,7 @@ bool DisplayIsNamed() {
 
 QIcon GameIcon() {
     QIcon icon;
-    for (const char* size : {"16", "32", "48", "128"})
+    for (const char* size : {"16", "24", "32", "48", "64", "128", "256"})
         icon.addFile(QStringLiteral(":/icon%1.png").arg(QLatin1String(size)));
     return icon;
 }
@@ -83,7 +84,7 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     SetScale(FittingScale(WantedScale(factor), screen, ShownForms()));
     SetAppearance(application);
     QApplication::setWindowIcon(GameIcon());
-    SetProgramFolder(run.folder);
+    QGuiApplication::setDesktopFileName(QLatin1String(DesktopEntry));
 
     DesktopHost host(frmField, OtherForms(), run.dispatch);
     if (run.playBack) host.PlayBack(run.playBack);
@@ -99,8 +100,4 @@ bool SaveWindow(const std::string& form, const std::filesystem::path& file) {
     FormWindow& window = static_cast<DesktopHost&>(TheHost()).WindowOf(*FormByName(form));
     window.Sync();
     return window.grab().save(QString::fromStdString(file.string()));
-}
-
-std::filesystem::path OwnFolder() {
-    return std::filesystem::read_symlink("/proc/self/exe").parent_path();
 }

@@ -8,8 +8,7 @@
 #include "platform/input_event.h"
 
 struct WindowRun {
-    std::filesystem::path folder;                      // the game's: data, maps, pictures, sounds
-    std::function<void()> begin;                       // starts the game
+    std::function<void()> begin;                       // starts the game, its folder too unless that was set
     std::function<void(const InputEvent&)> dispatch;   // takes what a person does
     std::function<void(int pump)> playBack = nullptr;  // see DesktopHost::PlayBack; empty for a person's play
 };
@@ -21,6 +20,3 @@ int RunInWindow(char** arguments, const WindowRun& run);
 /// Saves a window of the running game, named as "frmField", as it would be shown. False when it can't be
 /// written.
 bool SaveWindow(const std::string& form, const std::filesystem::path& file);
-
-/// The folder that the running program lies in.
-std::filesystem::path OwnFolder();

@@ -8,19 +8,40 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
+#include <system_error>
 
 #include "platform/code_page.h"
 
 namespace {
 
 std::filesystem::path programFolder = ".";
+std::filesystem::path playersFolder;  // empty: the program's
+
+std::string RelativeName(std::string_view name) {
+    std::string relative(name);
+    std::replace(relative.begin(), relative.end(), '\\', '/');
+    relative.erase(0, relative.find_first_not_of('/'));
+    return relative;
+}
+
+std::filesystem::path PlayersPath(std::string_view name) {
+    return (playersFolder.empty() ? programFolder : playersFolder) / RelativeName(name);
+}
+
+bool IsFile(const std::filesystem::path& path) {
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(path, ignored);
+}
 
 [[noreturn]] void ThrowBadData(const std::string& place, const std::string& problem) {
     throw RunTimeError(Fault::BadData, place + ": " + problem);
 }
 
 [[noreturn]] void ThrowNotWritten(std::string_view name) {
-    throw RunTimeError(Fault::FileWrite, ShownName(name) + ": " + std::strerror(errno));
+    const int reason = errno;
+    throw RunTimeError(Fault::FileWrite,
+                       (playersFolder.empty() ? RelativeName(name) : PlayersPath(name).string()) + ": " +
+                           std::strerror(reason));
 }
 
 // A file descriptor that closes itself.
@@ -59,24 +80,38 @@ bool WriteAside(const std::filesystem::path& aside, std::string_view content) {
 
 }  // namespace
 
-void SetProgramFolder(const std::filesystem::path& folder) {
+void SetProgramFolder(const std::filesystem::path& folder, const std::filesystem::path& players) {
     programFolder = folder;
-}
-
-std::string ShownName(std::string_view name) {
-    std::string shown(name);
-    std::replace(shown.begin(), shown.end(), '\\', '/');
-    shown.erase(0, shown.find_first_not_of('/'));
-    return shown;
+    playersFolder = players;
 }
 
 std::filesystem::path ProgramPath(std::string_view name) {
-    return programFolder / ShownName(name);
+    const std::filesystem::path own = PlayersPath(name);
+    return playersFolder.empty() || IsFile(own) ? own : programFolder / RelativeName(name);
+}
+
+std::string ShownName(std::string_view name) {
+    const bool ownFile = !playersFolder.empty() && IsFile(PlayersPath(name));
+    return ownFile ? PlayersPath(name).string() : RelativeName(name);
+}
+
+void KeepForPlayer(std::string_view name) {
+    if (playersFolder.empty()) return;
+    const std::filesystem::path own = PlayersPath(name);
+    std::error_code failure;
+    std::filesystem::create_directories(own.parent_path(), failure);
+    // A file is replaced by its neighbour, so it is the folder that must take new files.
+    if (!failure && ::access(own.parent_path().c_str(), W_OK | X_OK) != 0)
+        failure.assign(errno, std::generic_category());
+    if (failure)
+        throw RunTimeError(
+            Fault::FileWrite,
+            own.string() + ": expected a folder that can be written to, found: " + failure.message());
+    if (!IsFile(own)) ReplaceFile(name, ReadWholeFile(name));
 }
 
 bool FileExists(std::string_view name) {
-    std::error_code ignored;
-    return std::filesystem::is_regular_file(ProgramPath(name), ignored);
+    return IsFile(ProgramPath(name));
 }
 
 std::string ReadWholeFile(std::string_view name) {
@@ -88,7 +123,7 @@ std::string ReadWholeFile(std::string_view name) {
 }
 
 void ReplaceFile(std::string_view name, std::string_view content) {
-    const std::filesystem::path path = ProgramPath(name);
+    const std::filesystem::path path = PlayersPath(name);
     std::filesystem::path aside = path;
     aside += ".new";
     if (!WriteAside(aside, content) || ::rename(aside.c_str(), path.c_str()) != 0) {

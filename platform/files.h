@@ -1,6 +1,6 @@
-// Files under the program's folder. They are named as the game names them, with either slash, as
-// "\dat\weapons.dat". Every reader reports trouble as RunTimeError with the file, the place in it and what
-// was expected there.
+// Files under the program's folder, and the player's own ones where those have a folder of their own. They
+// are named as the game names them, with either slash, as "\dat\weapons.dat". Every reader reports trouble as
+// RunTimeError with the file, the place in it and what was expected there.
 #pragma once
 
 #include <cstddef>
@@ -13,11 +13,21 @@
 
 #include "platform/run_time_error.h"
 
-/// The folder that "\dat\", "\map\", "\pic\" and "\wav\" lie in; the working folder until it is set.
-void SetProgramFolder(const std::filesystem::path& folder);
+/// The folder that "\dat\", "\map\", "\pic\" and "\wav\" lie in; the working folder until it is set. With
+/// `players`, what is written goes there, and a file that lies there is read instead of the program's;
+/// without it the program's folder is the player's too.
+void SetProgramFolder(const std::filesystem::path& folder, const std::filesystem::path& players = {});
+
+/// Where a file is read.
 std::filesystem::path ProgramPath(std::string_view name);
 
-/// A file's name as messages show it: relative, with forward slashes, as "dat/weapons.dat".
+/// Sees to it, before a game begins, that the player has a file of his own that can be replaced: one that is
+/// there stays as it is, else he gets a copy of the program's. Does nothing where the program's folder is
+/// his. Throws FileMissing, or FileWrite with the file's whole path.
+void KeepForPlayer(std::string_view name);
+
+/// A file's name as messages show it: relative, with forward slashes, as "dat/weapons.dat"; the whole path of
+/// a file in a player's folder.
 std::string ShownName(std::string_view name);
 
 bool FileExists(std::string_view name);

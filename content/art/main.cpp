@@ -93,10 +93,13 @@ void WriteFrames(const PictureWriter& writer) {
     writer.Write("stored/imgMarkH.gif", ColumnMark());
     writer.Write("stored/imgMarkV.gif", RowMark());
     writer.Write("stored/imgProgress.gif", progress);
-    for (const int size : {16, 32, 48, 128})
-        writer.Write("stored/icon" + std::to_string(size) + ".png", Icon(size));
+    std::vector<QImage> icons;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        icons.push_back(Icon(size));
+        writer.Write("stored/icon" + std::to_string(size) + ".png", icons.back());
+    }
     writer.Write("sheets/frames.png", ContactSheet("FRAMES", {upper, stripes, progress}, 1, 2));
-    writer.Write("sheets/icons.png", ContactSheet("ICONS", {Icon(16), Icon(32), Icon(48), Icon(128)}, 4, 3));
+    writer.Write("sheets/icons.png", ContactSheet("ICONS", icons, 4, 2));
 }
 
 void WritePanel(const PictureWriter& writer, const PanelPictures& panel) {

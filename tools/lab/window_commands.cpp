@@ -37,10 +37,9 @@ int ReplayInWindow(const Recording& recording, const GameCopy& copy, char** argu
         copy.RemoveAll();
         TheHost().EndProcess(replay.Result().difference.empty() ? EXIT_SUCCESS : EXIT_FAILURE);
     };
-    return RunInWindow(arguments, {.folder = copy.Path(),
-                                   .begin = [&replay] { replay.Start(); },
-                                   .dispatch = [](const InputEvent&) {},
-                                   .playBack = playBack});
+    return RunInWindow(
+        arguments,
+        {.begin = [&replay] { replay.Start(); }, .dispatch = [](const InputEvent&) {}, .playBack = playBack});
 }
 
 }  // namespace
@@ -59,8 +58,8 @@ int Play(const Words& words, char** arguments) {
         sink = [&file](const std::string& line) { file << line << std::endl; };
     }
     Recorder recorder(sink);
-    return RunInWindow(arguments, {.folder = copy.Path(),
-                                   .begin = [&] { recorder.Start(seed); },
+    SetProgramFolder(copy.Path());
+    return RunInWindow(arguments, {.begin = [&] { recorder.Start(seed); },
                                    .dispatch = [&](const InputEvent& event) { recorder.Dispatch(event); }});
 }
 
@@ -68,8 +67,8 @@ int ReplayFile(const Words& words, char** arguments) {
     const Arguments given(words, {"--game"}, {"--window"}, 1);
     const Recording recording = ReadRecording(given.Plain()[0]);
     const GameCopy copy(given.Text("--game", GAME_FOLDER));
-    if (given.Has("--window")) return ReplayInWindow(recording, copy, arguments);
     SetProgramFolder(copy.Path());
+    if (given.Has("--window")) return ReplayInWindow(recording, copy, arguments);
     const ReplayResult result = ReplayHeadless(recording);
     Tell(result);
     return result.difference.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
@@ -92,7 +91,8 @@ int Shot(const Words& words, char** arguments) {
         copy.RemoveAll();
         TheHost().EndProcess(saved ? EXIT_SUCCESS : EXIT_FAILURE);
     };
-    return RunInWindow(arguments, {.folder = copy.Path(), .begin = begin, .dispatch = Dispatch});
+    SetProgramFolder(copy.Path());
+    return RunInWindow(arguments, {.begin = begin, .dispatch = Dispatch});
 }
 
 }  // namespace lab

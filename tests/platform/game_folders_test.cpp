@@ -1,0 +1,112 @@
+// Where the game's files are found and where the player's are kept, beside the program and installed.
+#include "platform/game_folders.h"
+
+#include <cstdlib>
+#include <utility>
+#include <vector>
+
+#include "platform/files.h"
+#include "tests/support/game_test.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// A small installation, a home, and the environment as it was afterwards.
+class GameFoldersTest : public GameTest {
+  protected:
+    GameFoldersTest() : root(folder.Path() / "root") {
+        fs::create_directories(root / "usr/games");
+        fs::create_directories(root / "usr/share/sarnoth/dat");
+        Write("usr/share/sarnoth/dat/apc.dat", "stock");
+        Write("usr/share/sarnoth/dat/other.dat", "other");
+        SetEnvironment("/home/me", nullptr);
+    }
+    ~GameFoldersTest() override {
+        SetProgramFolder(".");
+        for (const auto& [name, value] : kept)
+            setenv(name.c_str(), value.c_str(), 1);
+    }
+
+    static void SetEnvironment(const char* home, const char* data) {
+        unsetenv("HOME");
+        unsetenv("XDG_DATA_HOME");
+        if (home != nullptr) setenv("HOME", home, 1);
+        if (data != nullptr) setenv("XDG_DATA_HOME", data, 1);
+    }
+
+    void Write(const std::string& name, const std::string& content) const {
+        folder.Write("root/" + name, content);
+    }
+    std::string Read(const std::string& name) const { return folder.Read("root/" + name); }
+
+    fs::path root;
+
+  private:
+    static std::vector<std::pair<std::string, std::string>> Environment() {
+        std::vector<std::pair<std::string, std::string>> set;
+        for (const char* name : {"HOME", "XDG_DATA_HOME"})
+            if (const char* value = std::getenv(name)) set.emplace_back(name, value);
+        return set;
+    }
+    std::vector<std::pair<std::string, std::string>> kept = Environment();
+};
+
+TEST_F(GameFoldersTest, AFolderThatRunsWhereItLiesComesBeforeAnInstallation) {
+    fs::create_directories(root / "usr/games/dat");
+    const GameFolders found = FoldersOf(root / "usr/games");
+    EXPECT_EQ(found.program, root / "usr/games");
+    EXPECT_EQ(found.players, "");
+    EXPECT_EQ(FoldersOf(root / "nowhere").program, root / "nowhere")
+        << "named by the message that files are missing";
+}
+
+TEST_F(GameFoldersTest, AnInstallationKeepsThePlayersFilesInHisHome) {
+    struct Case {
+        const char* home;
+        const char* data;
+        const char* players;
+    };
+    constexpr Case Cases[] = {
+        {"/home/me", nullptr, "/home/me/.local/share/sarnoth"}, {"/home/me", "/data", "/data/sarnoth"},
+        {"/home/me", "data", "/home/me/.local/share/sarnoth"},  // only a whole path counts
+        {"/home/me", "", "/home/me/.local/share/sarnoth"},      {nullptr, "/data", "/data/sarnoth"},
+    };
+    for (const Case& row : Cases) {
+        SetEnvironment(row.home, row.data);
+        const GameFolders found = FoldersOf(root / "usr/games");
+        EXPECT_EQ(found.program, root / "usr/share/sarnoth");
+        EXPECT_EQ(found.players, row.players);
+    }
+    SetEnvironment(nullptr, nullptr);
+    EXPECT_NE(ErrorOf([&] { FoldersOf(root / "usr/games"); }), "");
+}
+
+TEST_F(GameFoldersTest, ThePlayerGetsAFileOnceAndWritesOnlyHisOwn) {
+    SetProgramFolder(root / "usr/share/sarnoth", root / "home/sarnoth");
+    EXPECT_EQ(ReadWholeFile("\\dat\\apc.dat"), "stock");
+    KeepForPlayer("\\dat\\apc.dat");
+    EXPECT_EQ(Read("home/sarnoth/dat/apc.dat"), "stock");
+
+    ReplaceFile("\\dat\\apc.dat", "played");
+    KeepForPlayer("\\dat\\apc.dat");
+    EXPECT_EQ(ReadWholeFile("\\dat\\apc.dat"), "played");
+    EXPECT_EQ(Read("home/sarnoth/dat/apc.dat"), "played");
+    EXPECT_EQ(Read("usr/share/sarnoth/dat/apc.dat"), "stock");
+    EXPECT_EQ(ReadWholeFile("\\dat\\other.dat"), "other");
+    EXPECT_EQ(ShownName("\\dat\\other.dat"), "dat/other.dat");
+    EXPECT_EQ(ShownName("\\dat\\apc.dat"), root / "home/sarnoth/dat/apc.dat") << "tells which of the two";
+}
+
+TEST_F(GameFoldersTest, AFileThatCanNotBeKeptIsRefusedWithItsWholePath) {
+    Write("home", "a file where the folder should be");
+    SetProgramFolder(root / "usr/share/sarnoth", root / "home");
+    EXPECT_EQ(ErrorOf([] { KeepForPlayer("\\dat\\apc.dat"); }),
+              "Run-time error 5: File can't be written: " + (root / "home/dat/apc.dat").string() +
+                  ": expected a folder that can be written to, found: Not a directory");
+    SetProgramFolder(root / "usr/share/sarnoth", root / "mine");
+    EXPECT_EQ(ErrorOf([] { KeepForPlayer("\\dat\\none.dat"); }),
+              "Run-time error 3: File not found: dat/none.dat");
+}
+
+}  // namespace
