@@ -56,6 +56,7 @@ DesktopHost::~DesktopHost() {
 }
 
 void DesktopHost::Enter(const std::function<void()>& piece) {
+    if (failed) return;
     try {
         piece();
     } catch (const std::exception& error) {
@@ -77,7 +78,7 @@ void DesktopHost::LetIn() {
 }
 
 void DesktopHost::Receive(const InputEvent& event) {
-    if (playBack) return;
+    if (playBack || failed) return;
     Enter([&] { dispatch(event); });
     if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name)
         EndProcess(EXIT_SUCCESS);
@@ -166,6 +167,7 @@ void DesktopHost::EndProcess(int exitCode) {
 }
 
 void DesktopHost::Fail(const std::string& text) {
+    failed = true;
     std::fprintf(stderr, "%s: %s\n", GameName, text.c_str());
     // Nobody sits before a screen in memory to answer a box.
     if (QGuiApplication::platformName() != ScreenInMemory) ShowBox(QMessageBox::Critical, text);

@@ -52,5 +52,6 @@ class DesktopHost : public Host {
     SoundDevice soundDevice;
     std::function<void(int pump)> playBack;  // empty: a person plays
     QTimer playBackPace;
-    QTimer quiet;  // runs out when no sound was asked for in a while
+    bool failed = false;  // the error is being shown: ticks and the close button reach the game no more
+    QTimer quiet;         // runs out when no sound was asked for in a while
 };

@@ -1,6 +1,10 @@
 #include "desktop/game_window.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <vector>
@@ -40,6 +44,18 @@ QIcon GameIcon() {
     return icon;
 }
 
+// A stream that was closed would leave its number to the next file that is opened, and what is printed would
+// land in there. And a write that fails is told where it is done, instead of ending the process by a signal.
+void SecureStreams() {
+    int nowhere = -1;
+    do {
+        nowhere = open("/dev/null", O_RDWR);
+    } while (nowhere >= 0 && nowhere <= STDERR_FILENO);
+    close(nowhere);
+    for (const int failedWrite : {SIGPIPE, SIGXFSZ})
+        std::signal(failedWrite, SIG_IGN);
+}
+
 // While the application object is made: a display that is named but doesn't answer would abort the process.
 void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
     if (type != QtFatalMsg) return;
@@ -65,6 +81,7 @@ std::vector<const Form*> ShownForms() {
 }  // namespace
 
 int RunInWindow(char** arguments, const WindowRun& run) {
+    SecureStreams();
     if (!DisplayIsNamed()) {
         PrintNoDisplay();
         return EXIT_FAILURE;

@@ -6,8 +6,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 
 #include "platform/code_page.h"
@@ -44,15 +42,27 @@ bool IsFile(const std::filesystem::path& path) {
                            std::strerror(reason));
 }
 
-// A file descriptor that closes itself.
+// A file descriptor that closes itself. Opening one never waits for the other end of a pipe.
 class OpenFile {
   public:
-    OpenFile(const std::filesystem::path& path, int flags) : descriptor(::open(path.c_str(), flags, 0644)) {}
+    OpenFile(const std::filesystem::path& path, int flags)
+        : descriptor(::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC, 0644)) {}
     ~OpenFile() { Close(); }
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
 
     bool Good() const { return descriptor >= 0; }
+    bool Read(std::string& content) const {
+        constexpr std::size_t Chunk = 1 << 14;
+        for (;;) {
+            const std::size_t before = content.size();
+            content.resize(before + Chunk);
+            const ssize_t count = ::read(descriptor, content.data() + before, Chunk);
+            content.resize(before + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+            if (count < 0 && errno == EINTR) continue;
+            if (count <= 0) return count == 0;
+        }
+    }
     bool Write(std::string_view content) const {
         while (!content.empty()) {
             const ssize_t written = ::write(descriptor, content.data(), content.size());
@@ -74,8 +84,16 @@ class OpenFile {
 };
 
 bool WriteAside(const std::filesystem::path& aside, std::string_view content) {
-    OpenFile file(aside, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC);
+    OpenFile file(aside, O_WRONLY | O_CREAT | O_TRUNC);
     return file.Good() && file.Write(content) && file.Flush() && file.Close();
+}
+
+// What stands where a file should be; empty where there is nothing.
+std::string Obstacle(const std::filesystem::path& path) {
+    std::error_code error;
+    const std::filesystem::file_status found = std::filesystem::status(path, error);
+    if (std::filesystem::exists(found)) return ": expected a file, found a folder or a device";
+    return found.type() == std::filesystem::file_type::not_found ? "" : ": " + error.message();
 }
 
 }  // namespace
@@ -115,10 +133,13 @@ bool FileExists(std::string_view name) {
 }
 
 std::string ReadWholeFile(std::string_view name) {
-    if (!FileExists(name)) throw RunTimeError(Fault::FileMissing, ShownName(name));
-    std::ifstream file(ProgramPath(name), std::ios::binary);
-    std::string content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (!file) throw RunTimeError(Fault::FileMissing, ShownName(name) + ": it can't be read");
+    const std::filesystem::path path = ProgramPath(name);
+    if (!FileExists(name)) throw RunTimeError(Fault::FileMissing, ShownName(name) + Obstacle(path));
+    std::string content;
+    const OpenFile file(path, O_RDONLY);
+    if (!file.Good() || !file.Read(content))
+        throw RunTimeError(Fault::FileMissing,
+                           ShownName(name) + ": it can't be read: " + std::strerror(errno));
     return content;
 }
 
@@ -126,6 +147,7 @@ void ReplaceFile(std::string_view name, std::string_view content) {
     const std::filesystem::path path = PlayersPath(name);
     std::filesystem::path aside = path;
     aside += ".new";
+    ::unlink(aside.c_str());  // what a killed process left there, or what is no file
     if (!WriteAside(aside, content) || ::rename(aside.c_str(), path.c_str()) != 0) {
         const int reason = errno;
         ::unlink(aside.c_str());
@@ -134,7 +156,7 @@ void ReplaceFile(std::string_view name, std::string_view content) {
     }
     // The new name itself reaches the disk with its folder; where a folder can't be flushed the file is whole
     // anyway.
-    const OpenFile folder(path.parent_path(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const OpenFile folder(path.parent_path(), O_RDONLY | O_DIRECTORY);
     if (folder.Good()) folder.Flush();
 }
 

@@ -1,5 +1,7 @@
 #include "picture_writer.h"
 
+#include <fcntl.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
@@ -78,7 +80,10 @@ bool PutGif(GifFileType* gif, const QImage& picture) {
 
 void WriteGif(const std::string& path, const QImage& picture) {
     int error = 0;
-    GifFileType* gif = EGifOpenFileName(path.c_str(), false, &error);
+    // Given its name the library would make it for its owner's eyes alone, and an old file keeps its rights.
+    std::filesystem::remove(path);
+    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    GifFileType* gif = file < 0 ? nullptr : EGifOpenFileHandle(file, &error);
     if (gif == nullptr) Fail(path);
     const bool put = PutGif(gif, picture);
     const bool closed = EGifCloseFile(gif, &error) == GIF_OK;

@@ -1,5 +1,7 @@
-// Missing, truncated and garbled versions of every data file: each gives one message that names the file and
-// the place.
+// Missing, truncated and garbled versions of every data file, and other things in its place: each gives one
+// message that names the file and the place.
+#include <sys/stat.h>
+
 #include <random>
 
 #include "data/campaign_files.h"
@@ -63,6 +65,32 @@ TEST_P(BrokenFiles, AGarbledOneIsNamedWithItsPlace) {
     for (char& byte : noise)
         byte = static_cast<char>(generator() & 0xFF);
     ExpectPlace(Message(noise), "noise");
+}
+
+// A pipe has nobody at its other end, and the device never ends: neither is waited for.
+TEST_P(BrokenFiles, WhatIsNoFileIsNamed) {
+    struct Case {
+        void (*put)(const std::filesystem::path& place);
+        const char* found;
+    };
+    constexpr Case Cases[] = {
+        {[](const auto& place) { std::filesystem::create_directory(place); },
+         "expected a file, found a folder or a device"},
+        {[](const auto& place) { mkfifo(place.c_str(), 0666); },
+         "expected a file, found a folder or a device"},
+        {[](const auto& place) { std::filesystem::create_symlink("/dev/zero", place); },
+         "expected a file, found a folder or a device"},
+        {[](const auto& place) { std::filesystem::create_symlink(place, place); },
+         "Too many levels of symbolic links"},
+        {[](const auto& place) { std::filesystem::create_symlink("/proc/self/mem", place); },
+         "it can't be read: Input/output error"},
+    };
+    for (const Case& c : Cases) {
+        folder.Remove(GetParam().name);
+        c.put(folder.Path() / GetParam().name);
+        EXPECT_EQ(ErrorOf(GetParam().read),
+                  std::string("Run-time error 3: File not found: ") + GetParam().name + ": " + c.found);
+    }
 }
 
 std::string CaseName(const testing::TestParamInfo<DataFile>& file) {

@@ -227,6 +227,22 @@ TEST_F(DesktopDeathTest, AnErrorIsShownAndPrintedAndEndsTheProcess) {
                 "^Sarnoth III: Run-time error 4: Bad data: dat/weapons.dat: line 3\n$");
 }
 
+TEST_F(DesktopDeathTest, WhileAnErrorIsShownNothingReachesTheGame) {
+    const auto fail = [this] {
+        answer = [](const InputEvent& event) {
+            if (event.kind == EventKind::Timer) throw RunTimeError(Fault::FileMissing, "pic/5.gif");
+        };
+        QTimer::singleShot(150, &window, [this] { window.close(); });
+        QTimer accept;
+        accept.callOnTimeout([] { qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->accept(); });
+        accept.start(200);
+        dialog.timTick.Interval = 20;
+        dialog.Visible = true;
+        host.Wait(std::chrono::seconds(20), true);
+    };
+    EXPECT_EXIT(fail(), ExitedWithCode(1), "^Sarnoth III: Run-time error 3: File not found: pic/5.gif\n$");
+}
+
 TEST_F(DesktopDeathTest, TheCloseButtonTellsTheGameAndEndsTheProcessAlsoInAWait) {
     answer = [](const InputEvent& event) { std::fprintf(stderr, "%s", EventText(event).c_str()); };
     const auto closeInWait = [this] {

@@ -196,6 +196,18 @@ TEST_F(SoundDeviceTest, ANewSoundCutsTheOldOneOfItsSlotAlone) {
     }
 }
 
+TEST_F(SoundDeviceTest, ADeviceThatVanishesFallsSilentAndItsSuccessorIsHeard) {
+    const SoundRequest sound = Sound("sine", SineWave(PlayedRate / 5));
+    setenv("SDL_DISKAUDIOFILE", "/dev/full", 1);
+    device.Play(sound);
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    device.Play(sound);  // on the lost device
+    device.Close();
+    setenv("SDL_DISKAUDIOFILE", raw.c_str(), 1);
+    device.Play(sound);
+    EXPECT_NEAR(Hear().seconds, 0.2, 0.01);
+}
+
 TEST_F(SoundDeviceTest, ABrokenFileIsNamed) {
     try {
         device.Play(Sound("broken", "no sound at all"));

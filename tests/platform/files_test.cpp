@@ -84,6 +84,20 @@ TEST_F(FilesTest, AFileThatCanNotBeReplacedStaysAsItWas) {
               std::string::npos);
 }
 
+TEST_F(FilesTest, WhatStandsWhereANewFileIsWrittenAsideIsReplacedOrNamed) {
+    const std::filesystem::path aside = folder.Path() / "dat/t.dat.new";
+    folder.Write("dat/t.dat.new", "left by a process that was killed");
+    ReplaceFile("\\dat\\t.dat", "one");
+    EXPECT_EQ(folder.Read("dat/t.dat"), "one");
+    mkfifo(aside.c_str(), 0666);  // nobody reads from it
+    ReplaceFile("\\dat\\t.dat", "two");
+    EXPECT_EQ(folder.Read("dat/t.dat"), "two");
+    std::filesystem::create_directory(aside);
+    EXPECT_EQ(ErrorOf([] { ReplaceFile("\\dat\\t.dat", "three"); }),
+              "Run-time error 5: File can't be written: dat/t.dat: Is a directory");
+    EXPECT_EQ(folder.Read("dat/t.dat"), "two");
+}
+
 TEST(InputEvents, TextAndBackGiveTheSameEvent) {
     const InputEvent events[] = {
         {EventKind::MouseDown, "frmField.area", -1, 2, 3, 150.53125F, 0.1F},
