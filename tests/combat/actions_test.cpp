@@ -1,8 +1,8 @@
-// Families and modes of every thing, and what each family's order does and costs.
+// Families and modes of things, and what each family's order does and costs.
 #include "combat/actions.h"
 
 #include <algorithm>
-#include <map>
+#include <cstdlib>
 
 #include "combat/things.h"
 #include "data/weapons_file.h"
@@ -28,75 +28,61 @@ class ActionsTest : public GameTest {
 
     Unit& unit = UnitTable[0];
 
-    // Puts a loaded thing in the unit's hand under a mode that it offers.
-    void Hold(const std::string& name, const std::string& mode, int rounds = 20) {
-        unit.items[0] = InvItem();
-        unit.items[0].name = name;
-        unit.items[0].count = WeaponInfoByName(name).unitCount;
-        unit.items[0].ammoMain = WeaponInfoByName(name).weaponClass;
-        if (WeaponInfoByName(name).kind == "m" && !unit.items[0].ammoMain.empty())
-            unit.items[0].capMain = ItemKindByNameSize(unit.items[0].ammoMain);
-        RefreshHand();
-        unit.items[0].roundsMain = rounds;
-        unit.items[0].capSecond = unit.items[0].roundsSecond = rounds;
-        for (std::size_t i = 0; i < frmField.comboMode.List.size(); ++i)
-            if (frmField.comboMode.List[i].starts_with(mode)) return ChooseMode(static_cast<int>(i));
-        FAIL() << name << " offers no " << mode;
-    }
-
-    static int ItemKindByNameSize(const std::string& key) {
-        for (const ItemKind& kind : itemKinds)
-            if (kind.name == key) return kind.sizes[0];
-        return 0;
-    }
-
     std::size_t Heard(const std::string& sound) const {
         std::size_t count = 0;
         for (const SoundRequest& request : host.sounds)
             count += request.fileName == "\\wav\\" + sound + ".wav" ? 1 : 0;
         return count;
     }
+
+    // Rows off the one aimed at where the last bullet of an order came down, the most of ten orders.
+    int FarthestOff(const std::string& mode) {
+        int farthest = 0;
+        for (int i = 0; i < 10; ++i) {
+            Hold("ak", mode, 200);
+            unit.time = 900;
+            unit.hand.durab = 1000;
+            unit.hand.accur = 10;
+            unit.hand.range = 200;
+            ActOnTarget(50 * 20 + 10, 410);
+            farthest = std::max(farthest, std::abs(impactY - 20));
+        }
+        return farthest;
+    }
 };
 
-TEST_F(ActionsTest, EveryRowOffersItsModesAndMakesItsFamily) {
-    const std::map<std::string, std::string> named = {
-        {"m203", "bloop"},       {"mm1", "bloop"},        {"m67", "gren"},      {"m67a2", "gren"},
-        {"m367", "gren"},        {"c4", "charge"},        {"nova", "shot"},     {"spas", "shot"},
-        {"super90", "shot"},     {"jackham", "shot"},     {"rem870l", "shot"},  {"rem870m", "shot"},
-        {"rem870s", "shot"},     {"rem870gs", "shot"},    {"crossbow", "dart"}, {"airpipe", "dart"},
-        {"anschutz", "varmint"}, {"american", "varmint"}, {"etool", "dig"},     {"etoolfold", "dig"},
-        {"bsl", "dig"},          {"mpl", "dig"}};
-    const std::map<std::string, std::string> secondaries = {{"m4m203", "bloop"},   {"steyrm203", "bloop"},
-                                                            {"xm8xm320", "bloop"}, {"famasm203", "bloop"},
-                                                            {"xm8lss", "shot"},    {"mkey", "shot"}};
-    const std::map<std::string, std::vector<std::string>> tools = {{"bsl", {"Hit", "Dig", "Fill"}},
-                                                                   {"mpl", {"Hit", "Dig", "Fill"}},
-                                                                   {"etool", {"Hit", "Dig", "Fill", "Fold"}},
-                                                                   {"etoolfold", {"Unfold"}},
-                                                                   {"med", {"Cure"}}};
-    const char* words[] = {"Aimed shot", "Snap shot", "Burst", "Full auto", "Secondary", "Hit", "Throw"};
-    for (const WeaponInfo& row : weaponTable) {
-        unit.hand = row;
+TEST_F(ActionsTest, EachKindOfThingOffersItsModesAndMakesTheirFamilies) {
+    struct Case {
+        const char* name;
+        const char* offers;
+    };
+    constexpr Case Cases[] = {
+        {"hand", "Hit:hit "},
+        {"ak", "Aimed shot:fire Snap shot:fire Burst [3]:fire Full auto:fire "},
+        {"m4m203", "Aimed shot:fire Snap shot:fire Burst [3]:fire Full auto:fire Secondary:bloop "},
+        {"xm8lss", "Aimed shot:fire Snap shot:fire Burst [3]:fire Full auto:fire Secondary:shot "},
+        {"m203", "Aimed shot:bloop Snap shot:bloop "},
+        {"spas", "Aimed shot:shot Snap shot:shot Burst [2]:shot "},
+        {"crossbow", "Aimed shot:dart "},
+        {"anschutz", "Aimed shot:varmint Snap shot:varmint "},
+        {"m67", "Throw:gren "},
+        {"c4", "Throw:charge "},
+        {"knife", "Hit:hit Throw:throw "},
+        {"mpl", "Hit:dig Dig:dig Fill:dig "},
+        {"etool", "Hit:dig Dig:dig Fill:dig Fold:dig "},
+        {"etoolfold", "Unfold:dig "},
+        {"med", "Cure:cure "},
+        {"helmet", ""},
+    };
+    for (const Case& c : Cases) {
+        unit.hand = WeaponInfoByName(c.name);
         ListActions();
-        std::vector<std::string> modes;
-        for (int place = 0; place < 7; ++place)
-            if (row.modes[place] > 0)
-                modes.push_back(place == 2 ? "Burst [" + std::to_string(row.modes[2]) + "]" : words[place]);
-        if (tools.count(row.name) > 0) modes = tools.at(row.name);
-        EXPECT_EQ(frmField.comboMode.List, modes) << row.name;
-        for (std::size_t i = 0; i < modes.size(); ++i) {
+        std::string offers;
+        for (std::size_t i = 0; i < frmField.comboMode.List.size(); ++i) {
             ChooseMode(static_cast<int>(i));
-            std::string family = row.kind == "m" || row.kind == "w" ? "fire" : "";
-            if (row.name == "med") family = "cure";
-            if (row.weaponClass == "knife" && modes[i] == "Hit") family = "hit";
-            if (row.weaponClass == "knife" && modes[i] == "Throw") family = "throw";
-            if (named.count(row.name) > 0) family = named.at(row.name);
-            if (secondaries.count(row.name) > 0)
-                family = modes[i] == "Secondary" ? secondaries.at(row.name) : "fire";
-            EXPECT_EQ(ActionFamily(), family) << row.name << " " << modes[i];
+            offers += frmField.comboMode.Text + ":" + std::string(ActionFamily()) + " ";
         }
-        const bool weapon = row.kind == "m" || row.kind == "w";
-        EXPECT_FALSE(weapon && modes.empty()) << row.name << " offers nothing";
+        EXPECT_EQ(offers, c.offers) << c.name;
     }
 }
 
@@ -104,76 +90,41 @@ TEST_F(ActionsTest, ABurstPaysForEachRoundAndStopsAtTheFirstRefusal) {
     struct Case {
         const char* what;
         int time, rounds, durab;
-        int fired;
+        int timeAfter, roundsAfter, durabAfter;
         const char* sound;
     };
-    const WeaponInfo& ak = WeaponInfoByName("ak");
-    const int burst = ak.modes[2];
-    ASSERT_GE(burst, 2);
-    const Case cases[] = {
-        {"whole", 400, 20, 100, burst, "weapons\\empty"},
-        {"out of time", 2 * ak.time - 1, 20, 100, 1, "bump\\wound2"},
-        {"out of rounds", 400, 1, 100, 1, "weapons\\empty"},
-        {"worn out", 400, 20, 1, 1, "ric\\wood"},
+    // A burst of three rounds for 33 time each.
+    constexpr Case Cases[] = {
+        {"whole", 400, 20, 100, 301, 17, 97, ""},
+        {"out of time", 65, 20, 100, 32, 19, 99, "bump\\wound2"},
+        {"out of rounds keeps what the empty click cost", 400, 1, 100, 334, 0, 98, "weapons\\empty"},
+        {"worn out", 400, 20, 1, 367, 19, 0, "ric\\wood"},
     };
-    for (const Case& c : cases) {
+    for (const Case& c : Cases) {
         Hold("ak", "Burst", c.rounds);
         unit.time = c.time;
         unit.hand.durab = c.durab;
         host.sounds.clear();
         ActOnTarget(900, 410);
-        EXPECT_EQ(unit.items[0].roundsMain, c.rounds - c.fired) << c.what;
-        EXPECT_EQ(Heard("weapons\\" + ak.sound), static_cast<std::size_t>(c.fired)) << c.what;
-        EXPECT_EQ(Heard(c.sound), c.fired == burst ? 0U : 1U) << c.what;
+        EXPECT_EQ(unit.time, c.timeAfter) << c.what;
+        EXPECT_EQ(unit.items[0].roundsMain, c.roundsAfter) << c.what;
+        EXPECT_EQ(unit.hand.durab, c.durabAfter) << c.what;
+        EXPECT_EQ(Heard(c.sound), *c.sound == '\0' ? 0U : 1U) << c.what;
     }
 }
 
 TEST_F(ActionsTest, AShellIsThirtyPelletsOfAThirtiethOfThePower) {
     Hold("spas", "Aimed shot", 6);
-    const int time = unit.time;
-    std::size_t flights = frmField.cmbLog.List.size();
     host.pumps = 0;
     ActOnTarget(900, 410);
     EXPECT_EQ(unit.items[0].roundsSecond, 5);
-    EXPECT_EQ(time - unit.time, WeaponInfoByName("spas").time);
+    EXPECT_EQ(400 - unit.time, WeaponInfoByName("spas").time);
     EXPECT_EQ(host.pumps, 30) << "one flight each";
-    EXPECT_EQ(frmField.cmbLog.List.at(flights), "shotgun party");
     EXPECT_LE(bulletPower, WeaponInfoByName("spas").power / 30 + 1);
-}
-
-TEST_F(ActionsTest, AKnifeThrownLiesWhereItCameDown) {
-    Hold("knife", "Throw", 1);
-    ActOnTarget(30 * 20 + 90, 410);
-    EXPECT_EQ(impactX, 34);
-    EXPECT_EQ(groundItems[20][34][0].name, "knife");
-    EXPECT_EQ(groundItems[20][34][0].roundsMain, 1);
-    EXPECT_EQ(CountAt(34, 20, PileBase), 1);
-    EXPECT_EQ(unit.items[0].name, "") << "and is gone from the hand";
-    EXPECT_EQ(unit.hand.name, "hand");
-}
-
-TEST_F(ActionsTest, WhatIsThrownOutOfTheFieldIsLost) {
-    PutUnit(0, 74, 20);
-    unit.marksmanship = 100;
-    for (const char* thing : {"knife", "c4"}) {
-        Hold(thing, "Throw", 1);
-        unit.time = 400;
-        frmField.cmbLog.List.clear();
-        ActOnTarget(1590, 410);
-        EXPECT_NE(Log().find(std::string(thing) + " is lost outside the field\n"), std::string::npos)
-            << Log();
-    }
-    EXPECT_EQ(teamLast[PileList], -1);
-    EXPECT_EQ(teamLast[ChargeList], -1);
-    Hold("m67", "Throw", 1);
-    unit.time = 400;
-    ActOnTarget(1590, 410);
-    EXPECT_EQ(unit.items[0].name, "") << "a grenade bursts out there";
 }
 
 TEST_F(ActionsTest, ASecondaryBarrelUsesTheSecondFeedAndHasALaunchOfItsOwn) {
     Hold("m4m203", "Secondary", 3);
-    host.sounds.clear();
     ActOnTarget(900, 410);
     EXPECT_EQ(unit.items[0].roundsSecond, 2);
     EXPECT_EQ(unit.items[0].roundsMain, 3);
@@ -182,43 +133,55 @@ TEST_F(ActionsTest, ASecondaryBarrelUsesTheSecondFeedAndHasALaunchOfItsOwn) {
     EXPECT_EQ(unit.items[0].name, "m4m203") << "the launcher stays in the hand";
 }
 
-TEST_F(ActionsTest, ScatterGrowsWithDistanceAndLackOfSkill) {
-    // marksmanship 100, accuracy 100, 5 cells: spread 5, scatter round(25 / 20) = 1 pixel to each side.
-    Hold("ak", "Aimed shot", 200);
-    unit.hand.accur = 100;
-    unit.hand.durab = 1000;
-    int lowest = 10000;
-    int highest = 0;
-    for (int i = 0; i < 60; ++i) {
+TEST_F(ActionsTest, AKnifeThrownLiesWhereItCameDown) {
+    Hold("knife", "Throw", 1);
+    ActOnTarget(30 * 20 + 90, 410);
+    EXPECT_EQ(groundItems[20][34][0].name, "knife");
+    EXPECT_EQ(groundItems[20][34][0].roundsMain, 1);
+    EXPECT_EQ(CountAt(34, 20, PileBase), 1);
+    EXPECT_EQ(unit.hand.name, "hand");
+}
+
+TEST_F(ActionsTest, WhatIsThrownOutOfTheFieldIsLostAndAGrenadeBurstsThere) {
+    PutUnit(0, 74, 20);
+    for (const char* thing : {"knife", "c4", "m67"}) {
+        Hold(thing, "Throw", 1);
         unit.time = 400;
-        ActOnTarget(30 * 20 + 110, 410);
-        lowest = std::min<int>(lowest, impactX);
-        highest = std::max<int>(highest, impactX);
+        frmField.cmbLog.List.clear();
+        ActOnTarget(1590, 410);
+        EXPECT_EQ(Log().find(std::string(thing) + " is lost outside the field\n") != std::string::npos,
+                  std::string(thing) != "m67");
+        EXPECT_EQ(unit.items[0].name, "");
     }
-    EXPECT_EQ(lowest, 35);
-    EXPECT_EQ(highest, 35);
+    EXPECT_EQ(teamLast[PileList], -1);
+    EXPECT_EQ(teamLast[ChargeList], -1);
+}
+
+TEST_F(ActionsTest, ABurstWandersOffFartherThanAnyOfItsBulletsScatters) {
+    // Accuracy 10, 20 cells: a spread of 90 + 20 and a scatter of 20 * 110 / 20 = 110 pixels, six cells.
+    const int single = FarthestOff("Aimed shot");
+    EXPECT_LE(single, 6);
+    EXPECT_GE(single, 3);
+    EXPECT_GT(FarthestOff("Full auto"), 8);
 }
 
 TEST_F(ActionsTest, FoldingCostsNothing) {
     Hold("etool", "Fold", 0);
-    const int time = unit.time;
     ActOnTarget(700, 410);
     EXPECT_EQ(unit.hand.name, "etoolfold");
     EXPECT_EQ(unit.items[0].count, 0);
-    EXPECT_EQ(frmField.comboMode.List, std::vector<std::string>{"Unfold"});
     ActOnTarget(700, 410);
     EXPECT_EQ(unit.items[0].name, "etool");
     EXPECT_EQ(unit.items[0].count, 1);
-    EXPECT_EQ(unit.time, time);
+    EXPECT_EQ(unit.time, 400);
 }
 
 TEST_F(ActionsTest, ASoldierWhoSpendsHisTimeFiringFinishesFirst) {
     PutUnit(1, 10, 10);
-    Hold("ak", "Aimed shot", 20);
+    Hold("ak", "Aimed shot");
     unit.time = WeaponInfoByName("ak").time + 2;
     Dispatch({EventKind::MouseDown, "frmField.area", -1, 2, 0, 900, 410});
     EXPECT_EQ(unit.items[0].roundsMain, 19);
-    EXPECT_EQ(unit.time, 2);
     EXPECT_EQ(curUnit, 1);
 }
 

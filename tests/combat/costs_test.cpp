@@ -1,13 +1,10 @@
 // Costs: what pays, what refuses, the feed of the held thing, and the blow's narrow field.
 #include "combat/costs.h"
 
-#include "combat/actions.h"
-#include "combat/things.h"
 #include "data/weapons_file.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -19,75 +16,36 @@ class CostsTest : public GameTest {
     }
 
     Unit& unit = UnitTable[0];
-
-    // Puts a thing of the weapons file in the unit's hand and selects its first mode.
-    void Hold(const std::string& name) {
-        unit.items[0].name = name;
-        unit.items[0].count = 1;
-        RefreshHand();
-    }
 };
 
-TEST_F(CostsTest, EachKindPaysFromItsPurse) {
-    Hold("ak");
-    unit.handRounds = 5;
-    money = 100;
-    unit.hand.durab = 10;
-    EXPECT_TRUE(Spend(5, "time"));
-    EXPECT_TRUE(Spend(7, "energy"));
-    EXPECT_TRUE(Spend(1, "ammo"));
-    EXPECT_TRUE(Spend(40, "money"));
-    EXPECT_TRUE(Spend(3, "durab"));
-    EXPECT_FALSE(Spend(0, "hope"));
-    EXPECT_EQ(unit.time, 75);
-    EXPECT_EQ(unit.energy, 53);
-    EXPECT_EQ(unit.handRounds, 4);
-    EXPECT_EQ(unit.items[0].roundsMain, 4) << "the thing itself is never behind";
-    EXPECT_EQ(money, 60);
-    EXPECT_EQ(unit.hand.durab, 7);
-    EXPECT_TRUE(Spend(-1, "durab"));
-    EXPECT_EQ(unit.hand.durab, 8);
-}
-
-TEST_F(CostsTest, TooLittleIsRefusedAndHeardForTimeAndEnergyAlone) {
-    Hold("ak");
-    unit.handRounds = 0;
-    unit.hand.durab = 0;
-    unit.time = 5;
-    unit.energy = 5;
-    host.sounds.clear();
-    EXPECT_FALSE(Spend(6, "time"));
-    EXPECT_FALSE(Spend(6, "energy"));
-    EXPECT_EQ(host.sounds.size(), 2U);
-    EXPECT_FALSE(Spend(1, "ammo"));
-    EXPECT_FALSE(Spend(1, "durab"));
-    EXPECT_FALSE(Spend(1, "money"));
-    EXPECT_EQ(host.sounds.size(), 2U);
-    EXPECT_TRUE(Spend(5, "energy"));
-    EXPECT_EQ(unit.energy, 0);
-}
-
-TEST_F(CostsTest, TheFeedFollowsTheFamily) {
+TEST_F(CostsTest, EachKindPaysFromItsPurseAndARefusalIsHeardForTimeAndEnergyAlone) {
     struct Case {
-        const char* name;
-        const char* mode;
-        int rounds;
+        const char* kind;
+        float amount;
+        bool paid;
+        std::size_t sounds;
     };
-    constexpr Case Cases[] = {{"m4m203", "Aimed shot", 20},
-                              {"m4m203", "Secondary", 3},
-                              {"spas", "Aimed shot", 3},
-                              {"crossbow", "Aimed shot", 3},
-                              {"ak", "Aimed shot", 20}};
+    constexpr Case Cases[] = {
+        {"time", 5, true, 0},  {"time", 10, false, 1},  {"energy", 5, true, 0}, {"energy", 10, false, 1},
+        {"ammo", 5, true, 0},  {"ammo", 10, false, 0},  {"money", 5, true, 0},  {"money", 10, false, 0},
+        {"durab", 5, true, 0}, {"durab", 10, false, 0}, {"durab", -1, true, 0}, {"hope", 0, false, 0},
+    };
     for (const Case& c : Cases) {
-        Hold(c.name);
-        unit.items[0].roundsMain = 20;
-        unit.items[0].roundsSecond = 3;
-        frmField.comboMode.Text = c.mode;
-        HandSync("real2fake");
-        EXPECT_EQ(unit.handRounds, c.rounds) << c.name << " " << c.mode;
+        Hold("ak", "", 9);
+        money = unit.time = unit.energy = unit.hand.durab = 9;
+        host.sounds.clear();
+        EXPECT_EQ(Spend(c.amount, c.kind), c.paid) << c.kind;
+        const std::string kind = c.kind;
+        const auto left = [&](const char* purse) {
+            return kind == purse && c.paid ? 9 - static_cast<int>(c.amount) : 9;
+        };
+        EXPECT_EQ(unit.time, left("time"));
+        EXPECT_EQ(unit.energy, left("energy"));
+        EXPECT_EQ(unit.items[0].roundsMain, left("ammo")) << "the thing itself is never behind";
+        EXPECT_EQ(money, left("money"));
+        EXPECT_EQ(unit.hand.durab, left("durab"));
+        EXPECT_EQ(host.sounds.size(), c.sounds) << c.kind;
     }
-    unit.handRounds = 256;
-    EXPECT_THROW(HandSync("fake2real"), RunTimeError);
 }
 
 TEST_F(CostsTest, ABlowInsideItsNarrowFieldSounds) {
@@ -97,8 +55,9 @@ TEST_F(CostsTest, ABlowInsideItsNarrowFieldSounds) {
         bool somebodyThere, sounds;
     };
     constexpr Case Cases[] = {
-        {"a neighbour", 34, 10, 33, 10, true, true},
+        {"a neighbour in column 34", 33, 10, 34, 10, true, true},
         {"a neighbour in column 35", 34, 10, 35, 10, true, false},
+        {"a neighbour in row 15", 20, 15, 21, 15, true, true},
         {"a neighbour in row 16", 20, 15, 20, 16, true, false},
         {"nobody there", 20, 10, 21, 10, false, false},
         {"two cells away", 20, 10, 22, 10, true, false},

@@ -1,7 +1,6 @@
 // Things on the ground and in the hand.
 #include "combat/things.h"
 
-#include "combat/actions.h"
 #include "data/weapons_file.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
@@ -21,12 +20,9 @@ class ThingsTest : public GameTest {
 };
 
 TEST_F(ThingsTest, AMarkerServesACellAndIsTakenAwayWhole) {
-    WeaponAdd(5, 6);
-    WeaponAdd(7, 8);
-    WeaponAdd(5, 6);
-    WeaponAdd(9, 9);
+    for (const auto& [x, y] : {std::pair{5, 6}, {7, 8}, {5, 6}, {9, 9}})
+        WeaponAdd(x, y);
     EXPECT_EQ(teamLast[PileList], 2);
-    EXPECT_EQ(CountAt(5, 6, PileBase), 1);
     WeaponRemove(5, 6);
     EXPECT_EQ(teamLast[PileList], 1);
     EXPECT_EQ(CountAt(5, 6, PileBase), 0);
@@ -35,56 +31,37 @@ TEST_F(ThingsTest, AMarkerServesACellAndIsTakenAwayWhole) {
     EXPECT_EQ(Log(), "weapon dropped\nweapon dropped\nweapon dropped\nweapon picked up\n");
 }
 
-TEST_F(ThingsTest, ADyingUnitDropsWhatItsFirstTenSlotsHold) {
-    for (int slot : {0, 5, 9, 10})
+TEST_F(ThingsTest, ADyingUnitDropsWhatItsFirstTenSlotsHoldAsFarAsThereIsRoom) {
+    for (int place = 0; place < 27; ++place)
+        groundItems[20][30][place].name = "ak";
+    for (int slot : {5, 9, 10})
         unit.items[slot].name = "med";
     unit.items[5].roundsSecond = 7;
+    unit.items[5].durab = 12;
     DropAll(0);
-    int lying = 0;
-    for (const InvItem& item : groundItems[20][30])
-        lying += item.name.empty() ? 0 : 1;
-    EXPECT_EQ(lying, 3);
+    EXPECT_EQ(groundItems[20][30][28].name, "med");
     EXPECT_EQ(unit.items[9].name, "");
     EXPECT_EQ(unit.items[10].name, "med");
     EXPECT_EQ(unit.items[5].roundsSecond, 7) << "an emptied slot keeps its second feed";
-    EXPECT_EQ(unit.hand.name, "hand");
+    EXPECT_EQ(unit.items[5].durab, 12);
     EXPECT_EQ(CountAt(30, 20, PileBase), 1);
-}
-
-TEST_F(ThingsTest, OnAFullCellTheRestStaysWithTheUnit) {
-    for (int place = 0; place < 29; ++place)
-        groundItems[20][30][place].name = "ak";
-    for (int slot = 0; slot < 10; ++slot)
-        unit.items[slot].name = "med";
+    unit.items[8].name = unit.items[9].name = "med";
     DropAll(0);
-    EXPECT_EQ(groundItems[20][30][29].name, "med");
-    EXPECT_EQ(unit.items[0].name, "");
-    EXPECT_EQ(unit.items[1].name, "med");
+    EXPECT_EQ(unit.items[8].name, "");
+    EXPECT_EQ(unit.items[9].name, "med") << "the cell is full";
 }
 
 TEST_F(ThingsTest, TheHandIsBareWithoutAThingToFightWith) {
-    struct Case {
-        const char* held;
-        const char* hand;
-    };
-    constexpr Case Cases[] = {
-        {"", "hand"}, {"ak", "ak"}, {"helmet", "hand"}, {"med", "med"}, {"nothing known", ""}};
-    for (const Case& c : Cases) {
-        unit.items[0] = InvItem();
-        unit.items[0].name = c.held;
-        if (c.hand[0] == '\0') {
-            EXPECT_THROW(RefreshHand(), RunTimeError) << "there is no picture of it";
-            continue;
-        }
-        if (std::string(c.held) == "helmet") unit.items[0].capMain = 100;
+    for (const auto& [held, hand] :
+         {std::pair{"", "hand"}, {"ak", "ak"}, {"helmet", "hand"}, {"med", "med"}}) {
+        unit.items[0].name = held;
         RefreshHand();
-        EXPECT_EQ(unit.hand.name, c.hand) << c.held;
+        EXPECT_EQ(unit.hand.name, hand) << held;
     }
 }
 
-TEST_F(ThingsTest, TheModeListIsMadeAnewOnlyForAnotherWeapon) {
-    unit.items[0].name = "ak";
-    RefreshHand();
+TEST_F(ThingsTest, TheHandIsAsNewAndItsModeListKeptForTheSameWeapon) {
+    Hold("ak");
     frmField.comboMode.Text = "kept";
     unit.hand.durab = 1;
     RefreshHand();
@@ -96,48 +73,28 @@ TEST_F(ThingsTest, TheModeListIsMadeAnewOnlyForAnotherWeapon) {
 }
 
 TEST_F(ThingsTest, ASmallThingStandsInTheMiddleOfALongPlace) {
-    ImageControl& image = frmField.imgInv[0];
-    unit.items[0].name = "med";
-    unit.items[0].count = 0;
-    ShowSlot(0, frmField);
-    EXPECT_EQ(image.Left, 37);
-    EXPECT_EQ(image.Width, 42);
-    EXPECT_EQ(image.Tag, "offset-large");
-    EXPECT_EQ(image.ToolTipText, WeaponInfoByName("med").fullName);
-    ShowSlot(0, frmField);
-    EXPECT_EQ(image.Left, 37) << "shifted once";
-    unit.items[0].name = "ak";
-    unit.items[0].count = 1;
-    unit.items[0].capMain = 31;
-    ShowSlot(0, frmField);
-    EXPECT_EQ(image.Left, 0);
-    EXPECT_EQ(image.Width, 117);
-    EXPECT_EQ(image.PictureName, "\\pic\\inv\\ak31.gif");
-    unit.items[0].name = "";
-    ShowSlot(0, frmField);
-    EXPECT_EQ(image.Picture, nullptr);
-    EXPECT_THROW(ShowSlot(50, frmField), RunTimeError);
-}
-
-TEST_F(ThingsTest, EachThingOffersItsModes) {
     struct Case {
         const char* name;
-        const char* modes;
+        int count, left, width;
+        const char* picture;
     };
-    constexpr Case Cases[] = {{"etool", "Hit,Dig,Fill,Fold,"},
-                              {"etoolfold", "Unfold,"},
-                              {"mpl", "Hit,Dig,Fill,"},
-                              {"med", "Cure,"},
-                              {"hand", "Hit,"}};
+    constexpr Case Cases[] = {
+        {"med", 0, 37, 42, "\\pic\\inv\\med.gif"},
+        {"med", 0, 37, 42, "\\pic\\inv\\med.gif"},  // shifted once
+        {"ak", 1, 0, 117, "\\pic\\inv\\ak31.gif"},
+    };
+    const ImageControl& image = frmField.imgInv[0];
+    unit.items[0].capMain = 31;
     for (const Case& c : Cases) {
-        unit.hand = WeaponInfoByName(c.name);
-        ListActions();
-        std::string modes;
-        for (const std::string& mode : frmField.comboMode.List)
-            modes += mode + ",";
-        EXPECT_EQ(modes, c.modes) << c.name;
-        EXPECT_EQ(frmField.comboMode.ListIndex, 0);
+        unit.items[0].name = c.name;
+        unit.items[0].count = c.count;
+        ShowSlot(0, frmField);
+        EXPECT_EQ(image.Left, c.left);
+        EXPECT_EQ(image.Width, c.width);
+        EXPECT_EQ(image.PictureName, c.picture);
+        EXPECT_EQ(image.ToolTipText, WeaponInfoByName(c.name).fullName);
     }
+    EXPECT_THROW(ShowSlot(50, frmField), RunTimeError);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// What lies in the field, what is open, which team a unit belongs to, the vehicle ahead.
+// What lies in the field, what is open, the vehicle ahead.
 #include "field/geometry.h"
 
 #include "data/terrain.h"
@@ -7,14 +7,17 @@
 
 namespace {
 
-class GeometryTest : public GameTest {};
+class GeometryTest : public GameTest {
+  protected:
+    GeometryTest() { ClearField(); }
+};
 
-TEST_F(GeometryTest, TheFieldEndsBeforeTheGridDoes) {
-    EXPECT_TRUE(InField(0, 0));
+TEST_F(GeometryTest, TheFieldEndsBeforeTheGridDoesAndPixelsFloorToCells) {
     EXPECT_TRUE(InField(75, 45));
-    EXPECT_FALSE(InField(76, 0));
-    EXPECT_FALSE(InField(0, 46));
-    EXPECT_FALSE(InField(-1, 0));
+    for (const auto& [x, y] : {std::pair{76, 0}, {0, 46}, {-1, 0}})
+        EXPECT_FALSE(InField(x, y) || CellFreeToStep(x, y));
+    for (const auto& [pixel, cell] : {std::pair{19, 0}, {20, 1}, {-1, -1}})
+        EXPECT_EQ(CellOfPixel(pixel), cell);
 }
 
 TEST_F(GeometryTest, EachBlockStopsWhatItSays) {
@@ -22,36 +25,20 @@ TEST_F(GeometryTest, EachBlockStopsWhatItSays) {
         int block;
         bool step, view;
     };
-    constexpr Case Cases[] = {
-        {0, true, true}, {1, false, true}, {2, true, false}, {3, false, false}, {4, false, false}};
-    ClearField();
-    for (const Case& c : Cases) {
+    for (const Case& c : {Case{0, true, true}, {1, false, true}, {2, true, false}, {3, false, false}}) {
         cellGrid[5][6].block = c.block;
         EXPECT_EQ(CellOpen("step", 6, 5), c.step) << c.block;
         EXPECT_EQ(CellOpen("view", 6, 5), c.view) << c.block;
-        EXPECT_FALSE(CellOpen("walk", 6, 5));
     }
-    EXPECT_FALSE(CellOpen("view", 76, 5));
-    cellGrid[5][6].block = 0;
-    cellGrid[5][6].occupant = 0;
-    EXPECT_TRUE(CellOpen("step", 6, 5));
-    EXPECT_FALSE(CellFreeToStep(6, 5));
-    EXPECT_FALSE(CellFreeToStep(-5, 400));
-}
-
-TEST_F(GeometryTest, PixelsFloorToCells) {
-    EXPECT_EQ(CellOfPixel(0), 0);
-    EXPECT_EQ(CellOfPixel(19), 0);
-    EXPECT_EQ(CellOfPixel(20), 1);
-    EXPECT_EQ(CellOfPixel(-1), -1);
+    PutUnit(0, 7, 5);
+    EXPECT_TRUE(CellOpen("step", 7, 5));
+    EXPECT_FALSE(CellFreeToStep(7, 5));
 }
 
 TEST_F(GeometryTest, TheVehicleOpensOnlyStraightAhead) {
-    ClearField();
     PutUnit(0, 10, 10);
     for (int tile : {17, 18, 25, 26}) {
-        cellGrid[9][11].tileY = Various;
-        cellGrid[9][11].tileX = tile;
+        PutTile(11, 9, tile, Various);
         UnitTable[0].facing = NorthEast;
         EXPECT_EQ(FacingStoreTile(0), tile == 18 || tile == 25) << tile;
         UnitTable[0].facing = East;
@@ -59,8 +46,6 @@ TEST_F(GeometryTest, TheVehicleOpensOnlyStraightAhead) {
     }
     PutUnit(1, 75, 45);
     EXPECT_FALSE(FacingStoreTile(1)) << "off the field";
-    EXPECT_EQ(TeamOfUnit(19), 0);
-    EXPECT_EQ(TeamOfUnit(20), 1);
 }
 
 }  // namespace

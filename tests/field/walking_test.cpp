@@ -1,15 +1,10 @@
 // Turning, stepping and walking: what they cost, what refuses them, how a walk ends.
 #include "field/walking.h"
 
-#include <random>
-
-#include "field/geometry.h"
-#include "state/setup.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 #include "view/events.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -18,14 +13,10 @@ class WalkingTest : public GameTest {
     WalkingTest() {
         ClearField();
         PutUnit(0, 30, 20);
+        walkOn = 1;
     }
 
     Unit& unit = UnitTable[0];
-
-    // Pixel (x, y) away from the unit's centre.
-    void TurnToward(int x, int y) {
-        TurnTowards(static_cast<float>(unit.pixelX + 10 + x), static_cast<float>(unit.pixelY + 10 + y));
-    }
 
     static InputEvent ClickOn(int cellX, int cellY, int button = 1) {
         return {EventKind::MouseDown,
@@ -38,64 +29,60 @@ class WalkingTest : public GameTest {
     }
 };
 
-TEST_F(WalkingTest, ATurnCostsOneTimeForEach45DegreesTheShorterWayRound) {
-    // Rows: from east, west, north, south, north-east, south-east, south-west, north-west; columns: to the
-    // same.
-    constexpr int Costs[8][8] = {{0, 4, 2, 2, 1, 1, 3, 3}, {4, 0, 2, 2, 3, 3, 1, 1}, {2, 2, 0, 4, 1, 3, 3, 1},
-                                 {2, 2, 4, 0, 3, 1, 1, 3}, {1, 3, 1, 3, 0, 2, 4, 2}, {1, 3, 3, 1, 2, 0, 2, 4},
-                                 {3, 1, 3, 1, 4, 2, 0, 2}, {3, 1, 1, 3, 2, 4, 2, 0}};
-    for (int from = 0; from < FacingCount; ++from)
-        for (int to = 0; to < FacingCount; ++to) {
-            unit.facing = from;
-            unit.time = 80;
-            const int energy = unit.energy;
-            EXPECT_EQ(TurnOrStep(false, to), from != to);
-            EXPECT_EQ(unit.facing, to);
-            EXPECT_EQ(80 - unit.time, Costs[from][to]) << from << " to " << to;
-            EXPECT_EQ(unit.energy, energy) << "turning is free of energy";
-        }
-}
-
-TEST_F(WalkingTest, AReversalGoesClockwise) {
+TEST_F(WalkingTest, ATurnCostsOneTimeForEach45DegreesTheShorterWayRoundAndClockwiseAtWorst) {
     struct Case {
-        int from, to, halfWay;
+        int from, to, cost, firstOfTwo;  // facing when the time ends after two
     };
-    constexpr Case Cases[] = {{North, South, East},
-                              {South, North, West},
-                              {East, West, South},
-                              {West, East, North},
-                              {NorthEast, SouthWest, SouthEast}};
+    constexpr Case Cases[] = {
+        {East, NorthEast, 1, NorthEast}, {East, South, 2, South},
+        {North, SouthWest, 3, West},     {NorthEast, SouthEast, 2, SouthEast},
+        {NorthWest, East, 3, NorthEast}, {North, South, 4, East},
+        {West, East, 4, North},          {NorthEast, SouthWest, 4, SouthEast},
+    };
+    unit.team = EnemyTeam;  // whose selection is not handed on
     for (const Case& c : Cases) {
         unit.facing = c.from;
+        unit.time = 80;
+        EXPECT_TRUE(TurnOrStep(false, c.to));
+        EXPECT_EQ(unit.facing, c.to);
+        EXPECT_EQ(80 - unit.time, c.cost) << c.from << " to " << c.to;
+        EXPECT_EQ(unit.energy, 60) << "turning is free of energy";
+        unit.facing = c.from;
         unit.time = 2;
-        unit.team = EnemyTeam;  // whose selection is not handed on
-        EXPECT_TRUE(TurnOrStep(true, c.to)) << "out of time on the way, and yet done";
-        EXPECT_EQ(unit.facing, c.halfWay);
-        EXPECT_EQ(unit.time, 0);
-        EXPECT_FALSE(TurnOrStep(true, c.to));
-        EXPECT_EQ(unit.facing, c.halfWay);
+        EXPECT_TRUE(TurnOrStep(false, c.to)) << "out of time on the way, and yet done";
+        EXPECT_EQ(unit.facing, c.firstOfTwo) << c.from << " to " << c.to;
+    }
+}
+
+TEST_F(WalkingTest, ATurnThatRunsOutOfTimeDoesNotLook) {
+    PutUnit(20, 30, 25);
+    unit.team = EnemyTeam;  // whose selection is not handed on
+    for (const auto& [time, seen] : {std::pair{3, 0}, {80, 1}}) {
+        unit.facing = North;
+        unit.time = time;
+        TurnOrStep(false, South);
+        EXPECT_EQ(unit.seen[0], seen);
     }
 }
 
 TEST_F(WalkingTest, APixelPicksTheNearestOfEightDirections) {
     struct Case {
-        int dx, dy, facing;
+        int dx, dy, facing;  // pixels from the unit's centre
     };
     constexpr Case Cases[] = {
-        {30, 14, East},        {28, 14, East},  // exactly twice
-        {27, 14, SouthEast},   {14, 28, South},        {14, 27, SouthEast}, {-28, 14, West},
-        {-27, -14, NorthWest}, {0, -40, North},        {11, 10, East},      {11, 11, SouthEast},
-        {10, 11, South},       {400, -201, NorthEast}, {400, -200, East},
+        {28, 14, East},    {27, 14, SouthEast},  // from exactly twice on it is straight
+        {14, 28, South},   {14, 27, SouthEast},    {-28, 14, West},     {-27, -14, NorthWest},
+        {0, -40, North},   {11, 10, East},         {11, 11, SouthEast},  // ten are within its own square
+        {400, -200, East}, {400, -201, NorthEast},
     };
     for (const Case& c : Cases) {
         unit.facing = c.facing == North ? South : North;
         unit.time = 80;
-        TurnToward(c.dx, c.dy);
+        TurnTowards(static_cast<float>(610 + c.dx), static_cast<float>(410 + c.dy));
         EXPECT_EQ(unit.facing, c.facing) << c.dx << ", " << c.dy;
     }
-    unit.facing = West;
-    TurnToward(10, -10);
-    EXPECT_EQ(unit.facing, West) << "a point of its own square turns nobody";
+    TurnTowards(620, 420);
+    EXPECT_EQ(unit.facing, NorthEast) << "a point of its own square turns nobody";
 }
 
 TEST_F(WalkingTest, AStepCostsByStanceAndLoad) {
@@ -116,64 +103,65 @@ TEST_F(WalkingTest, AStepCostsByStanceAndLoad) {
     }
 }
 
-TEST_F(WalkingTest, AStepIntoAWallCostsNothingAndOneWithoutTimeCostsEnergy) {
+TEST_F(WalkingTest, ARefusedStepKeepsTheEnergyThatItHasPaid) {
+    struct Case {
+        const char* what;
+        int facing, time, energy, energyAfter;
+        std::size_t sounds;
+    };
+    constexpr Case Cases[] = {
+        {"into a wall", East, 80, 60, 60, 0},
+        {"without time", South, 5, 60, 55, 1},
+        {"without energy the time is not asked for", South, 80, 4, 4, 1},
+    };
     DrawField(31, 20, {"#"});
-    EXPECT_FALSE(TurnOrStep(true, East));
-    EXPECT_EQ(unit.energy, 60);
-    unit.facing = South;
-    unit.stance = Crouch;
-    unit.time = 5;
-    host.sounds.clear();
-    EXPECT_FALSE(TurnOrStep(true, South));
-    EXPECT_EQ(unit.energy, 55) << "the energy is gone";
-    EXPECT_EQ(unit.time, 5);
+    for (const Case& c : Cases) {
+        unit.facing = c.facing;
+        unit.stance = Crouch;
+        unit.time = c.time;
+        unit.energy = c.energy;
+        host.sounds.clear();
+        EXPECT_FALSE(TurnOrStep(true, c.facing)) << c.what;
+        EXPECT_EQ(unit.energy, c.energyAfter) << c.what;
+        EXPECT_EQ(unit.time, c.time) << c.what;
+        EXPECT_EQ(host.sounds.size(), c.sounds) << c.what;
+    }
     EXPECT_EQ(unit.cellY, 20);
-    ASSERT_EQ(host.sounds.size(), 1U);
-    EXPECT_EQ(host.sounds[0].fileName, "\\wav\\bump\\wound2.wav");
-    unit.energy = 4;
-    unit.time = 80;
-    EXPECT_FALSE(TurnOrStep(true, South));
-    EXPECT_EQ(unit.time, 80) << "without energy the time is not asked for";
 }
 
-TEST_F(WalkingTest, AWalkEndsBesideAnOccupiedDestination) {
-    PutUnit(1, 34, 20);
-    walkOn = 1;
-    EXPECT_TRUE(WalkTo(34, 20, 100));
-    EXPECT_EQ(unit.cellX, 33);
-    EXPECT_EQ(unit.time, 80 - 3 * 4);
-    EXPECT_EQ(unit.energy, 60 - 3);
-}
-
-TEST_F(WalkingTest, AWalkStopsWhenTimeOrTheGoAheadIsGone) {
-    walkOn = 1;
-    unit.time = 10;
-    PutUnit(1, 10, 10);  // to whom the selection goes
-    EXPECT_FALSE(WalkTo(40, 20, 100));
-    EXPECT_EQ(unit.cellX, 32);
-    EXPECT_EQ(unit.time, 2);
-    EXPECT_EQ(curUnit, 1) << "the step that used the time up hands over";
-
-    PutUnit(0, 30, 20);
-    curUnit = 0;
-    walkOn = 0;
-    EXPECT_FALSE(WalkTo(40, 20, 100));
-    EXPECT_EQ(unit.cellX, 31) << "the first entry is walked, then the flag is looked at";
-
-    PutUnit(0, 30, 20);
-    walkOn = 1;
-    EXPECT_TRUE(WalkTo(40, 20, 4));
-    EXPECT_EQ(unit.cellX, 34);
+TEST_F(WalkingTest, AWalkEndsForItsReasons) {
+    struct Case {
+        const char* what;
+        int x, maxSteps, time, goAhead;
+        bool arrived;
+        int cellX, timeAfter;
+    };
+    constexpr Case Cases[] = {
+        {"beside an occupied destination", 34, 100, 80, 1, true, 33, 80 - 3 * 4},
+        {"out of time", 40, 100, 10, 1, false, 32, 2},
+        {"the first entry is walked, then the flag is looked at", 40, 100, 80, 0, false, 31, 76},
+        {"after the steps allowed", 40, 2, 80, 1, true, 32, 72},
+    };
+    for (const Case& c : Cases) {
+        ClearField();
+        PutUnit(0, 30, 20);
+        PutUnit(1, 34, 20);
+        curUnit = 0;
+        walkOn = c.goAhead;
+        unit.time = c.time;
+        EXPECT_EQ(WalkTo(c.x, 20, c.maxSteps), c.arrived) << c.what;
+        EXPECT_EQ(unit.cellX, c.cellX) << c.what;
+        EXPECT_EQ(unit.time, c.timeAfter) << c.what;
+        EXPECT_EQ(curUnit, c.timeAfter < 4 ? 1 : 0) << c.what;
+    }
 }
 
 TEST_F(WalkingTest, AWalkWithoutAPathStepsToAndFro) {
     DrawField(29, 19, {"#####", "#0..#", "#####"});
-    walkOn = 1;
     unit.time = 19;
     PutUnit(1, 10, 10);
     EXPECT_TRUE(WalkTo(50, 20, 100)) << "the plan runs out, standing still at its end";
-    // A step east leaves 15 time, the turn back for 4 and the step west for 4 leave 7; the wall refuses the
-    // rest.
+    // A step east for 4, the turn back for 4 and the step west for 4; the wall refuses the rest.
     EXPECT_EQ(unit.cellX, 30);
     EXPECT_EQ(unit.facing, West);
     EXPECT_EQ(unit.time, 7);
@@ -181,102 +169,35 @@ TEST_F(WalkingTest, AWalkWithoutAPathStepsToAndFro) {
 
 TEST_F(WalkingTest, ASoldierInColumn0LosesHisWayOffTheField) {
     PutUnit(0, 0, 20);
-    walkOn = 1;
     EXPECT_THROW(WalkTo(5, 20, 100), RunTimeError);
 }
 
-TEST_F(WalkingTest, AFirstClickTurnsAndASecondWalks) {
-    Dispatch(ClickOn(30, 25));
-    EXPECT_EQ(unit.facing, South);
-    EXPECT_EQ(unit.cellY, 20);
-    EXPECT_EQ(walkOn, 1);
-    Dispatch(ClickOn(30, 25));
-    EXPECT_EQ(unit.cellY, 25);
-    Dispatch(ClickOn(30, 25, 2));
-    EXPECT_EQ(unit.cellY, 25) << "the right button walks nowhere";
-}
-
-TEST_F(WalkingTest, TheVeryFirstClickOnTheCornerWalksAtOnce) {
-    Dispatch(ClickOn(0, 0));
-    EXPECT_NE(unit.cellY, 20);
-}
-
-TEST_F(WalkingTest, AClickDuringAWalkEndsItAndIsNotLost) {
-    lastClickX = 50;
-    lastClickY = 20;
-    host.Queue(ClickOn(30, 40), host.pumps + 30);  // 19 waves, then a pump after each step
-    Dispatch(ClickOn(50, 20));
-    EXPECT_EQ(unit.cellX, 41) << "eleven steps were walked";
-    EXPECT_NE(unit.facing, East);
-    EXPECT_EQ(lastClickY, 40);
-}
-
-TEST_F(WalkingTest, AClickDuringTheSearchReplacesIt) {
-    lastClickX = 50;
-    lastClickY = 20;
-    host.Queue(ClickOn(30, 15), host.pumps + 5);
-    host.Queue(ClickOn(30, 15), host.pumps + 5);
-    Dispatch(ClickOn(50, 20));
-    EXPECT_EQ(unit.cellX, 30);
-    EXPECT_EQ(unit.cellY, 15);
-}
-
-TEST_F(WalkingTest, SelectingAnotherSoldierEndsTheWalk) {
-    PutUnit(1, 10, 10);
-    lastClickX = 50;
-    lastClickY = 20;
-    host.Queue(ClickOn(10, 10), host.pumps + 22);
-    Dispatch(ClickOn(50, 20));
-    EXPECT_EQ(curUnit, 1);
-    EXPECT_EQ(unit.cellX, 33);
-    EXPECT_EQ(UnitTable[1].cellX, 10);
-}
-
-// Random clicks and keys at random pumps: whatever is let in, nothing breaks, and units and cells agree.
-TEST_F(WalkingTest, NestedOrdersDoNotCrash) {
-    StartGame(3);
-    std::mt19937 generator(11);
-    const auto draw = [&generator](int count) {
-        return static_cast<int>(generator() % static_cast<unsigned>(count));
+TEST_F(WalkingTest, ANewerOrderEndsAWalkOrItsSearchAndIsNotLost) {
+    struct Case {
+        const char* what;
+        InputEvent event;
+        int pumps, clicks;  // 19 waves, then a pump after each step
+        int current, cellX, cellY;
     };
-    const auto anyEvent = [&]() -> InputEvent {
-        static constexpr int Keys[] = {32, 33, 34, 35, 36, 37, 38, 39, 40, 97, 103, 219, 221};
-        switch (draw(10)) {
-            case 0:
-                return {EventKind::KeyDown, "frmField", -1, Keys[draw(13)]};
-            case 1:
-                return {EventKind::Click, "frmField.imgStance", draw(4)};
-            case 2:
-                return {EventKind::Click, "frmField.imgEnemyCount"};
-            case 3:
-                return {EventKind::Click, "frmField.cmdNextTurn"};
-            case 4:
-                return {EventKind::Choose, "frmField.comboMode", -1, draw(9) - 1};
-            case 5:
-                return {EventKind::Click, "frmField.imgStop"};
-            default:
-                return ClickOn(1 + draw(30), 1 + draw(14), 1 + draw(2));
-        }
+    const Case cases[] = {
+        {"a click after eleven steps", ClickOn(30, 40), 30, 1, 0, 41, 20},
+        {"two clicks in the search", ClickOn(30, 15), 5, 2, 0, 30, 15},
+        {"a selection after three steps", ClickOn(10, 10), 22, 1, 1, 33, 20},
     };
-    for (int round = 0; round < 400; ++round) {
-        const InputEvent first = anyEvent();
-        for (int i = 0; i < 4; ++i)
-            host.Queue(anyEvent(), host.pumps + draw(40));
-        try {
-            Dispatch(first);
-            Dispatch(first);
-        } catch (const ProcessEnded&) {
-            StartGame(static_cast<unsigned>(round));  // the mission was won or lost
-        }
-        for (int i : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 20, 21, 22}) {
-            const Unit& any = UnitTable[i];
-            if (any.status == Dead) continue;
-            ASSERT_EQ(cellGrid[any.cellY][any.cellX].occupant, i) << "round " << round;
-            ASSERT_EQ(any.pixelX, any.cellX * 20);
-            ASSERT_EQ(any.pixelY, any.cellY * 20);
-        }
-        ASSERT_EQ(game.operationDepth, 0);
-        if (round % 20 == 0) Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
+    for (const Case& c : cases) {
+        ClearField();
+        PutUnit(0, 30, 20);
+        PutUnit(1, 10, 10);
+        curUnit = 0;
+        lastClickX = 50;
+        lastClickY = 20;
+        for (int i = 0; i < c.clicks; ++i)
+            host.Queue(c.event, host.pumps + c.pumps);
+        Dispatch(ClickOn(50, 20));
+        EXPECT_EQ(curUnit, c.current) << c.what;
+        EXPECT_EQ(unit.facing == East, c.current == 1) << c.what << ": no more step was begun";
+        EXPECT_EQ(unit.cellX, c.cellX) << c.what;
+        EXPECT_EQ(unit.cellY, c.cellY) << c.what;
     }
 }
 

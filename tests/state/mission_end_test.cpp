@@ -18,25 +18,13 @@ class MissionEndTest : public GameTest {
     }
 };
 
-TEST_F(MissionEndTest, TheRollNamesEveryoneUpToTheLostTeam) {
-    MakeTeam(SquadTeam, {Active, Dead});
-    MakeTeam(EnemyTeam, {Dead});
-    EXPECT_EQ(TeamEliminated(), 1);
-    EXPECT_EQ(Log(),
-              "u (#0) from team #0 alive.\n"
-              "u (#1) from team #0 dead.\n"
-              "u (#20) from team #1 dead.\n"
-              "All 1 fighters of team #1 eliminated\n");
-}
-
-TEST_F(MissionEndTest, EachOutcomeHasItsWord) {
+TEST_F(MissionEndTest, EachOutcomeHasItsWordAndTheSquadGoesBackToItsRoster) {
     struct Case {
         std::vector<int> squad, enemies, civilians;
         const char* message;
     };
     const Case cases[] = {
         {{Active}, {Active}, {}, "Withdrawal. The end."},
-        {{Dead}, {Active}, {}, "Defeat. The end."},
         {{Wounded, Dead}, {Dead, Dead}, {}, "Victory. The end."},
         {{Dead}, {Dead}, {}, "Defeat. The end."},
         {{Active}, {Active}, {Dead}, "Team #2 exterminated. The end."},
@@ -44,20 +32,15 @@ TEST_F(MissionEndTest, EachOutcomeHasItsWord) {
     for (const Case& c : cases) {
         ResetState();
         host.messages.clear();
+        teamLast[RosterTeam] = 9;
         MakeTeam(SquadTeam, c.squad);
         MakeTeam(EnemyTeam, c.enemies);
         MakeTeam(2, c.civilians);
         EXPECT_THROW(EndGame(), ProcessEnded);
         EXPECT_EQ(host.messages, std::vector<std::string>{c.message});
+        EXPECT_EQ(teamLast[RosterTeam], teamLast[SquadTeam]);
+        EXPECT_EQ(UnitTable[60].status, c.squad[0]);
     }
-}
-
-TEST_F(MissionEndTest, TheSquadIsCopiedOntoTheRostersPlaces) {
-    MakeTeam(SquadTeam, {Active, Dead});
-    teamLast[RosterTeam] = 9;
-    SaveRosterBack();
-    EXPECT_EQ(teamLast[RosterTeam], 1);
-    EXPECT_EQ(UnitTable[61].status, Dead);
 }
 
 }  // namespace

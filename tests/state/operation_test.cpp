@@ -20,19 +20,13 @@ class OperationTest : public GameTest {
 
 TEST_F(OperationTest, AHandOverWaitsForTheOutermostAndComesOnce) {
     RunOperation([] {
-        RunOperation([] {
-            Spend(78, "time");
-            EXPECT_EQ(curUnit, 0);
-        });
+        RunOperation([] { Spend(78, "time"); });
         EXPECT_EQ(curUnit, 0) << "an inner operation's end hands nothing over";
         Spend(1, "time");
     });
     EXPECT_EQ(curUnit, 1);
-}
-
-TEST_F(OperationTest, OutsideOfOneItIsImmediate) {
     Spend(78, "time");
-    EXPECT_EQ(curUnit, 1);
+    EXPECT_EQ(curUnit, 2) << "outside of one it is immediate";
 }
 
 TEST_F(OperationTest, TimeThatComesBackKeepsTheSelection) {
@@ -50,11 +44,8 @@ TEST_F(OperationTest, WhatEventsSelectInItsMiddleStaysSelectedAfterIt) {
         Spend(78, "time");
     });
     EXPECT_EQ(curUnit, 1) << "what was selected, and the spent one's wish is void";
-}
-
-TEST_F(OperationTest, OutsideOfOneAPumpMaySelect) {
     PumpKeepingUnit([] { SelectNextUnit(); });
-    EXPECT_EQ(curUnit, 1);
+    EXPECT_EQ(curUnit, 2) << "outside of one a pump may select";
 }
 
 TEST_F(OperationTest, AnErrorLeavesNoOperationBehind) {

@@ -17,6 +17,8 @@ struct Glyph {
 
 constexpr Glyph Glyphs[] = {{'#', 0, Concrete}, {'T', 0, Trees}, {'=', 16, Wooden}, {'.', 0, Surface}};
 
+}  // namespace
+
 void PutTile(int x, int y, int tileX, int tileY) {
     Cell& cell = cellGrid[y][x];
     cell.tileX = tileX;
@@ -25,8 +27,6 @@ void PutTile(int x, int y, int tileX, int tileY) {
     cell.block = CellBlock(x, y);
     cell.occupant = -1;
 }
-
-}  // namespace
 
 void ClearField() {
     InitTables();

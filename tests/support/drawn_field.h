@@ -14,3 +14,6 @@ void DrawField(int x, int y, const std::vector<std::string>& rows);
 
 /// Puts a unit on a cell, as DrawField does.
 void PutUnit(int index, int x, int y);
+
+/// Gives a cell a tile of the sheet, with its strength and what it stops; nobody stands there.
+void PutTile(int x, int y, int tileX, int tileY);

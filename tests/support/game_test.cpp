@@ -3,6 +3,10 @@
 #include <fstream>
 #include <iterator>
 
+#include "combat/actions.h"
+#include "combat/things.h"
+#include "data/weapons_file.h"
+#include "personal/catalogue.h"
 #include "platform/files.h"
 #include "state/setup.h"
 #include "state/state.h"
@@ -45,4 +49,15 @@ std::string GameTest::Log(std::size_t first) const {
     for (std::size_t i = first; i < frmField.cmbLog.List.size(); ++i)
         lines += frmField.cmbLog.List[i] + "\n";
     return lines;
+}
+
+void GameTest::Hold(const std::string& name, const std::string& mode, int rounds) {
+    InvItem& held = UnitTable[curUnit].items[0];
+    held = MakeItem(WeaponInfoByName(name));
+    held.roundsMain = held.capSecond = held.roundsSecond = rounds;
+    RefreshHand();
+    const std::vector<std::string>& modes = frmField.comboMode.List;
+    for (std::size_t i = 0; i < modes.size(); ++i)
+        if (modes[i].starts_with(mode)) return ChooseMode(static_cast<int>(i));
+    ADD_FAILURE() << name << " offers no " << mode;
 }

@@ -32,6 +32,9 @@ class GameTest : public testing::Test {
     /// All lines of the log from line `first` on, each with a line feed.
     std::string Log(std::size_t first = 0) const;
 
+    /// Puts a thing with rounds in both feeds into the current unit's hand, under the mode that begins so.
+    static void Hold(const std::string& name, const std::string& mode = "", int rounds = 20);
+
     ProgramFolder folder;
     HeadlessHost host;
 };

