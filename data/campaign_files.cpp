@@ -16,6 +16,8 @@ namespace {
 constexpr const char* RosterFile = "\\dat\\save.dat";
 constexpr const char* StoreFile = "\\dat\\apc.dat";
 constexpr int HeaderRecord = 1;
+constexpr int MaxPiles = decltype(game.UnitTable)::Upper - PileBase + 1;
+constexpr std::size_t PileCountAt = PlaceItemsAt + 10;  // in the header of a map's things: the label's count
 constexpr int RosterDurab = 270;  // every thing of the roster is in this condition, whatever the file says
 
 void CheckKey(const Record& record, std::size_t offset, const std::string& key, bool known) {
@@ -97,7 +99,13 @@ void SaveStore() {
 void LoadGroundItems(const std::string& name) {
     const RecordReader file("\\map\\" + name + "g.map", PlaceLength);
     InvItem label;
-    ReadFields(file.ReadCounted(HeaderRecord, "the header"), PlaceItemsAt, label);
+    const Record header = file.ReadCounted(HeaderRecord, "the header");
+    ReadFields(header, PlaceItemsAt, label);
+    if (label.count > MaxPiles)
+        header.Refuse(PileCountAt,
+                      "expected up to " + std::to_string(MaxPiles) + " places with things, found " +
+                          std::to_string(label.count),
+                      Fault::Subscript);
     for (int j = 0; j < label.count; ++j) {
         const Record record = file.ReadCounted(
             HeaderRecord + 1 + j, "place " + std::to_string(j + 1) + " of " + std::to_string(label.count));

@@ -21,19 +21,26 @@ class Layer {
         return file.ReadCharacter("a line of 76 cells") - Blank;
     }
     void EndLine() { file.ReadLineEnd("the end of the line after 76 cells"); }
+    [[noreturn]] void Refuse(int x, const std::string& problem, Fault fault) const {
+        file.RefuseAt(file.Line(), x + 1, problem, fault);
+    }
 
   private:
     TextReader file;
 };
 
-void RecordLandingSpot(int x, int y) {
+void RecordLandingSpot(const Layer& layer, int x, int y) {
+    if (teamLast[LandingSpotList] == landingSpots.Upper)
+        layer.Refuse(
+            x, "expected up to " + std::to_string(landingSpots.Upper + 1) + " landing spots, found one more",
+            Fault::Subscript);
     ++teamLast[LandingSpotList];
     landingSpots[teamLast[LandingSpotList]] = {x, y};
 }
 
-void FillCell(int x, int y, int tileX, int tileY) {
+void FillCell(const Layer& layer, int x, int y, int tileX, int tileY) {
     if (tileY == Various && tileX == LandingMark) {
-        RecordLandingSpot(x, y);
+        RecordLandingSpot(layer, x, y);
         tileX = 0;
         tileY = Surface;
     }
@@ -43,22 +50,6 @@ void FillCell(int x, int y, int tileX, int tileY) {
     cell.tileY = tileY;
     cell.durab = CellDurab(tileX, tileY);
     cell.block = CellBlock(x, y);
-}
-
-void ReadLayers(const std::string& name) {
-    Layer columns(name, 1);
-    Layer rows(name, 2);
-    Layer third(name, 3);  // has no lasting effect, but must be as long as the others
-    for (int y = 0; y < FieldHeight; ++y) {
-        for (int x = 0; x < FieldWidth; ++x) {
-            const int tileX = columns.Read();
-            const int tileY = rows.Read();
-            third.Read();
-            FillCell(x, y, tileX, tileY);
-        }
-        for (Layer* layer : {&columns, &rows, &third})
-            layer->EndLine();
-    }
 }
 
 void PaintMap(FieldForm& form) {
@@ -77,8 +68,24 @@ void PaintMap(FieldForm& form) {
 
 }  // namespace
 
+void ReadMapLayers(const std::string& name) {
+    Layer columns(name, 1);
+    Layer rows(name, 2);
+    Layer third(name, 3);  // has no lasting effect, but must be as long as the others
+    for (int y = 0; y < FieldHeight; ++y) {
+        for (int x = 0; x < FieldWidth; ++x) {
+            const int tileX = columns.Read();
+            const int tileY = rows.Read();
+            third.Read();
+            FillCell(columns, x, y, tileX, tileY);
+        }
+        for (Layer* layer : {&columns, &rows, &third})
+            layer->EndLine();
+    }
+}
+
 void LoadMap(FieldForm& form, const std::string& name) {
-    ReadLayers(name);
+    ReadMapLayers(name);
     PaintMap(form);
 }
 

@@ -201,8 +201,9 @@ void TextReader::Refuse(const std::string& problem) const {
     RefuseAt(line, column, problem);
 }
 
-void TextReader::RefuseAt(int atLine, int atColumn, const std::string& problem) const {
-    ThrowBadData(name + ":" + std::to_string(atLine) + ":" + std::to_string(atColumn), problem);
+void TextReader::RefuseAt(int atLine, int atColumn, const std::string& problem, Fault fault) const {
+    throw RunTimeError(fault,
+                       name + ":" + std::to_string(atLine) + ":" + std::to_string(atColumn) + ": " + problem);
 }
 
 int Record::ReadInt16(std::size_t offset) const {

@@ -68,7 +68,8 @@ class TextReader {
     /// A BadData error at this place.
     [[noreturn]] void Refuse(const std::string& problem) const;
     /// The same at `column`, 1 for the first character, of `atLine`.
-    [[noreturn]] void RefuseAt(int atLine, int column, const std::string& problem) const;
+    [[noreturn]] void RefuseAt(int atLine, int column, const std::string& problem,
+                               Fault fault = Fault::BadData) const;
 
   private:
     std::string name;

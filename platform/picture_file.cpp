@@ -1,5 +1,6 @@
 #include "platform/picture_file.h"
 
+#include <cstdlib>
 #include <functional>
 #include <map>
 #include <memory>
@@ -14,23 +15,77 @@
 #define STBI_ONLY_BMP
 #define STBI_ONLY_GIF
 #define STBI_ONLY_JPEG
+// A file may leave out tables that the decoder then reads all the same: from zeros, which do no harm.
+#define STBI_MALLOC(size) std::calloc(1, size)
+#define STBI_REALLOC(block, size) std::realloc(block, size)
+#define STBI_FREE(block) std::free(block)
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wunused-function"
 #include <stb/stb_image.h>
 #pragma GCC diagnostic pop
 
+namespace {
+
+constexpr int MaxSide = 2048;  // pixels; the largest of the game's pictures has 760
+
+[[noreturn]] void Refuse(std::string_view name, const std::string& problem) {
+    throw RunTimeError(Fault::BadData, ShownName(name) + ": " + problem);
+}
+
+[[noreturn]] void RefuseFormat(std::string_view name) {
+    Refuse(name, std::string("expected a picture (BMP, GIF or JPEG), found: ") + stbi_failure_reason());
+}
+
+// Before anything is decoded, so that a few bytes of a header can't ask for gigabytes.
+void CheckSize(const stbi_uc* bytes, int length, std::string_view name) {
+    int width = 0;
+    int height = 0;  // below 0 for a BMP that is stored from its top
+    if (stbi_info_from_memory(bytes, length, &width, &height, nullptr) == 0) RefuseFormat(name);
+    const bool sensible =
+        width > 0 && width <= MaxSide && height != 0 && height >= -MaxSide && height <= MaxSide;
+    if (!sensible)
+        Refuse(name, "expected up to " + std::to_string(MaxSide) + " pixels either way, found " +
+                         std::to_string(width) + " by " + std::to_string(height));
+}
+
+// A JPEG's table of Huffman codes tells how many codes there are of each length. The decoder has room for
+// 256, takes the last of them for a mark of its own, and doesn't count. Where it looks for tables depends on
+// how far it gets, so every place that could begin one is looked at.
+void CheckHuffmanTables(std::string_view content, std::string_view name) {
+    constexpr std::string_view TableMark = "\xFF\xC4";
+    constexpr std::size_t TableHead = 17;  // which table it is, then the numbers of codes
+    constexpr std::size_t MaxCodes = 255;
+    const auto byte = [content](std::size_t at) -> std::size_t {
+        return at < content.size() ? static_cast<unsigned char>(content[at]) : 0;
+    };
+    for (std::size_t mark = content.find(TableMark); mark != content.npos;
+         mark = content.find(TableMark, mark + 1)) {
+        const std::size_t end = mark + 2 + (byte(mark + 2) << 8 | byte(mark + 3));
+        for (std::size_t table = mark + 4; table < end;) {
+            std::size_t codes = 0;
+            for (std::size_t i = 1; i < TableHead; ++i)
+                codes += byte(table + i);
+            if (codes > MaxCodes)
+                Refuse(name, "byte " + std::to_string(table) + ": expected up to " +
+                                 std::to_string(MaxCodes) + " Huffman codes, found " + std::to_string(codes));
+            table += TableHead + codes;
+        }
+    }
+}
+
+}  // namespace
+
 Picture DecodePicture(std::string_view content, std::string_view name) {
     constexpr int Channels = 4;
+    const auto* const bytes = reinterpret_cast<const stbi_uc*>(content.data());
+    const int length = static_cast<int>(content.size());
+    if (content.starts_with('\xFF')) CheckHuffmanTables(content, name);
+    CheckSize(bytes, length, name);
     int width = 0;
     int height = 0;
     const std::unique_ptr<stbi_uc, decltype(&stbi_image_free)> decoded(
-        stbi_load_from_memory(reinterpret_cast<const stbi_uc*>(content.data()),
-                              static_cast<int>(content.size()), &width, &height, nullptr, Channels),
-        &stbi_image_free);
-    if (!decoded)
-        throw RunTimeError(
-            Fault::BadData,
-            ShownName(name) + ": expected a picture (BMP, GIF or JPEG), found: " + stbi_failure_reason());
+        stbi_load_from_memory(bytes, length, &width, &height, nullptr, Channels), &stbi_image_free);
+    if (!decoded) RefuseFormat(name);
     Picture picture(width, height);
     const stbi_uc* from = decoded.get();
     for (int y = 0; y < height; ++y)

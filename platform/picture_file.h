@@ -5,7 +5,8 @@
 
 #include "platform/picture.h"
 
-/// The picture in `content`; `name` stands for it in messages. Throws RunTimeError (BadData).
+/// The picture in `content`; `name` stands for it in messages. Throws RunTimeError (BadData), also for
+/// one of more than 2048 pixels either way.
 Picture DecodePicture(std::string_view content, std::string_view name);
 
 /// The picture of a file under the program's folder, named as "\pic\weapon.gif"; a file is read once. Throws

@@ -5,6 +5,7 @@ packages_play="cmake ninja-build g++ ccache pkg-config qt6-base-dev libsdl2-mixe
 packages_check="$packages_play sox libgtest-dev libbenchmark-dev libtcod-dev"
 packages_lint="clang-format clang-tidy"
 packages_clang="clang"
+packages_fuzz="clang libclang-rt-14-dev"
 packages_package="$packages_play dpkg-dev file lintian appstream desktop-file-utils xvfb xdotool man-db"
 
 # need PURPOSE...: installs what is missing, as root or through sudo; without either it says what and stops.

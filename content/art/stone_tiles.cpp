@@ -61,13 +61,14 @@ void Outcrop(Relief& relief) {
     relief.Stain(Ellipse(10, 10.4, 8.8, 8.4), Colour(Ink::Moss), 0.6);
     std::uint32_t seed = 561;
     for (const Rock& rock : Rocks) {
+        ++seed;
         relief.Lay(Star(rock.x, rock.y, rock.radius, rock.radius * 0.86, 3, seed * 0.7),
                    {.colour = Colour(rock.ink),
                     .height = rock.height,
                     .round = static_cast<float>(rock.radius) * 0.6f,
                     .grain = 0.14f,
                     .bump = 0.3f,
-                    .seed = ++seed});
+                    .seed = seed});
     }
 }
 

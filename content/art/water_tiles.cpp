@@ -99,8 +99,10 @@ void SteppingStones(Relief& relief) {
     for (const Stone& stone : Stones) {
         relief.Stain(Ellipse(stone.x, stone.y, stone.radius + 0.8, stone.radius + 0.8), Colour(Ink::Foam),
                      0.55);
-        relief.Lay(Lump(stone.x, stone.y, stone.radius, 0.18, ++seed),
-                   {.colour = Between(Ink::Fieldstone, Ink::Concrete, seed % 3 * 0.4),
+        const double shade = seed % 3 * 0.4;
+        ++seed;
+        relief.Lay(Lump(stone.x, stone.y, stone.radius, 0.18, seed),
+                   {.colour = Between(Ink::Fieldstone, Ink::Concrete, shade),
                     .height = 1.3f,
                     .round = 1.4f,
                     .grain = 0.12f,

@@ -112,4 +112,21 @@ TEST_F(CampaignFilesTest, EachFacingHasItsText) {
     EXPECT_EQ(FacingText(2), "two");
 }
 
+TEST_F(CampaignFilesTest, MorePilesThanTheUnitsHaveRoomForAreRefused) {
+    std::string file(1112 * 105, '\0');
+    for (int place = 1; place <= 104; ++place) {
+        file[1112 * static_cast<std::size_t>(place)] = static_cast<char>(place % 76);
+        file[1112 * static_cast<std::size_t>(place) + 1] = static_cast<char>(place / 76);
+    }
+    Place(file, 2, "items     \x67");
+    folder.Write("map/tg.map", file);
+    EXPECT_EQ(ErrorOf([] { LoadGroundItems("t"); }), "");
+    teamLast[PileList] = -1;
+    Place(file, 2, "items     \x68");
+    folder.Write("map/tg.map", file);
+    EXPECT_EQ(ErrorOf([] { LoadGroundItems("t"); }),
+              "Run-time error 2: Subscript out of range: map/tg.map: record 1, byte 12: expected up to 103 "
+              "places with things, found 104");
+}
+
 }  // namespace

@@ -84,7 +84,9 @@ TEST_F(MapTest, LandingMarksBecomePlainGroundAndAreRememberedUpTo41) {
     columns = rows = third = Blank();
     for (int i = 0; i < 42; ++i)
         Put(i, 0, 7, Various);
-    EXPECT_EQ(Load(), "Run-time error 2: Subscript out of range: index 41 is not within -20 to 40");
+    EXPECT_EQ(Load(),
+              "Run-time error 2: Subscript out of range: map/t1.map:1:42: expected up to 41 landing spots, "
+              "found one more");
 }
 
 TEST_F(MapTest, ABrokenLayerIsNamedWithItsPlace) {

@@ -218,6 +218,18 @@ TEST_F(SoundDeviceTest, ABrokenFileIsNamed) {
     }
 }
 
+TEST_F(SoundDeviceTest, AHeaderThatAsksForGigabytesIsRefused) {
+    std::string wave = SineWave(10);
+    wave.replace(40, 4, "\xF0\xFF\xFF\xFF");
+    try {
+        device.Play(Sound("endless", wave));
+        FAIL() << "expected a run-time error";
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.About(),
+                  "wav/endless.wav: byte 40: expected a chunk of up to 20 bytes, found 4294967280");
+    }
+}
+
 using SoundDeviceDeathTest = SoundDeviceTest;
 
 TEST_F(SoundDeviceDeathTest, WithoutADeviceNothingHappensAndNothingIsPrinted) {

@@ -132,6 +132,17 @@ TEST(PictureFiles, ATransparentGifPixelHasNoColour) {
     EXPECT_EQ(picture.Pixel(0, 1), White);
 }
 
+TEST(PictureFiles, AHeaderThatAsksForGigabytesIsRefused) {
+    std::string file = TinyBitmap();
+    file.replace(18, 8, std::string("\x20\x4E\x00\x00\x20\x4E\x00\x00", 8));
+    try {
+        DecodePicture(file, "\\pic\\x.bmp");
+        FAIL();
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.About(), "pic/x.bmp: expected up to 2048 pixels either way, found 20000 by 20000");
+    }
+}
+
 TEST(PictureFiles, WhatIsNoPictureIsNamed) {
     try {
         DecodePicture("MZ, no picture", "\\pic\\x.gif");

@@ -162,8 +162,9 @@ class WeaponsCheck {
 
     // Whether the reader takes all numbers.
     bool CheckNumbers(const WeaponRow& row) {
+        constexpr std::size_t NumberColumns[] = {4, 5, 6, 7, 8, 9, 13, 14, 16};
         SourceFaults faults;
-        for (const std::size_t column : {4, 5, 6, 7, 8, 9, 13, 14, 16}) {
+        for (const std::size_t column : NumberColumns) {
             const bool read = row.IsWeapon() || column > ModesColumn;
             const SourceWord& cell = row.Cell(column);
             if (!read || cell.text == "_") continue;
