@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "desktop/scale.h"
+#include "desktop/stops.h"
 
 namespace {
 
@@ -44,9 +45,9 @@ std::string CaptionOf(const Control& control) {
 ControlView::ControlView(Control& shown, QWidget& by, const EventSink& to)
     : record(shown), widget(by), sink(to) {
     widget.setObjectName(QString::fromStdString(record.name));
-    widget.setAccessibleName(SpokenName(record));
-    // Keys belong to the window, and a press that a widget doesn't want isn't for what lies beneath it.
-    widget.setFocusPolicy(Qt::NoFocus);
+    // Tab alone moves the focus, a click never does; and a press that a widget doesn't want isn't for what
+    // lies beneath it.
+    widget.setFocusPolicy(IsStop(record) ? Qt::TabFocus : Qt::NoFocus);
     widget.setAttribute(Qt::WA_NoMousePropagation);
 }
 
@@ -55,11 +56,7 @@ void ControlView::Sync() {
     if (widget.geometry() != place) widget.setGeometry(place);
     SyncContent();
     SyncTip();
-    if (widget.isEnabledTo(widget.parentWidget()) != record.Enabled) {
-        widget.setEnabled(record.Enabled);
-        // A disabled control leaves the mouse to what lies beneath it.
-        widget.setAttribute(Qt::WA_TransparentForMouseEvents, !record.Enabled);
-    }
+    SyncEnabled();
     if (widget.isHidden() == record.Visible) widget.setVisible(record.Visible);
 }
 
@@ -83,9 +80,21 @@ QString ControlView::Tip() const {
     return QString::fromStdString(record.ToolTipText);
 }
 
+// A disabled control leaves the mouse to what lies beneath it; the keyboard still stops at such a picture,
+// and does there what the mouse would.
+void ControlView::SyncEnabled() {
+    if (shownEnabled == record.Enabled) return;
+    shownEnabled = record.Enabled;
+    widget.setEnabled(record.Enabled || IsDrawn(record));
+    widget.setAttribute(Qt::WA_TransparentForMouseEvents, !record.Enabled);
+}
+
 void ControlView::SyncTip() {
     const QString tip = Tip();
-    if (widget.toolTip() == tip) return;
+    if (named && widget.toolTip() == tip) return;
+    if (const char letter = ShortcutLetter(record); !named && letter != '\0')
+        widget.setAccessibleDescription(QStringLiteral("Alt+%1").arg(QLatin1Char(letter)));
+    named = true;
     widget.setToolTip(tip);
     widget.setAccessibleName(SpokenName(record));
 }
@@ -103,7 +112,9 @@ QString SpokenName(const Control& control) {
     std::string caption = CaptionOf(control);
     std::erase(caption, '&');
     std::replace(caption.begin(), caption.end(), '\r', ' ');
+    const QString tip = QString::fromStdString(control.ToolTipText);
+    const QString words = StopWords(control);
+    if (!words.isEmpty()) return tip.isEmpty() ? words : words + ": " + tip;
     if (!caption.empty()) return QString::fromStdString(caption);
-    if (!control.ToolTipText.empty()) return QString::fromStdString(control.ToolTipText);
-    return InWords(control.name);
+    return tip.isEmpty() ? InWords(control.name) : tip;
 }

@@ -45,14 +45,18 @@ class ControlView {
   private:
     QRect Place() const;
     void SyncTip();
+    void SyncEnabled();
 
     Control& record;
     QWidget& widget;
     const EventSink& sink;
+    bool shownEnabled = true;
+    bool named = false;  // for screen readers, not before the widget is whole
 };
 
 /// An event of `control`, named as Dispatch expects it, as "frmField.imgStance".
 InputEvent EventOf(const Control& control, EventKind kind, int code);
 
-/// What a screen reader says for a control: its caption, its tip, or its name in words, as "Enemy Count".
+/// What a screen reader says for a control: what it is and its tip, as "Pocket 3: Smoke grenade"; or its
+/// caption, its tip alone, or its name in words, as "Enemy Count".
 QString SpokenName(const Control& control);

@@ -12,12 +12,19 @@
 
 #include "desktop/picture_widget.h"
 #include "desktop/pointer_events.h"
+#include "desktop/stops.h"
 #include "desktop/text_widget.h"
 
 namespace {
 
 constexpr int WheelNotch = 120;   // eighths of a degree
 constexpr int RowsUnfolded = 20;  // of a list, before it scrolls
+
+// The caption with its shortcut's letter underlined, where it has that letter.
+QString Underlined(QString caption, char letter) {
+    const qsizetype at = letter == '\0' ? -1 : caption.indexOf(QLatin1Char(letter), 0, Qt::CaseInsensitive);
+    return at < 0 ? caption : caption.insert(at, '&');
+}
 
 }  // namespace
 
@@ -142,7 +149,9 @@ ButtonWidget::ButtonWidget(Button& shown, QWidget& parent, const EventSink& to)
 void ButtonWidget::SyncContent() {
     if (button.Caption == shownCaption) return;
     shownCaption = button.Caption;
-    setText(QString::fromStdString(shownCaption));
+    const char letter = ShortcutLetter(button);
+    setText(Underlined(QString::fromStdString(shownCaption), letter));
+    if (letter != '\0') setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter)));
     setAccessibleName(SpokenName(button));
 }
 

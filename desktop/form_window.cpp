@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
 #include <QTimer>
@@ -14,10 +13,11 @@
 #include <QWindow>
 
 #include "desktop/control_widgets.h"
-#include "desktop/key_codes.h"
+#include "desktop/drawn_accessible.h"
 #include "desktop/picture_widget.h"
 #include "desktop/pointer_events.h"
 #include "desktop/scale.h"
+#include "desktop/stops.h"
 
 namespace {
 
@@ -30,7 +30,8 @@ FormWindow::FormWindow(Form& shown, QWidget* owner, EventSink to)
       form(shown),
       sink(std::move(to)),
       client(new CanvasSurface(form.canvas, form.BackColor, *this)),
-      tips(*client) {
+      tips(*client),
+      keyboard(*this, *client, form, tips, sink) {
     setObjectName(QString::fromStdString(form.name));
     setFocusPolicy(Qt::StrongFocus);
     auto* layout = new QVBoxLayout(this);
@@ -41,6 +42,7 @@ FormWindow::FormWindow(Form& shown, QWidget* owner, EventSink to)
     client->setAccessibleName(SpokenName(form));
     client->setAttribute(Qt::WA_NoMousePropagation);
     new PointerEvents(*client, form, sink);
+    NameDrawnControls();
     Build();
 }
 
@@ -57,6 +59,7 @@ void FormWindow::Build() {
         QWidget* const parent = control->parent == &form ? client : WidgetOf(*control->parent);
         views.push_back(MakeControlView(*control, *parent, sink));
         tips.Watch(views.back()->Widget());
+        if (IsStop(*control)) keyboard.Add(*views.back());
     }
 }
 
@@ -86,6 +89,7 @@ void FormWindow::Sync() {
     for (const auto& timer : timers)
         timer->Sync();
     SyncVisible();
+    keyboard.Sync();
     tips.Sync();
 }
 
@@ -152,19 +156,8 @@ void FormWindow::AwaitExposure() {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
 }
 
-void FormWindow::keyPressEvent(QKeyEvent* event) {
-    SendKey(EventKind::KeyDown, *event);
-}
-
-void FormWindow::keyReleaseEvent(QKeyEvent* event) {
-    // A held key only repeats its press.
-    if (!event->isAutoRepeat()) SendKey(EventKind::KeyUp, *event);
-}
-
-void FormWindow::SendKey(EventKind kind, const QKeyEvent& key) const {
-    InputEvent event = EventOf(form, kind, KeyCode(key));
-    event.shift = ShiftState(key.modifiers());
-    sink(event);
+bool FormWindow::focusNextPrevChild(bool next) {
+    return keyboard.MoveFocus(next);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

@@ -9,6 +9,7 @@
 
 #include "desktop/control_view.h"
 #include "desktop/form_timer.h"
+#include "desktop/keyboard.h"
 #include "desktop/tips.h"
 
 class CanvasSurface;
@@ -34,8 +35,7 @@ class FormWindow : public QWidget {
     QWidget* WidgetOf(const Control& control) const;
 
   protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void keyReleaseEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     /// The close button only asks: what comes of it is for the game and the host.
     void closeEvent(QCloseEvent* event) override;
 
@@ -51,13 +51,13 @@ class FormWindow : public QWidget {
     void SyncFrame();
     void SyncVisible();
     QPoint PlaceBefore(const QWidget& owner) const;
-    void SendKey(EventKind kind, const QKeyEvent& key) const;
     void AwaitExposure();
 
     Form& form;
     const EventSink sink;
     CanvasSurface* client;  // the inside, below the menu
     Tips tips;
+    Keyboard keyboard;
     QMenuBar* menu = nullptr;  // only where the form has menu entries
     std::vector<MenuEntry> menuEntries;
     std::vector<ControlView*> views;  // in the order of the form's controls

@@ -1,5 +1,7 @@
 #include "desktop/pointer_events.h"
 
+#include <QCoreApplication>
+
 #include "desktop/key_codes.h"
 #include "desktop/scale.h"
 
@@ -14,7 +16,26 @@ int ButtonCode(Qt::MouseButtons buttons) {
     return code;
 }
 
+// To the widget that a press at `at` is for.
+void SendMouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton button,
+               Qt::MouseButtons held) {
+    QWidget* target = &widget;
+    for (; target->testAttribute(Qt::WA_TransparentForMouseEvents); target = target->parentWidget())
+        at = target->mapToParent(at);
+    QMouseEvent event(type, at, target->mapToGlobal(at), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &event);
+}
+
 }  // namespace
+
+void PointAt(QWidget& widget, QPointF at) {
+    SendMouse(widget, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
+}
+
+void PressAt(QWidget& widget, QPointF at, Qt::MouseButton button) {
+    SendMouse(widget, QEvent::MouseButtonPress, at, button, button);
+    SendMouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+}
 
 PointerEvents::PointerEvents(QWidget& target, const Control& ofControl, const EventSink& to, Reports what)
     : QObject(&target), widget(target), control(ofControl), sink(to), reports(what) {

@@ -7,6 +7,13 @@
 
 #include "desktop/control_view.h"
 
+/// Moves the pointer to `at`, in pixels of `widget`, as far as its control is concerned. A widget that leaves
+/// the mouse to what lies beneath it leaves it this too.
+void PointAt(QWidget& widget, QPointF at);
+
+/// Presses `button` at `at` and lets it go.
+void PressAt(QWidget& widget, QPointF at, Qt::MouseButton button);
+
 /// What is sent: everything, and the widget itself sees nothing of it; or moves, and the widget goes on to
 /// handle all as it does.
 enum class Reports { Everything, Moves };

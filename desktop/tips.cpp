@@ -1,5 +1,7 @@
 #include "desktop/tips.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QCursor>
 #include <QHelpEvent>
@@ -22,6 +24,13 @@ const QWidget* Bearer(const QWidget& parent, QPoint at) {
     return parent.toolTip().isEmpty() ? nullptr : &parent;
 }
 
+// For those who have no pointer to look around with, a stop without a tip tells its name, and each its key.
+QString TextBeside(const QWidget& stop) {
+    const QString text = stop.toolTip().isEmpty() ? stop.accessibleName() : stop.toolTip();
+    const QString key = stop.accessibleDescription();
+    return key.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, key);
+}
+
 }  // namespace
 
 Tips::Tips(QWidget& ofInside) : inside(ofInside) {
@@ -34,12 +43,26 @@ void Tips::Watch(QWidget& widget) {
 
 void Tips::Sync() {
     if (!QToolTip::isVisible()) return;
+    if (stop != nullptr) {
+        if (TextBeside(*stop) != QToolTip::text()) ShowBeside(*stop, spot);
+        return;
+    }
     const QPoint pointer = QCursor::pos();
     QWidget* const under = QApplication::widgetAt(pointer);
     if (under == nullptr || (under != &inside && !inside.isAncestorOf(under))) return;
     const QWidget* const bearer = Bearer(inside, inside.mapFromGlobal(pointer));
     const QString tip = bearer == nullptr ? QString() : bearer->toolTip();
     if (tip != QToolTip::text()) Show(pointer, *under);
+}
+
+void Tips::ShowBeside(QWidget& ofStop, const QRect& besideIt) {
+    stop = &ofStop;
+    spot = besideIt;
+    QToolTip::showText(inside.mapToGlobal(spot.bottomRight()), TextBeside(*stop), &inside, inside.rect());
+}
+
+void Tips::PutAway() {
+    if (std::exchange(stop, nullptr) != nullptr) QToolTip::hideText();
 }
 
 bool Tips::eventFilter(QObject* watched, QEvent* event) {
@@ -50,6 +73,7 @@ bool Tips::eventFilter(QObject* watched, QEvent* event) {
 
 // A tip is put away when the pointer leaves its control; `under` is the widget that the pointer moves on.
 void Tips::Show(QPoint at, QWidget& under) {
+    stop = nullptr;
     const QWidget* const bearer = Bearer(inside, inside.mapFromGlobal(at));
     if (bearer == nullptr) {
         QToolTip::hideText();

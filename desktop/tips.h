@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QRect>
 
 class QWidget;
 
@@ -17,6 +18,11 @@ class Tips : public QObject {
     /// A tip that is on show follows the pointer, and the record, at once.
     void Sync();
 
+    /// Shows the tip of `stop`, or its name, and its key beside `spot`, in pixels of the inside, until
+    /// PutAway or the pointer's next tip.
+    void ShowBeside(QWidget& stop, const QRect& spot);
+    void PutAway();
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -24,4 +30,6 @@ class Tips : public QObject {
     void Show(QPoint at, QWidget& under);
 
     QWidget& inside;
+    QWidget* stop = nullptr;  // whose tip ShowBeside has shown
+    QRect spot;
 };

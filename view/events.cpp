@@ -153,3 +153,13 @@ void Dispatch(const InputEvent& event) {
     Handle(event);
     if (IsForTheWindowToo(event, *control)) Handle(AsSeenByTheWindow(event, control));
 }
+
+bool TakesInput(const Control& control) {
+    if (control.form == &frmInfo && control.name == "imgInv") return control.index <= LastBoardSlot;
+    const std::string name = control.form->name + "." + control.name;
+    return std::any_of(std::begin(Handlers), std::end(Handlers), [&name](const Handler& handler) {
+        const bool byMouse = handler.event == EventKind::MouseDown || handler.event == EventKind::MouseMove ||
+                             handler.event == EventKind::Click;
+        return byMouse && handler.control == name;
+    });
+}

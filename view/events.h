@@ -4,5 +4,11 @@
 
 #include "platform/input_event.h"
 
+struct Control;
+
 /// Runs the handler of `event` to its end; an event that no handler wants does nothing.
 void Dispatch(const InputEvent& event);
+
+/// Whether a person does something by pressing the control or by moving over it. Of the windows' pictures;
+/// also of the slots of a soldier's file, which leave the mouse to the window.
+bool TakesInput(const Control& control);

@@ -37,7 +37,7 @@ class LayoutWindowTest : public testing::Test {
 
     static std::string TextOf(const QWidget& widget) {
         if (const auto* button = dynamic_cast<const QPushButton*>(&widget))
-            return button->text().toStdString();
+            return button->text().remove('&').toStdString();  // before the letter of its shortcut
         if (const auto* label = dynamic_cast<const QLabel*>(&widget)) return label->text().toStdString();
         return "";
     }
