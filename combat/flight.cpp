@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <limits>
 #include <utility>
 #include <vector>
@@ -53,6 +54,27 @@ std::size_t NewestStart() {
 void ShowTrailForAMoment() {
     const std::vector<TrailPixel> path = std::exchange(flightPath, {});
     DelayThen(1, [&path] { TakeAway(path, 0); });
+}
+
+// Runs what lets events in. An order among them may fire another bullet: this one keeps what it has left.
+void KeepBullet(const std::function<void()>& work) {
+    const i16 power = bulletPower;
+    const i16 accur = bulletAccur;
+    const i16 horizon = bulletHorizon;
+    work();
+    bulletPower = power;
+    bulletAccur = accur;
+    bulletHorizon = horizon;
+}
+
+// The trail is out of the way meanwhile, as an order may repaint what lies under it.
+void ShowCard(int x, int y) {
+    std::vector<TrailPixel> path = std::exchange(flightPath, {});
+    TakeAway(path, 0);
+    KeepBullet([x, y] { ShowTarget(1, x, y); });
+    for (TrailPixel& pixel : path)
+        DrawPixel(pixel);
+    flightPath = std::move(path);
 }
 
 // One axis of the line: the pixel moves when its error has grown past the longer axis.
@@ -167,7 +189,7 @@ void ApplyEffect(Effect effect, int x, int y) {
             BreakGlass(x, y);
             break;
         case Effect::ShowCard:
-            ShowTarget(1, x, y);
+            ShowCard(x, y);
             break;
     }
 }
@@ -215,7 +237,7 @@ void BulletFly(int x0, int y0, int x1, int y1) {
         flightPath.push_back({x.place, y.place, 0});
         DrawPixel(flightPath.back());
     }
-    BulletTrail("finalize");
+    KeepBullet([] { BulletTrail("finalize"); });
     impactX = CellOfPixel(x.place);
     impactY = CellOfPixel(y.place);
     if (InField(impactX, impactY)) BulletInCell(impactX, impactY);

@@ -42,7 +42,6 @@ constexpr StopRow Stops[] = {
     {"frmInfo.imgInv",             6,   6, "Back",                    '\0'},
     {"frmInfo.imgInv",             7,   9, "Belt",                    '\0'},
     {"frmInfo.imgInv",            10,  21, "Pocket",                  '\0'},
-    {"frmInfo.imgInv",            22,  29, "Spare place",             '\0'},
     {"frmInfo.imgInv",            30,  59, "Ground",                  '\0'},
     {"frmInfo.imgAward",           0,  24, "Award",                   '\0'},
     {"frmInfo.cmdGndPage",         0,   2, "Ground page",             '1'},

@@ -95,6 +95,9 @@ void InfoForm::PutSlots() {
             image.Enabled = false;  // the window gets the mouse
         }
     }
+    // The spare row never shows what lies in it, so whatever was laid there would be lost.
+    for (int slot = FirstSpareSlot; slot <= LastSpareSlot; ++slot)
+        imgInv[slot].Visible = false;
 }
 
 void InfoForm::PutAwards() {

@@ -33,7 +33,7 @@ void ReadLine(const std::string& text, int number, std::array<int, MapWidth>& va
         const SourcePlace place{number, static_cast<int>(x) + 1};
         if (code >= FirstCode)
             values[x] = code - FirstCode;
-        else
+        else if (!faults.Full())
             faults.Add({place, "a control character", "a cell: a character from the blank on"});
     }
     if (text.size() != values.size())
@@ -74,14 +74,16 @@ std::vector<std::string> ClassList() {
 Tile TileOf(int column, int terrain, SourcePlace place, SourceFaults& columnFaults,
             SourceFaults& classFaults) {
     const Tile grass;
-    if (terrain >= TerrainCount)
+    if (terrain >= TerrainCount && !classFaults.Full())
         classFaults.Add({place, "there is no terrain class " + std::to_string(terrain),
                          "one of " + JoinWords(ClassList())});
     if (column == BadValue || terrain == BadValue || terrain >= TerrainCount) return grass;
     const auto known = static_cast<Terrain>(terrain);
     if (column >= KnownColumns(known)) {
-        columnFaults.Add({place, "there is no tile " + std::to_string(column) + " of " + TerrainName(terrain),
-                          "0 to " + std::to_string(KnownColumns(known) - 1)});
+        if (!columnFaults.Full())
+            columnFaults.Add({place,
+                              "there is no tile " + std::to_string(column) + " of " + TerrainName(terrain),
+                              "0 to " + std::to_string(KnownColumns(known) - 1)});
         return grass;
     }
     return {column, known};

@@ -2,6 +2,7 @@
 // they refuse it: "file:line:column: what is wrong, expected ...". Lines and columns count from 1.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -23,10 +24,16 @@ class SourceError : public std::runtime_error {
     std::string wrong, expected, meant;
 };
 
-/// Gathers the faults of a source, so that a reader goes on after one and its user sees all of them.
+/// Gathers the faults of a source, so that a reader goes on after one and its user sees all of them, or the
+/// first hundred of a file that is something else altogether.
 class SourceFaults {
   public:
-    void Add(const SourceError& fault) { faults.push_back(fault); }
+    void Add(const SourceError& fault) {
+        if (!Full()) faults.push_back(fault);
+    }
+
+    /// Whether more faults aren't told.
+    bool Full() const { return faults.size() == Most; }
 
     /// Runs `work` and takes the fault that ends it. Whether it came to its end.
     template <typename Work>
@@ -45,6 +52,8 @@ class SourceFaults {
     std::vector<SourceError> Sorted() const;
 
   private:
+    static constexpr std::size_t Most = 100;
+
     std::vector<SourceError> faults;
 };
 

@@ -1,8 +1,10 @@
 // Which cells a flight treats, what bullets do to cells and cells to bullets; the trail.
 #include "combat/flight.h"
 
+#include <algorithm>
 #include <set>
 
+#include "combat/things.h"
 #include "data/terrain.h"
 #include "platform/blit.h"
 #include "platform/random.h"
@@ -144,6 +146,24 @@ TEST_F(FlightTest, TheTrailIsSeenForAMomentAndLeavesOnlyChangedCells) {
     BitBlt(before, 660, 400, 20, 20, frmField.area.canvas, 660, 400, RasterOp::SRCCOPY);
     EXPECT_TRUE(before.SameAs(frmField.area.canvas));
     InstallHost(&host);
+}
+
+// A card that turns lets events in.
+TEST_F(FlightTest, AShotInTheMiddleOfAnotherLeavesItItsTrailAndStrength) {
+    curUnit = 0;
+    UnitTable[0].items[0].name = "m4";
+    RefreshHand();
+    UnitTable[0].handRounds = 30;
+    cellGrid[3][8].tileY = Various;
+    cellGrid[3][8].tileX = 10;
+    Load(100, 2000);
+    host.Queue({EventKind::MouseDown, "frmField.area", -1, 2, 0, 70, 270}, host.pumps + 2);
+    BulletFly(80, 70, 270, 70);
+    EXPECT_EQ(UnitTable[0].handRounds, 29) << "the other shot was fired";
+    EXPECT_EQ(bulletPower, 100);
+    const Picture& area = frmField.area.canvas;
+    for (int y = 0; y < area.Height(); ++y)
+        EXPECT_EQ(std::count(area.Row(y), area.Row(y) + area.Width(), Rgb(128, 128, 128)), 0) << "row " << y;
 }
 
 }  // namespace

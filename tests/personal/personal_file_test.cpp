@@ -197,10 +197,13 @@ TEST_F(PersonalFileTest, AtTheVehicleTheStoreStandsInTheGroundsPlace) {
     LoadInfo();
     EXPECT_TRUE(frmInfo.txtAPC.Visible);
     Press(30);
-    Press(28);
+    At(EventKind::MouseDown, 108, 629);  // the spare row, which takes nothing
+    EXPECT_EQ(In(30).name, "med") << "it went home";
+    Press(30);
+    Press(2);
     CloseInfo();
     EXPECT_EQ(storeItems[0].name, "");
-    EXPECT_EQ(In(28).name, "med");
+    EXPECT_EQ(In(2).name, "med");
 }
 
 TEST_F(PersonalFileTest, AnOrderToTheStoreIsGivenUpWhenAnotherSoldierWasSelectedThere) {
@@ -334,6 +337,8 @@ TEST_F(PersonalFileTest, RandomDragsNeitherLoseNorDoubleAnything) {
     StandAtStore();
     for (int i = 10; i < 22; ++i)  // beside the stock of the store, magazines that aren't full
         if (storeItems[i].capMain > 9) storeItems[i].roundsMain = storeItems[i].capMain - i % 5;
+    for (int i = 22; i < CellItemSlots; ++i)  // room to lay things down
+        storeItems[i] = InvItem();
     LoadInfo();
     const auto before = inventory();
     std::mt19937 chance(7);

@@ -146,7 +146,7 @@ class TmxReader {
             const std::size_t last = numbers.find_last_not_of(" \t\r\n", end == 0 ? 0 : end - 1) + 1;
             const std::string number = last > first ? numbers.substr(first, last - first) : "";
             const SourcePlace place = PlaceAt(start + static_cast<std::ptrdiff_t>(first));
-            if (cell < Cells) faults.Try([&] { SetTile(cell, TileOf({number, place})); });
+            if (cell < Cells && !faults.Full()) faults.Try([&] { SetTile(cell, TileOf({number, place})); });
             ++cell;
             begin = end + 1;
         }
