@@ -133,7 +133,7 @@ void ScrollToUnit(int unit) {
     const auto width = static_cast<float>(frmField.area.Width);
     const auto height = static_cast<float>(frmField.area.Height);
     const Unit& shown = UnitTable[unit];
-    // ODDITY: the two axes have different offsets, so a unit is shown a little right of the middle.
+    // ODDITY: the two axes have different offsets, so a unit is shown half a cell left of the middle.
     const float left = static_cast<float>(shown.pixelX) - width / 4 + 20;
     const float top = static_cast<float>(shown.pixelY) - height / 4 + 10;
     SetScrollValue(frmField.HScrollArea, ScrollPlace(left, frmField.HScrollArea));

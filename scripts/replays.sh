@@ -6,8 +6,8 @@ set -u
 cd "$(dirname "$0")/.."
 failed=0
 for preset in "$@"; do
-    for recording in tests/recordings/*.rec; do
-        printf '%-9s %-24s ' "$preset" "$(basename "$recording")"
+    for recording in tests/recordings/*.rec tests/recordings/oddities/*.rec; do
+        printf '%-9s %-40s ' "$preset" "$(basename "$recording")"
         "build/$preset/tools/sarnoth-lab" replay "$recording" || failed=1
     done
 done

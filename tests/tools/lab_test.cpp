@@ -7,8 +7,10 @@
 #include "state/state.h"
 #include "tests/support/game_test.h"
 #include "tools/lab/recording.h"
+#include "tools/lab/remake.h"
 #include "tools/lab/replay.h"
 #include "tools/lab/soak.h"
+#include "view/log.h"
 
 namespace {
 
@@ -55,6 +57,32 @@ TEST_F(LabTest, TheFirstDifferenceIsNamedWithItsEventAndField) {
     EXPECT_NE(result.difference.find("event "), std::string::npos);
 }
 
+TEST_F(LabTest, ARemadeRecordingIsTheOneThatWasMade) {
+    for (const std::uint32_t seed : {3U, 8U}) {
+        const Recording recording = Record(seed, 120);
+        EXPECT_EQ(RemakeLines(recording), recording.lines) << "seed " << seed;
+    }
+}
+
+TEST_F(LabTest, ABareListOfEventsIsMadeARecording) {
+    Recording recording = Read(
+        "sarnoth recording 1\nbuild by hand\nseed 5\n"
+        "event 1 0 KeyDown frmField -1 13 0 0 0\n"
+        "event 7 0 KeyDown frmInfo -1 40 0 0 0\n"
+        "event 7 0 KeyDown frmInfo -1 13 0 0 0\n"
+        "event 9 0 Click frmField.imgStance 0 0 0 0 0\n");
+    recording.lines = RemakeLines(recording);
+    std::vector<std::string> events;
+    for (const std::string& line : recording.lines)
+        if (line.starts_with("event ")) events.push_back(line.substr(0, 7));
+    EXPECT_EQ(events, (std::vector<std::string>{"event 1", "event 2", "event 3", "event 4"}));
+    const auto has = [&recording](const char* line) {
+        return std::count(recording.lines.begin(), recording.lines.end(), line) == 1;
+    };
+    EXPECT_TRUE(has("  weaponPage 1 -> 2")) << "the file was open for its keys";
+    EXPECT_TRUE(has("  UnitTable[0].stance 2 -> 0")) << "and closed for the field's";
+}
+
 TEST_F(LabTest, ARecordingThatIsNoneIsToldByItsLine) {
     struct Case {
         const char* text;
@@ -84,10 +112,14 @@ TEST_F(LabTest, TheWatchTellsEveryKindOfChange) {
     cellGrid[5][9].durab = 1;
     groundItems[4][8][1].roundsMain = 3;
     curUnit = 2;
+    AddToLog("one", 1);
+    AddToLog("two", 1);
     const std::vector<std::string> lines = watch.Look();
-    EXPECT_EQ(lines.size(), 5U);
-    EXPECT_EQ(lines[0], "curUnit 0 -> 2");
-    EXPECT_EQ(lines[4], "groundItems[4][8][1].roundsMain 0 -> 3");
+    EXPECT_EQ(lines.size(), 7U);
+    EXPECT_EQ(lines[0], "frmField.cmbLog \"one\"");
+    EXPECT_EQ(lines[1], "frmField.cmbLog \"two\"");
+    EXPECT_EQ(lines[2], "curUnit 0 -> 2");
+    EXPECT_EQ(lines[6], "groundItems[4][8][1].roundsMain 0 -> 3");
     EXPECT_NE(watch.Hash(), before);
 }
 

@@ -15,6 +15,9 @@ int Play(const Words& words, char** arguments);
 /// Replays a recording without a window or in one.
 int ReplayFile(const Words& words, char** arguments);
 
+/// Writes the lines of a recording anew.
+int RecordFile(const Words& words);
+
 /// Random missions in several processes.
 int SoakSeeds(const Words& words);
 

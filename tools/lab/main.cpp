@@ -1,5 +1,5 @@
-// sarnoth-lab: the makers' program around the game: plays and records, replays, soaks, checks, measures the
-// odds, paints.
+// sarnoth-lab: the makers' program around the game: plays and records, replays, records anew, soaks, checks,
+// measures the odds, paints.
 #include <algorithm>
 #include <iostream>
 
@@ -24,6 +24,11 @@ constexpr Command Commands[] = {
      "replay FILE [--window] [--game FOLDER]\n"
      "  Replays a recording and compares the state after each event; stops at the first difference and names "
      "it.\n"},
+    {"record", [](const lab::Words& words, char** /*arguments*/) { return lab::RecordFile(words); },
+     "record FILE [--game FOLDER]\n"
+     "  Plays the events of a recording anew, and writes what they change now into it: for one that was "
+     "written by\n"
+     "  hand as the first three lines and events alone, or when data or rules were changed on purpose.\n"},
     {"soak", [](const lab::Words& words, char** /*arguments*/) { return lab::SoakSeeds(words); },
      "soak [--seeds A..B] [--events N] [--jobs J] [--json] [--record FOLDER] [--game FOLDER]\n"
      "  Plays missions of N events (600) at most in J processes at once, turns to win them with random "

@@ -8,6 +8,7 @@
 //   after 0 81f0c3a29b11d4e7
 //   event 1 0 Click frmField.cmdNextTurn -1 0 0 0 0
 //   after 1 2b6a90cc5e13f7d8
+//     frmField.cmbLog "New turn for team #1"
 //     curTeam 0 -> 1
 //   end 0
 //

@@ -50,8 +50,7 @@ Values WindowValues() {
             {"frmField.bigMapShown", std::to_string(frmField.bigMapShown ? 1 : 0)},
             {"frmField.enemyCount", TextOf(frmField.enemyCount)},
             {"frmField.lastSeenEnemy", TextOf(frmField.lastSeenEnemy)},
-            {"frmField.cmbLog.lines", std::to_string(frmField.cmbLog.List.size())},
-            {"frmField.cmbLog.Text", TextOf(frmField.cmbLog.Text)},
+            {"frmField.area.ToolTipText", TextOf(frmField.area.ToolTipText)},
             {"frmInfo.Visible", std::to_string(frmInfo.Visible ? 1 : 0)},
             {"frmInfo.dragSlot", TextOf(frmInfo.dragSlot)},
             {"frmInfo.arrowCode", TextOf(frmInfo.arrowCode)},
@@ -75,7 +74,8 @@ Values ItemValues(const InvItem& item, const std::string& name) {
 
 struct StateWatch::Seen {
     GameState state;
-    Values values;  // of the windows and those that stand alone
+    Values values;         // of the windows and those that stand alone
+    std::size_t told = 0;  // lines of the log
 };
 
 namespace {
@@ -131,6 +131,15 @@ class Comparison {
         before = now;
     }
 
+    // What the log tells since `told` of its lines.
+    void AddLog(std::size_t& told, const std::vector<std::string>& log) {
+        for (; told < log.size(); ++told) {
+            const std::string text = TextOf(log[told]);
+            hash += HashOfField("frmField.cmbLog[" + std::to_string(told) + "]", text);
+            lines.push_back("frmField.cmbLog " + text);
+        }
+    }
+
     std::vector<std::string> lines;
 
   private:
@@ -163,6 +172,7 @@ StateWatch::~StateWatch() = default;
 
 std::vector<std::string> StateWatch::Look() {
     Comparison comparison(hash);
+    comparison.AddLog(seen->told, frmField.cmbLog.List);
     Values values = WindowValues();
     VisitValues(game, Into(values, ""));
     comparison.Add(seen->values, values);

@@ -16,7 +16,7 @@ class StateWatch {
     StateWatch& operator=(const StateWatch&) = delete;
 
     /// What has changed since it last looked, a field a line as "UnitTable[3].time 80 -> 76", in a fixed
-    /// order.
+    /// order, after the lines that the log has told since.
     std::vector<std::string> Look();
 
     /// Of the state when it last looked.
