@@ -5,41 +5,27 @@
 
 #include <cstdio>
 #include <map>
-#include <string>
-
-#include <QtTest>
 
 #include "data/campaign_files.h"
-#include "desktop/desktop_host.h"
 #include "personal/info_form.h"
-#include "platform/files.h"
 #include "platform/headless_host.h"
-#include "state/setup.h"
-#include "state/state.h"
-#include "tests/support/game_test.h"
 #include "tests/support/short_session.h"
-#include "view/events.h"
-#include "view/field_form.h"
-#include "view/forms.h"
+#include "window_game.h"
 
 namespace {
 
 constexpr int StillRuns = 99;
 constexpr unsigned Patience = 20;  // seconds
 
-class SweptHost : public DesktopHost {
+class SweptHost : public HastyHost {
   public:
-    using DesktopHost::DesktopHost;
+    using HastyHost::HastyHost;
 
     void PumpEvents() override {
         CloseInACopy();
         DesktopHost::PumpEvents();
     }
-    void Wait(std::chrono::nanoseconds /*time*/, bool pump) override {
-        if (pump) PumpEvents();
-    }
     void ShowMessage(const std::string& /*text*/) override { CloseInACopy(); }
-    void PlaySound(const SoundRequest& /*sound*/) override {}
     [[noreturn]] void EndProcess(int exitCode) override {
         if (isCopy) DesktopHost::EndProcess(exitCode);
         throw ProcessEnded{exitCode};
@@ -68,24 +54,14 @@ class SweptHost : public DesktopHost {
     bool isCopy = false;
 };
 
-class ClosingTest : public testing::Test {
-  protected:
-    ClosingTest() { SetProgramFolder(folder.Path()); }
-    ~ClosingTest() override {
-        ResetState();
-        ResetForms();
-    }
-
-    std::string Store() const { return folder.Read("dat/apc.dat"); }
-
-    ProgramFolder folder;
-    SweptHost host{frmField, OtherForms(), Dispatch};
-};
+using ClosingTest = WindowGame;
 
 TEST_F(ClosingTest, AtEveryMomentItEndsTheProcessWellAndTheStoreIsWhole) {
-    const std::string before = Store();
+    SweptHost host(frmField, OtherForms(), Dispatch);
+    const auto store = [this] { return folder.Read("dat/apc.dat"); };
+    const std::string before = store();
     QTimer player;
-    player.callOnTimeout([this] {
+    player.callOnTimeout([&host] {
         if (!frmInfo.Visible) return;
         host.CloseInACopy();
         host.Enter(NextInFile);
@@ -93,7 +69,7 @@ TEST_F(ClosingTest, AtEveryMomentItEndsTheProcessWellAndTheStoreIsWhole) {
     player.start(1);
     const auto play = [&](const Stage& stage) {
         host.stage = stage.name;
-        EXPECT_EQ(Store(), before) << "it is written at the mission's end alone: " << stage.name;
+        EXPECT_EQ(store(), before) << "it is written at the mission's end alone: " << stage.name;
         storeItems[3] = InvItem();  // taken out
         stage.play();
         EXPECT_GT(host.closings[stage.name], 0) << stage.name;

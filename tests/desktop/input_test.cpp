@@ -1,7 +1,4 @@
-#include <algorithm>
-
 #include <QAbstractItemView>
-#include <QMenuBar>
 
 #include "desktop/control_widgets.h"
 #include "desktop/key_codes.h"
@@ -20,34 +17,25 @@ void Key(QWidget& widget, QEvent::Type type, bool repeated) {
     QApplication::sendEvent(&widget, &event);
 }
 
-struct KeyCase {
-    int key;
-    Qt::KeyboardModifiers modifiers;
-    unsigned scanCode;
-    int code;
-};
-
 TEST(KeyCodeTest, KeysHaveTheCodesOfTheCommandTables) {
-    constexpr KeyCase Cases[] = {
-        {Qt::Key_Return, Qt::NoModifier, 36, 13},
+    struct Case {
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        unsigned scanCode;
+        int code;
+    };
+    constexpr Case Cases[] = {
         {Qt::Key_Enter, Qt::KeypadModifier, 104, 13},
-        {Qt::Key_Escape, Qt::NoModifier, 9, 27},
-        {Qt::Key_Space, Qt::NoModifier, 65, 32},
         {Qt::Key_PageUp, Qt::NoModifier, 112, 33},
-        {Qt::Key_Down, Qt::NoModifier, 116, 40},
-        {Qt::Key_M, Qt::NoModifier, 58, 77},
-        {Qt::Key_7, Qt::NoModifier, 16, 55},
         {Qt::Key_7, Qt::KeypadModifier, 79, 103},
         {Qt::Key_Home, Qt::KeypadModifier, 79, 36},
-        {Qt::Key_Clear, Qt::KeypadModifier, 84, 12},
         {Qt::Key_BracketLeft, Qt::NoModifier, 34, 219},
-        {Qt::Key_BracketRight, Qt::NoModifier, 35, 221},
         {Qt::Key_BraceRight, Qt::ShiftModifier, 35, 221},  // with Shift
         {0x042C, Qt::NoModifier, 58, 77},                  // M on a Cyrillic keyboard
         {Qt::Key_F2, Qt::NoModifier, 68, 113},
         {Qt::Key_VolumeUp, Qt::NoModifier, 123, 0},
     };
-    for (const KeyCase& row : Cases) {
+    for (const Case& row : Cases) {
         const QKeyEvent event(QEvent::KeyPress, row.key, row.modifiers, row.scanCode, 0, 0);
         EXPECT_EQ(KeyCode(event), row.code) << std::hex << row.key;
     }
@@ -65,29 +53,26 @@ TEST_F(DesktopTest, AHeldKeyRepeatsAndIsReleasedOnce) {
 }
 
 TEST_F(DesktopTest, KeysReachTheWindowAfterClicksOnControls) {
-    for (const Control* control : {static_cast<Control*>(&form.txtLine), static_cast<Control*>(&form.lblNote),
-                                   static_cast<Control*>(&form.cmdGo)})
+    for (const Control* control : std::initializer_list<Control*>{&form.txtLine, &form.lblNote, &form.cmdGo})
         QTest::mouseClick(window.WidgetOf(*control), Qt::LeftButton);
     QTest::keyClick(window.windowHandle(), Qt::Key_Space);
     EXPECT_EQ(EventsOf("frmTest.cmdGo"), "Click frmTest.cmdGo -1 0 0 0 0\n");
     EXPECT_EQ(EventsOf("frmTest"), "KeyDown frmTest -1 32 0 0 0\nKeyUp frmTest -1 32 0 0 0\n");
 }
 
-struct MoveCase {
-    const Control* control;
-    QPoint at;
-};
-
 TEST_F(DesktopTest, AMoveOverAnyKindOfControlIsReportedInItsPixels) {
     form.cmdGo.Enabled = false;
     host.PumpEvents();
-    const MoveCase cases[] = {
-        {&form, {340, 190}},         {&form.picBoard, {60, 50}},   {&form.imgMark, {3, 2}},
-        {&form.HScroll, {100, 2}},   {&form.VScroll, {3, 100}},    {&form.cmbLog, {3, 2}},
-        {&form.comboMode, {190, 2}}, {&form.imgStance[1], {3, 2}}, {&form.lblNote, {3, 139}},
-        {&form.txtLine, {3, 2}},     {&form.picSlate, {3, 72}},  // that of the disabled button
+    struct Case {
+        const Control* control;
+        QPoint at;
     };
-    for (const MoveCase& row : cases) {
+    const Case cases[] = {
+        {&form, {340, 190}},         {&form.imgMark, {3, 2}},   {&form.HScroll, {100, 2}},
+        {&form.comboMode, {190, 2}}, {&form.lblNote, {3, 139}}, {&form.imgStance[1], {3, 2}},
+        {&form.picSlate, {3, 72}},  // that of the disabled button
+    };
+    for (const Case& row : cases) {
         events.clear();
         QTest::mouseMove(window.windowHandle(), window.WidgetOf(*row.control)->mapTo(&window, row.at));
         InputEvent expected = EventOf(*row.control, EventKind::MouseMove, 0);
@@ -127,33 +112,15 @@ TEST_F(DesktopTest, AnImageIsClickedByItsIndex) {
     EXPECT_EQ(EventsOf("frmTest.picSlate"), "") << "what lies beneath isn't clicked too";
 }
 
-TEST_F(DesktopTest, ADisabledImageLeavesTheMouseToItsParent) {
+TEST_F(DesktopTest, ADisabledImageLeavesTheMouseToItsParentAndADoubleClickIsTwoPresses) {
     form.imgStance[1].Enabled = form.imgStance[0].Enabled = false;
     host.PumpEvents();
     const QPoint spot = window.WidgetOf(form.picSlate)->mapTo(&window, QPoint(255, 55));
-    QTest::mousePress(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, spot);
-    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, spot);
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, spot);
     EXPECT_EQ(EventsOf("frmTest.imgStance"), "");
-    EXPECT_NE(EventsOf("frmTest.picSlate").find("MouseDown frmTest.picSlate -1 1 0 255 55"),
-              std::string::npos);
-}
-
-TEST_F(DesktopTest, TheSecondPressOfADoubleClickIsAPress) {
-    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, {100, 100});
-    const auto presses = std::count_if(events.begin(), events.end(), [](const InputEvent& event) {
-        return event.kind == EventKind::MouseDown;
-    });
-    EXPECT_EQ(presses, 2);
-}
-
-TEST_F(DesktopTest, AMenuEntryIsClickedAndReachedByItsLetter) {
-    auto* const menu = window.findChild<QMenuBar*>();
-    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
-                      menu->actionGeometry(menu->actions().front()).center());
-    EXPECT_EQ(EventsOf("frmTest.mnuGo"), "Click frmTest.mnuGo -1 0 0 0 0\n");
-    window.activateWindow();
-    QTest::keyClick(window.windowHandle(), Qt::Key_G, Qt::AltModifier);
-    EXPECT_EQ(EventsOf("frmTest.mnuGo"), "Click frmTest.mnuGo -1 0 0 0 0\nClick frmTest.mnuGo -1 0 0 0 0\n");
+    const std::string pressed = "MouseDown frmTest.picSlate -1 1 0 255 55\n";
+    const std::string got = EventsOf("frmTest.picSlate");
+    EXPECT_NE(got.find(pressed), got.rfind(pressed)) << got;
 }
 
 TEST_F(DesktopTest, ADraggedThumbSnapsToWhatTheGameMakesOfIt) {

@@ -1,50 +1,25 @@
 // The game in its real window, by the keyboard alone.
 #include <algorithm>
-#include <cstdlib>
 #include <set>
 #include <utility>
 
 #include <QAccessible>
 #include <QComboBox>
 #include <QFocusFrame>
-#include <QtTest>
 
-#include "desktop/desktop_host.h"
 #include "personal/info_form.h"
-#include "platform/files.h"
-#include "state/setup.h"
-#include "state/state.h"
-#include "tests/support/game_test.h"
-#include "view/events.h"
-#include "view/field_form.h"
-#include "view/forms.h"
+#include "window_game.h"
 
 namespace {
 
-class HastyHost : public DesktopHost {
-  public:
-    using DesktopHost::DesktopHost;
-
-    void Wait(std::chrono::nanoseconds /*time*/, bool pump) override {
-        if (pump) PumpEvents();
-    }
-    void ShowMessage(const std::string& /*text*/) override {}
-    void PlaySound(const SoundRequest& /*sound*/) override {}
-};
-
-class KeyboardTest : public testing::Test {
+class KeyboardTest : public WindowGame {
   protected:
     KeyboardTest() {
-        SetProgramFolder(folder.Path());
         host.Enter([] { Main(1); });
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&field));
         host.PumpEvents();
         BringToFront();
         events.clear();
-    }
-    ~KeyboardTest() override {
-        ResetState();
-        ResetForms();
     }
 
     /// To whatever has the focus, as the desktop sends it.
@@ -80,7 +55,6 @@ class KeyboardTest : public testing::Test {
             events.begin(), events.end(), [kind](const InputEvent& e) { return e.kind == kind; }));
     }
 
-    ProgramFolder folder;
     std::vector<InputEvent> events;
     bool deaf = false;  // the game hears nothing
     HastyHost host{frmField, OtherForms(), [this](const InputEvent& event) {
@@ -138,18 +112,15 @@ TEST_F(KeyboardTest, AllThatDoesSomethingHasANameAndIsReachedByTabBothWays) {
         return found;
     };
     const std::set<QObject*> onField = check(field);
-    for (const Control* control :
-         {static_cast<Control*>(&frmField.area), static_cast<Control*>(&frmField.cmbLog),
-          static_cast<Control*>(&frmField.VScrollArea), static_cast<Control*>(&frmField.cmdNextTurn),
-          static_cast<Control*>(&frmField.picAreaMapCover), static_cast<Control*>(&frmField.imgStance[3]),
-          static_cast<Control*>(&frmField.imgStop), static_cast<Control*>(&frmField.imgInv[0])})
+    for (const Control* control : std::initializer_list<Control*>{
+             &frmField.area, &frmField.cmbLog, &frmField.VScrollArea, &frmField.cmdNextTurn,
+             &frmField.picAreaMapCover, &frmField.imgStance[3], &frmField.imgStop, &frmField.imgInv[0]})
         EXPECT_TRUE(onField.contains(field.WidgetOf(*control))) << control->name;
     InTheFile([&](FormWindow& file) {
         const std::set<QObject*> inFile = check(file);
         for (const Control* control :
-             {static_cast<Control*>(&frmInfo.imgInv[0]), static_cast<Control*>(&frmInfo.imgInv[39]),
-              static_cast<Control*>(&frmInfo.imgAward[24]), static_cast<Control*>(&frmInfo.picB1),
-              static_cast<Control*>(&frmInfo.cmdNext), static_cast<Control*>(&frmInfo.cmdGndPage[2])})
+             std::initializer_list<Control*>{&frmInfo.imgInv[0], &frmInfo.imgInv[39], &frmInfo.imgAward[24],
+                                             &frmInfo.picB1, &frmInfo.cmdNext, &frmInfo.cmdGndPage[2]})
             EXPECT_TRUE(inFile.contains(file.WidgetOf(*control))) << control->name;
         EXPECT_FALSE(inFile.contains(file.WidgetOf(frmInfo.cmdGndPage[0]))) << "it is switched off";
     });

@@ -80,6 +80,10 @@ struct TestDialog : Form {
     Timer timTick;
 };
 
+inline QImage Grab(QWidget& widget) {
+    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 class DesktopTest : public testing::Test {
   protected:
     void SetUp() override {
@@ -91,13 +95,6 @@ class DesktopTest : public testing::Test {
     template <typename Kind>
     Kind& WidgetOf(const Control& control) {
         return dynamic_cast<Kind&>(*window.WidgetOf(control));
-    }
-
-    /// Does `what` when events are next waited for.
-    void Soon(const std::function<void()>& what) {
-        soon.setSingleShot(true);
-        soon.callOnTimeout(what);
-        soon.start(20);
     }
 
     /// What is on the screen of the window's inside: as it was painted, piece by piece.
@@ -124,9 +121,6 @@ class DesktopTest : public testing::Test {
                          answer(event);
                      }};
     FormWindow& window = host.WindowOf(form);
-
-  private:
-    QTimer soon;
 };
 
 /// Counts what a widget paints.

@@ -1,8 +1,5 @@
 // Fights, driven through the door for input: walls, glass, shotguns, grenades.
-#include "combat/actions.h"
-#include "combat/things.h"
 #include "data/terrain.h"
-#include "data/weapons_file.h"
 #include "platform/random.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
@@ -25,30 +22,12 @@ class FightStory : public GameTest {
 
     Unit& soldier = UnitTable[0];
 
-    void Hold(const std::string& name, const std::string& mode) {
-        soldier.items[0] = InvItem();
-        soldier.items[0].name = name;
-        soldier.items[0].count = 1;
-        RefreshHand();
-        soldier.items[0].roundsMain = soldier.items[0].roundsSecond = 200;
-        for (std::size_t i = 0; i < frmField.comboMode.List.size(); ++i)
-            if (frmField.comboMode.List[i].starts_with(mode))
-                Dispatch({EventKind::Choose, "frmField.comboMode", -1, static_cast<int>(i)});
-    }
-
     // A right click on a cell, with a fresh soldier's time.
     void FireAt(int x, int y) {
         soldier.time = 400;
         soldier.hand.durab = 1000;
         Dispatch({EventKind::MouseDown, "frmField.area", -1, 2, 0, static_cast<float>(x * 20 + 10),
                   static_cast<float>(y * 20 + 10)});
-    }
-
-    static void PutTile(int x, int y, int tileX, int tileY) {
-        cellGrid[y][x].tileX = tileX;
-        cellGrid[y][x].tileY = tileY;
-        cellGrid[y][x].durab = CellDurab(tileX, tileY);
-        cellGrid[y][x].block = TileBlock(tileX, tileY);
     }
 
     static int Lines(const std::string& part) {
@@ -63,9 +42,7 @@ TEST_F(FightStory, ABurstGoesThroughAWoodenWallOnceItBreaks) {
     PutTile(23, 20, 1, Wooden);
     PutUnit(20, 26, 20);
     UnitTable[20].health = 1000;
-    UnitTable[20].stance = Stand;
-    soldier.facing = East;
-    Hold("m249", "Full auto");
+    Hold("m249", "Full auto", 200);
     int bursts = 0;
     for (; cellGrid[20][23].tileX != 81 && bursts < 10; ++bursts)
         FireAt(26, 20);
@@ -77,43 +54,13 @@ TEST_F(FightStory, ABurstGoesThroughAWoodenWallOnceItBreaks) {
     EXPECT_GT(Lines(" hit u20 with m249"), 0) << "who stood behind it is hit";
 }
 
-TEST_F(FightStory, AShotThroughAWindowBreaksThePane) {
-    PutTile(23, 20, 12, Wooden);
-    PutUnit(20, 24, 20);
-    Hold("ak", "Aimed shot");
-    for (int i = 0; i < 5 && cellGrid[20][23].tileX == 12; ++i)
-        FireAt(24, 20);
-    EXPECT_EQ(cellGrid[20][23].tileX, 14);
-    EXPECT_EQ(cellGrid[20][23].block, 0) << "now one can climb through";
-}
-
-TEST_F(FightStory, AShotgunIsDeadlyCloseAndWeakFarOff) {
-    const auto pelletsInto = [this](int distance) {
-        PutUnit(20, 20 + distance, 20);
-        UnitTable[20].health = 30000;
-        Hold("spas", "Aimed shot");
-        frmField.cmbLog.List.clear();
-        for (int i = 0; i < 10; ++i)
-            FireAt(20 + distance, 20);
-        cellGrid[20][20 + distance].occupant = -1;
-        return Lines(" hit u20");
-    };
-    soldier.marksmanship = 60;
-    const int close = pelletsInto(2);
-    const int far = pelletsInto(14);
-    EXPECT_LT(far * 3, close) << "of 300 pellets each";
-}
-
 TEST_F(FightStory, AGrenadeInAGroupHurtsSeveralAndDigsACrater) {
     int index = 20;
     for (int x = 25; x <= 27; ++x)
         for (int y : {19, 21})
             PutUnit(index++, x, y);
-    Hold("m67", "Throw");
-    soldier.items[0].roundsMain = 1;
-    Dispatch({EventKind::Choose, "frmField.comboMode", -1, 0});
+    Hold("m67", "Throw", 1);
     FireAt(26, 20);
-    EXPECT_EQ(Lines("fire in the hole"), 1);
     EXPECT_GE(Lines("dist: "), 4) << "each in the square is rolled for";
     int hurt = 0;
     for (int i = 20; i < 26; ++i)

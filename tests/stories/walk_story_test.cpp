@@ -42,19 +42,15 @@ TEST_F(StoryTest, FromTheLandingCornerIntoTheVillage) {
     soldier.energy = 100;
     soldier.facing = East;
     soldier.stance = Stand;
-
     Click(1, 5);
     ASSERT_EQ(curUnit, 4);
-    EXPECT_NE(Log().find("Selected " + soldier.name + " (#4)  from team #0\n"), std::string::npos);
 
     // To the road before the first house: sixteen steps east, then one turn of 45 degrees and two steps
     // south-east.
     Click(19, 7);
     EXPECT_EQ(soldier.time, 148) << "east already";
     Click(19, 7);
-    EXPECT_EQ(soldier.cellX, 19);
-    EXPECT_EQ(soldier.cellY, 7);
-    EXPECT_EQ(soldier.facing, SouthEast);
+    EXPECT_EQ(cellGrid[7][19].occupant, 4);
     EXPECT_EQ(soldier.time, 148 - 18 * 4 - 1);
     EXPECT_EQ(soldier.energy, 100 - 18);
 
@@ -70,8 +66,6 @@ TEST_F(StoryTest, FromTheLandingCornerIntoTheVillage) {
     const int turned = 148 - soldier.time;  // toward the click: from south-east to north-east
     EXPECT_EQ(turned, 2);
     Click(22, 4);
-    EXPECT_EQ(soldier.cellX, 22);
-    EXPECT_EQ(soldier.cellY, 4);
     EXPECT_EQ(soldier.facing, North);
     EXPECT_EQ(soldier.time, 148 - turned - 5 * 4 - 3);
     EXPECT_EQ(soldier.energy, 112 - 5);
@@ -81,13 +75,11 @@ TEST_F(StoryTest, FromTheLandingCornerIntoTheVillage) {
 
 TEST_F(StoryTest, AnEnemyIsSightedDrawnHiddenAndSightedAgain) {
     ClearField();
-    DrawField(10, 10, {"0.........", ".........."});
+    PutUnit(0, 10, 10);
     PutUnit(1, 40, 30);
     PutUnit(20, 45, 30);
     UnitTable[0].facing = West;
     UnitTable[20].agility = 0;  // it stays where it is
-    for (int x : {10, 40, 45})
-        cellGrid[x == 10 ? 10 : 30][x].tileX = 0;
     frmField.area.canvas.Fill(0);
     for (int y = 0; y < FieldHeight; ++y)
         for (int x = 0; x < FieldWidth; ++x)

@@ -27,23 +27,19 @@ void PressKeyOn(const char* form, int code) {
     Dispatch({EventKind::KeyUp, form, -1, code});
 }
 
+void OnFile(EventKind kind, const char* control, int index = -1) {
+    Dispatch({kind, control, index, 1});
+}
+
 constexpr void (*InFile[])() = {
     [] { PressSlot(GrenadeSlot); },
     [] { PressSlot(0); },
     [] { PressSlot(FreeLongSlot); },
-    [] {
-        Dispatch({EventKind::Click, "frmInfo.cmdNext", -1, 1});
-    },
-    [] {
-        Dispatch({EventKind::Click, "frmInfo.cmdPrev", -1, 1});
-    },
-    [] {
-        Dispatch({EventKind::MouseDown, "frmInfo.imgUpDn", 0, 1});
-    },
+    [] { OnFile(EventKind::Click, "frmInfo.cmdNext"); },
+    [] { OnFile(EventKind::Click, "frmInfo.cmdPrev"); },
+    [] { OnFile(EventKind::MouseDown, "frmInfo.imgUpDn", 0); },
     [] {},  // the arrow's timer ticks
-    [] {
-        Dispatch({EventKind::MouseUp, "frmInfo.imgUpDn", 0, 1});
-    },
+    [] { OnFile(EventKind::MouseUp, "frmInfo.imgUpDn", 0); },
     [] { PressKeyOn("frmInfo", EnterKey); },
 };
 

@@ -4,9 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <fstream>
-#include <iterator>
 #include <random>
+#include <sstream>
 
 #include "data/campaign_files.h"
 #include "data/countries_file.h"
@@ -47,92 +46,48 @@ struct ByteFault {
 constexpr TextFault TextFaults[] = {
     // file                     line  from         to           place     word
     {"content/dat/weapons.dat",  100, "\t68",      "",          "100:91" , "19 columns"},
-    {"content/dat/weapons.dat",  110, "carbine",   "\tcarbine", "110:85", "21 columns"},
     {"content/dat/weapons.dat",   89, "\tm\t",     "\tx\t",     "89:6",   "no kind"},
     {"content/dat/weapons.dat",   92, "smg\t",     "smgg\t",    "92:1",   "did you mean \"smg\""},
-    {"content/dat/weapons.dat",  147, "\tmg5\t",   "\tmg4\t",   "147:12", "did you mean \"mg5\""},
     {"content/dat/weapons.dat",   92, "\t39\t",    "\t390\t",   "92:22",  "30 to 55"},
-    {"content/dat/weapons.dat",   92, "\t39\t",    "\t3.9\t",   "92:22",  "power"},
-    {"content/dat/weapons.dat",   94, "\t54\t",    "\t154\t",   "94:26",  "accur of the group smg"},
-    {"content/dat/weapons.dat",   94, "\t20\t450", "\t-1\t450", "94:32",  "range of the group smg"},
-    {"content/dat/weapons.dat",  141, "\t700\t",   "\t7000\t",  "141:38", "durab of the group sniper"},
     {"content/dat/weapons.dat",   95, "\t_\t1101", "\tz\t1101", "95:36",  "\"z\" is no 9"},
-    {"content/dat/weapons.dat",   62, "1100000",   "110000",    "62:46",  "seven digits"},
-    {"content/dat/weapons.dat",   62, "1100000",   "1110000",   "62:48",  "2 to 9"},
     {"content/dat/weapons.dat",   62, "1100000",   "1200000",   "62:47",  "0 or 1"},
     {"content/dat/weapons.dat",   95, "1101000",   "0000000",   "95:38",  "no mode"},
     {"content/dat/weapons.dat",   95, "1101000",   "1101100",   "95:52",  "Secondary"},
-    {"content/dat/weapons.dat",   95, "\t9para",   "\t9parra",  "95:46",  "did you mean \"9para\""},
-    {"content/dat/weapons.dat",  125, "40gren",    "40grin",    "125:58", "did you mean \"40gren\""},
     {"content/dat/weapons.dat",   54, "40gren",    "_",         "54:54",  "launches grenades", 2},
-    {"content/dat/weapons.dat",   95, "\t1\t_\tFI", "\t2\t_\tFI", "95:58", "long"},
     {"content/dat/weapons.dat",   95, "\tFI\t",    "\tZZ\t",    "95:62",  "no country \"ZZ\""},
     {"content/dat/weapons.dat",   95, "Suomi M31", "Suomi_M31", "95:70",  "underscore"},
-    {"content/dat/weapons.dat",   95, "Suomi M31", "_",         "95:65",  "no title"},
     {"content/dat/weapons.dat",   94, "\tsten\t",  "\tsuomi\t", "95:8",   "first in line 94", 2},
-    {"content/dat/weapons.dat",   54, "\tm203\t",  "\tm2003\t", "54:12",  "did you mean \"m2003\"", 3},
     {"content/dat/weapons.dat",   68, "\tcrossbow\t", "\tcrosbow\t", "68:8",  "did you mean \"crosbow\"", 3},
-    {"content/dat/weapons.dat",   71, "\tanslgg\t", "\tzzz\t",   "188:1",  "\"anslgg\"", 2},
-    {"content/dat/weapons.dat",  182, "\tradio\t", "\tverylongradio\t", "182:10", "too long", 4},
-    {"content/dat/countries.dat",  1, "AD",        "Ad",        "1:1",    "did you mean \"AD\""},
     {"content/dat/countries.dat",  1, "AD",        nullptr,     "1:1",    "no country's code"},
-    {"content/dat/countries.dat",  4, "United",    nullptr,     "4:1",    "\"AE\" has no name"},
     {"content/dat/countries.dat",  5, "AF",        "AE",        "5:1",    "comes twice"},
-    {"content/dat/ori.dat",        3, "2,0,-1,N",  "2,0,-1,S",  "3:8",    "\"N\""},
     {"content/dat/ori.dat",        4, ",90",       "",          "4:8",    "4 values"},
-    {"content/dat/ori.dat",        8, "7,",        nullptr,     "8:1",    "7 rows"},
     {"content/campaign/roster.txt", 15, "CPT",     "CAP",       "15:17",  "no rank"},
-    {"content/campaign/roster.txt", 16, "US",      "UX",        "16:17",  "no country \"UX\""},
     {"content/campaign/roster.txt", 17, "a 1 b",   "a 13 b",    "17:17",  "usa13.bmp"},
     {"content/campaign/roster.txt", 20, "43",      "101",       "20:17",  "1 to 100"},
-    {"content/campaign/roster.txt", 21, "agility", "agilty",    "21:3",   "did you mean \"agility\""},
     {"content/campaign/roster.txt", 24, "  mood",  nullptr,     "13:1",   "lacks \"mood\""},
     {"content/campaign/roster.txt", 38, "30/30",   "30/31",     "38:59",  "31 rounds"},
-    {"content/campaign/roster.txt", 38, "30/30",   "29/29",     "38:56",  "size 29"},
     {"content/campaign/roster.txt", 38, "5nato",   "7nato",     "38:48",  "isn't fed"},
-    {"content/campaign/roster.txt", 40, "helmet     count 0 durab 270  main helmet  144/144",
-     "vest count 0 main vest 100/100", "40:13", "doesn't go to slot 4"},
     {"content/campaign/roster.txt", 39, "slot 1:", "slot 8:",   "39:13",  "too long for slot 8", 2},
     {"content/campaign/roster.txt", 51, "slot 15:", "slot 16:", "51:8",   "6 pockets"},
-    {"content/campaign/store.txt",  7, "m203 ",    "m230 ",     "7:8",    "did you mean \"m203\""},
-    {"content/campaign/store.txt",  7, "count 1",  "count 0",   "7:25",   "no count"},
-    {"content/campaign/store.txt",  7, "durab 600", "durab 1001", "7:33", "0 to 1000"},
     {"content/campaign/store.txt",  9, "12/12",    "12-12",     "9:74",   "no feed"},
     {"content/map/49g.txt",         5, "25 3",     "76 3",      "5:7",    "0 to 75"},
-    {"content/map/49g.txt",        10, "33 4",     "25 3",      "10:1",   "comes twice"},
-    {"content/map/49g.txt",         5, "25 3",     "20 2",      "5:1",    "nobody can stand"},
     {"content/map/49.txt",        124, "|......",  "|.\x60....", "124:3", "no such glyph"},
     {"content/map/49.txt",        124, "|......",  "|.!....",   "124:3",  "in sight of the squad"},
     {"content/map/49.txt",        123, "||||",     "||.|",      "123:3",  "row 0"},
-    {"content/map/49.txt",         33, "tile 8",   "tile 16",   "33:19",  "0 to 15"},
-    {"content/map/49.txt",         34, "surface",  "surfase",   "34:4",   "did you mean \"surface\""},
     {"map/491.map",                 7, "\r",       "   \r",     "7:77",   "79 cells"},
-    {"map/492.map",                46, "",         nullptr,     "46:1",   "ends too early"},
-    {"dat/weapons.dat",            92, "\t39\t",   "\t390\t",   "92:22",  "30 to 55"},
 };
 
 constexpr ByteFault ByteFaults[] = {
     // file         offset         value       place                                        word
     {"map/491.map", 78 + 1,        32 + 16,    "2:2",                                       "no tile 16 of surface"},
-    {"map/492.map", 78 + 1,        32 + 13,    "2:2",                                       "no terrain class 13"},
     {"map/493.map", 10 * 78 + 4,   7,          "11:5",                                      "control character"},
     {"map/492.map", 5,             32,         "1:6",                                       "row 0"},
-    {"map/492.map", 78,            32,         "2:1",                                       "column 0"},
     {"map/492.map", 3 * 78 + 6,    32 + 5,     "1:1",                                       "7 cells of the squad's vehicle"},
     {"dat/save.dat", 2,            20,         "record 1, rank, byte 2",                    "last soldier's place"},
     {"dat/save.dat", 882 + 2,      24,         "record 2, rank, byte 884",                  "up to 23"},
-    {"dat/save.dat", 882 + 3,      9,          "record 2, name, byte 885",                  "code 9", 2},
-    {"dat/save.dat", 882 + 33,     'X',        "record 2, country, byte 915",               "no country \"XS\""},
-    {"dat/save.dat", 882 + 38,     50,         "record 2, faceNo, byte 920",                "usa50.bmp"},
-    {"dat/save.dat", 882 + 41,     0,          "record 2, strength, byte 923",              "1 to 100"},
-    {"dat/save.dat", 882 + 56,     8,          "record 2, facing, byte 938",                "up to 7"},
+    {"dat/save.dat", 882 + 41,     101,        "record 2, strength, byte 923",              "1 to 100"},
     {"dat/save.dat", 882 + 66,     'n',        "record 2, items[0].name, byte 948",         "no thing \"n4\""},
-    {"dat/save.dat", 882 + 76,     0,          "record 2, items[0].count, byte 958",        "no count"},
-    {"dat/save.dat", 882 + 90,     31,         "record 2, items[0].roundsMain, byte 972",   "31 rounds"},
-    {"dat/apc.dat",  1112 + 2 + 13, '7',       "record 2, items[0].ammoMain, byte 1127",    "isn't fed"},
-    {"dat/apc.dat",  1112 + 39 + 11, 0xFF,     "record 2, items[1].durab, byte 1162",       "0 to 1000"},
     {"map/49g.map",  1112,         76,         "record 2, cellX, byte 1112",                "outside the field"},
-    {"map/49g.map",  1113,         46,         "record 2, cellY, byte 1113",                "outside the field"},
     {"map/49g.map",  12,           3,          "record 5, its end, byte 4448",              "4448 bytes"},
 };
 // clang-format on
@@ -174,13 +129,12 @@ class CheckTest : public GameTest {
         const Findings findings = Check(fault.file);
         folder.Write(fault.file, whole);
         const std::string report = FindingsText(findings);
-        const std::string path = (folder.Path() / fault.file).string() + ":";
-        const std::string space = std::string(fault.place).starts_with("record") ? " " : "";
-        const std::string start = path + space + fault.place + ": ";
+        const std::string start = (folder.Path() / fault.file).string() + ":" +
+                                  (std::string(fault.place).starts_with("record") ? " " : "") + fault.place;
         bool found = false;
-        for (std::size_t at = report.find(start); at != std::string::npos; at = report.find(start, at + 1))
-            found =
-                found || report.substr(at, report.find('\n', at) - at).find(fault.word) != std::string::npos;
+        std::istringstream lines(report);
+        for (std::string line; std::getline(lines, line);)
+            found = found || (line.starts_with(start + ": ") && line.find(fault.word) != std::string::npos);
         EXPECT_TRUE(found) << fault.file << ":" << fault.place << ": " << fault.word << "\n" << report;
         EXPECT_EQ(findings.size(), fault.findings) << report;
     }
@@ -204,38 +158,15 @@ TEST_F(CheckTest, FaultsInBytesAreFoundAtTheirPlace) {
     }
 }
 
-TEST_F(CheckTest, AllFaultsAreToldAtOnce) {
-    std::string weapons = folder.Read("content/dat/weapons.dat");
-    for (const TextFault& fault :
-         {TextFault{"", 94, "smg\t", "smog\t", "", ""}, TextFault{"", 94, "\t54", "\tx", "", ""},
-          TextFault{"", 94, "9para", "8para", "", ""}, TextFault{"", 94, "GB", "QQ", "", ""},
-          TextFault{"", 95, "\t40\t", "\t400\t", "", ""}})
-        weapons = Edited(weapons, fault);
-    folder.Write("content/dat/weapons.dat", weapons);
-    std::vector<std::pair<int, int>> places;
-    for (const Finding& finding : Check("content/"))
-        places.emplace_back(finding.line, finding.column);
-    const std::vector<std::pair<int, int>> expected = {{94, 1}, {94, 27}, {94, 49}, {94, 65}, {95, 20}};
-    EXPECT_EQ(places, expected);
-}
-
-TEST_F(CheckTest, AnEmptyFileIsNotWhole) {
-    for (const char* file : {"dat/weapons.dat", "dat/countries.dat", "dat/ori.dat", "dat/save.dat",
-                             "dat/apc.dat", "map/491.map", "map/492.map", "map/493.map", "map/49g.map"}) {
+TEST_F(CheckTest, EmptyAndMissingFilesAreTold) {
+    for (const std::string file :
+         {"dat/weapons.dat", "dat/countries.dat", "dat/ori.dat", "dat/save.dat", "dat/apc.dat", "map/491.map",
+          "map/492.map", "map/493.map", "map/49g.map"}) {
         const std::string whole = folder.Read(file);
         folder.Write(file, "");
         EXPECT_NE(FindingsText(Check(file)).find(file), std::string::npos) << file;
-        folder.Write(file, whole);
-    }
-}
-
-TEST_F(CheckTest, MissingFilesAreTold) {
-    for (const char* file : {"dat/weapons.dat", "dat/countries.dat", "dat/ori.dat", "dat/save.dat",
-                             "dat/apc.dat", "map/491.map", "map/492.map", "map/493.map", "map/49g.map"}) {
-        const std::string whole = folder.Read(file);
         folder.Remove(file);
-        const std::string report = FindingsText(Check(file));
-        EXPECT_NE(report.find(std::string(file) + ": the file can't be opened"), std::string::npos) << report;
+        EXPECT_NE(FindingsText(Check(file)).find(file + ": the file can't be opened"), std::string::npos);
         folder.Write(file, whole);
     }
 }
@@ -270,48 +201,27 @@ TEST_F(CheckTest, NothingThatTheGameRefusesPasses) {
     EXPECT_GT(refused, 10);
 }
 
-TEST_F(CheckTest, JsonTellsPlaceAndSuggestion) {
-    Finding text;
-    text.file = "weapons.dat";
-    text.line = 3;
-    text.column = 7;
-    text.wrong = "there is no feed \"7akk\"";
-    text.expected = "a kind";
-    text.meant = "7ak";
-    Finding bytes;
-    bytes.file = "save.dat";
-    bytes.record = 2;
-    bytes.field = "rank";
-    bytes.byte = 884;
-    bytes.wrong = "24 is too much";
-    bytes.expected = "a number up to 23";
-    EXPECT_EQ(FindingsJson({text, bytes}),
-              R"([
-  {"file": "weapons.dat", "line": 3, "column": 7, "wrong": "there is no feed \"7akk\"", )"
-              R"("expected": "a kind", "meant": "7ak"},
-  {"file": "save.dat", "record": 2, "field": "rank", "byte": 884, "wrong": "24 is too much", )"
-              R"("expected": "a number up to 23"}
-]
-)");
-    EXPECT_EQ(FindingsJson({}), "[]\n");
-}
-
 // Tabs stay tabs and a letter of two bytes takes one place, so that the caret stands under its column.
-TEST_F(CheckTest, TheCaretStandsUnderTheColumn) {
+TEST(FindingsTest, TheCaretStandsUnderTheColumnAndJsonIsEscaped) {
     Finding finding;
     finding.file = "f";
     finding.line = 1;
     finding.column = 5;
-    finding.wrong = "w";
+    finding.wrong = "no \"w\"";
     finding.expected = "e";
+    finding.meant = "m";
+    EXPECT_EQ(FindingsJson({finding}),
+              R"([
+  {"file": "f", "line": 1, "column": 5, "wrong": "no \"w\"", "expected": "e", "meant": "m"}
+]
+)");
+    finding.meant.clear();
     finding.text = "\t\xC3\xA9\tx";
-    EXPECT_EQ(FindingsText({finding}), "f:1:5: w, expected e\n    \t\xC3\xA9\tx\n    \t \t^\n");
+    EXPECT_EQ(FindingsText({finding}), "f:1:5: no \"w\", expected e\n    \t\xC3\xA9\tx\n    \t \t^\n");
 }
 
 TEST(NearestTest, CountsEditsAndStopsAtAThird) {
-    EXPECT_EQ(EditDistance("agilty", "agility"), 1U);
-    EXPECT_EQ(EditDistance("form", "from"), 1U);
-    EXPECT_EQ(EditDistance("", "abc"), 3U);
+    EXPECT_EQ(EditDistance("form", "from"), 1U) << "two letters exchanged";
     EXPECT_EQ(EditDistance("kitten", "sitting"), 3U);
     EXPECT_EQ(Nearest("vestt", {"pack", "vest"}), "vest");
     EXPECT_EQ(Nearest("abc", {"abdd", "axyz"}), "");
@@ -322,10 +232,10 @@ TEST(NearestTest, CountsEditsAndStopsAtAThird) {
 TEST(KnownColumnsTest, AreThoseOfTheTileSheet) {
     const Picture& sheet = StoredPicture("picMap.bmp");
     const auto isGrass = [&](int row, int column) {
-        for (int y = 0; y < CellSize; ++y)
-            for (int x = 0; x < CellSize; ++x)
-                if (sheet.Pixel(column * CellSize + x, row * CellSize + y) != sheet.Pixel(x, y)) return false;
-        return true;
+        int same = 0;
+        for (int x = 0, y = 0; y < CellSize; ++x, y += x / CellSize, x %= CellSize)
+            same += sheet.Pixel(column * CellSize + x, row * CellSize + y) == sheet.Pixel(x, y) ? 1 : 0;
+        return same == CellSize * CellSize;
     };
     for (int row = 0; row < TerrainCount; ++row) {
         const int columns = KnownColumns(static_cast<Terrain>(row));

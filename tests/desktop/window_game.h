@@ -1,0 +1,41 @@
+// The whole game in its real window, for tests that play it: waits take no time, messages are kept unread,
+// and nothing is heard.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <QtTest>
+
+#include "desktop/desktop_host.h"
+#include "platform/files.h"
+#include "state/setup.h"
+#include "state/state.h"
+#include "tests/support/game_test.h"
+#include "view/events.h"
+#include "view/field_form.h"
+#include "view/forms.h"
+
+class HastyHost : public DesktopHost {
+  public:
+    using DesktopHost::DesktopHost;
+
+    void Wait(std::chrono::nanoseconds /*time*/, bool pump) override {
+        if (pump) PumpEvents();
+    }
+    void ShowMessage(const std::string& text) override { message = text; }
+    void PlaySound(const SoundRequest& /*sound*/) override {}
+
+    std::string message;
+};
+
+class WindowGame : public testing::Test {
+  protected:
+    WindowGame() { SetProgramFolder(folder.Path()); }
+    ~WindowGame() override {
+        ResetState();
+        ResetForms();
+    }
+
+    ProgramFolder folder;
+};
