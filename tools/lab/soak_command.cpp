@@ -8,6 +8,7 @@
 #include <iostream>
 #include <map>
 #include <sstream>
+#include <thread>
 
 #include "platform/files.h"
 #include "tools/game_copy.h"
@@ -144,6 +145,25 @@ void Collect(const Worker& worker, Totals& totals) {
         Count(totals, {running, 0, "", "its process died, status " + std::to_string(status)});
 }
 
+// All at once: a worker that nobody reads would wait for ever when its pipe is full.
+Totals CollectAll(const std::vector<Worker>& workers) {
+    std::vector<Totals> parts(workers.size());
+    std::vector<std::thread> readers;
+    for (std::size_t i = 0; i < workers.size(); ++i)
+        readers.emplace_back([&workers, &parts, i] { Collect(workers[i], parts[i]); });
+    for (std::thread& reader : readers)
+        reader.join();
+    Totals totals;
+    for (const Totals& part : parts) {
+        totals.missions += part.missions;
+        totals.events += part.events;
+        for (const auto& [end, count] : part.ends)
+            totals.ends[end] += count;
+        totals.faults.insert(totals.faults.end(), part.faults.begin(), part.faults.end());
+    }
+    return totals;
+}
+
 void PrintJson(const Totals& totals) {
     std::cout << "{\"missions\": " << totals.missions << ", \"events\": " << totals.events << ", \"ends\": {";
     const char* comma = "";
@@ -176,9 +196,7 @@ int SoakSeeds(const Words& words) {
     std::vector<Worker> workers;
     for (std::uint32_t job = 0; job < plan.jobs; ++job)
         workers.push_back(Start(plan, job));
-    Totals totals;
-    for (const Worker& worker : workers)
-        Collect(worker, totals);
+    Totals totals = CollectAll(workers);
     std::sort(totals.faults.begin(), totals.faults.end(),
               [](const SoakedMission& a, const SoakedMission& b) { return a.seed < b.seed; });
     plan.json ? PrintJson(totals) : PrintTable(totals);
