@@ -3,7 +3,7 @@
 // went another way.
 //
 //   sarnoth recording 1
-//   build 0.1.0 gcc 12.2.0
+//   build 1.0.0 gcc 12.2.0
 //   seed 42
 //   after 0 81f0c3a29b11d4e7
 //   event 1 0 Click frmField.cmdNextTurn -1 0 0 0 0
