@@ -23,7 +23,8 @@ WayMap::WayMap(int goalX, int goalY) {
     for (std::size_t i = 0; i < reached.size(); ++i) {
         const std::size_t from = reached[i];
         for (const FacingWay& way : FacingWays) {
-            const std::size_t to = from + static_cast<std::size_t>(way.dy * Stride + way.dx);
+            const std::size_t to =
+                from + static_cast<std::size_t>(way.dy) * Stride + static_cast<std::size_t>(way.dx);
             if (steps[to] != NoWay) continue;
             steps[to] = steps[from] + 1;
             reached.push_back(to);

@@ -23,8 +23,10 @@ class WayMap {
 
   private:
     // With a border of closed cells around the field, so that a search needs no other bounds.
-    static constexpr int Stride = FieldWidth + 2;
-    static std::size_t Index(int x, int y) { return static_cast<std::size_t>((y + 1) * Stride + x + 1); }
+    static constexpr std::size_t Stride = FieldWidth + 2;
+    static std::size_t Index(int x, int y) {
+        return static_cast<std::size_t>(y + 1) * Stride + static_cast<std::size_t>(x + 1);
+    }
 
-    std::array<int, static_cast<std::size_t>(Stride) * (FieldHeight + 2)> steps;
+    std::array<int, Stride*(FieldHeight + 2)> steps;
 };
