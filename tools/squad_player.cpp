@@ -132,15 +132,17 @@ std::optional<Spot> SquadPlayer::Target(const Unit& unit) const {
     });
 }
 
-// One order to fire, if there is a target.
+// One order to fire, if there is a target. False when it came to nothing.
 bool SquadPlayer::FireOnce(const Unit& unit) {
     if (unit.time < unit.hand.time || unit.handRounds == 0) return false;
     const std::optional<Spot> target = Target(unit);
     if (!target) return false;
     if (habits.careful && unit.stance > Prone && unit.time >= unit.hand.time + StanceTime * unit.stance)
         TakeStance(Prone);
+    // Under another fire mode than his own he may strike at the air, which costs nothing.
+    const int time = unit.time;
     ActOn(target->x, target->y);
-    return true;
+    return !IsCurrent(unit) || unit.time < time;
 }
 
 bool SquadPlayer::MayWalk(const Unit& unit) {
