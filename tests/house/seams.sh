@@ -6,7 +6,7 @@ set -u
 cd "$1" || exit 2
 failed=0
 rooms="ai combat data field personal platform state tools view"
-if grep -rnE '#include *[<"](Q[A-Z]|SDL|qt)' $rooms; then
+if grep -rnE '#include *[<"](Q[A-Z]|SDL|qt)' $rooms bench tests --exclude-dir=desktop; then
     echo "toolkit headers outside desktop/"
     failed=1
 fi

@@ -1,6 +1,5 @@
 #include "tests/support/drawn_field.h"
 
-#include "data/map.h"
 #include "data/tables.h"
 #include "data/terrain.h"
 #include "state/state.h"
@@ -18,15 +17,6 @@ struct Glyph {
 constexpr Glyph Glyphs[] = {{'#', 0, Concrete}, {'T', 0, Trees}, {'=', 16, Wooden}, {'.', 0, Surface}};
 
 }  // namespace
-
-void PutTile(int x, int y, int tileX, int tileY) {
-    Cell& cell = cellGrid[y][x];
-    cell.tileX = tileX;
-    cell.tileY = tileY;
-    cell.durab = CellDurab(tileX, tileY);
-    cell.block = CellBlock(x, y);
-    cell.occupant = -1;
-}
 
 void ClearField() {
     InitTables();

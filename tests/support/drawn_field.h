@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "tools/field_tile.h"
+
 /// Open ground on the whole field with nobody on it, and tables filled.
 void ClearField();
 
@@ -14,6 +16,3 @@ void DrawField(int x, int y, const std::vector<std::string>& rows);
 
 /// Puts a unit on a cell, as DrawField does.
 void PutUnit(int index, int x, int y);
-
-/// Gives a cell a tile of the sheet, with its strength and what it stops; nobody stands there.
-void PutTile(int x, int y, int tileX, int tileY);

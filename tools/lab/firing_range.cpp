@@ -5,7 +5,6 @@
 
 #include "combat/actions.h"
 #include "combat/things.h"
-#include "data/map.h"
 #include "data/tables.h"
 #include "data/weapons_file.h"
 #include "field/geometry.h"
@@ -14,6 +13,7 @@
 #include "platform/random.h"
 #include "state/operation.h"
 #include "state/setup.h"
+#include "tools/field_tile.h"
 #include "view/events.h"
 #include "view/field_form.h"
 
@@ -28,15 +28,6 @@ constexpr int Nowhere = 200;
 
 // Within the part of the field where blows work, and far from its edges.
 constexpr Spot FiringPlace = {6, 12};
-
-void PutTile(int x, int y, int tileX, int tileY) {
-    Cell& cell = cellGrid[y][x];
-    cell.tileX = tileX;
-    cell.tileY = tileY;
-    cell.durab = CellDurab(tileX, tileY);
-    cell.block = CellBlock(x, y);
-    cell.occupant = -1;
-}
 
 void ClearField() {
     for (int y = 0; y < FieldHeight; ++y)
