@@ -1,10 +1,8 @@
 #include "combat/costs.h"
 
-#include <cstdlib>
 #include <string>
 
 #include "combat/actions.h"
-#include "combat/hits.h"
 #include "platform/numbers.h"
 #include "state/state.h"
 #include "view/field_form.h"
@@ -73,22 +71,4 @@ void HandSync(std::string_view direction) {
     ShowWeaponBox(unit.handRounds);
     const int mode = frmField.comboMode.ListIndex;
     unit.fireMode = mode < 0 ? 0 : mode;
-}
-
-void MeleeHit(int x, int y) {
-    // ODDITY: blows reach only the first 35 columns and 16 rows of the field; elsewhere they cost their time
-    // for nothing.
-    constexpr int LastColumn = 34;
-    constexpr int LastRow = 15;
-    const Unit& unit = UnitTable[curUnit];
-    if (!Spend(static_cast<float>(unit.hand.time), "time")) return;
-    if (x < 0 || x > LastColumn || y < 0 || y > LastRow) return;
-    if (std::abs(x - unit.cellX) > 1 || std::abs(y - unit.cellY) > 1) return;
-    if (x == unit.cellX && y == unit.cellY) return;
-    if (cellGrid[y][x].occupant == -1) return;
-    PlaySoundAt("weapons\\" + unit.hand.sound, AtCurrentUnit);
-    bulletPower = unit.hand.power;
-    bulletAccur = unit.hand.accur;
-    bulletHorizon = unit.hand.range * CellSize;
-    UnitHit(curUnit, cellGrid[y][x].occupant);
 }

@@ -1,5 +1,4 @@
-// The one gate through which every cost is paid, the working copy of the held thing's feed, and the blow at a
-// neighbour.
+// The one gate through which every cost is paid, and the working copy of the held thing's feed.
 #pragma once
 
 #include <string_view>
@@ -12,6 +11,3 @@ bool Spend(float amount, std::string_view kind);
 /// "real2fake" takes the current unit's feed and rounds from the thing in its hand, "fake2real" puts them
 /// back there. Which feed follows from the action family.
 void HandSync(std::string_view direction);
-
-/// The current unit's blow at cell (x, y).
-void MeleeHit(int x, int y);

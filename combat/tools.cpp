@@ -5,6 +5,7 @@
 #include <string>
 
 #include "combat/costs.h"
+#include "combat/hits.h"
 #include "data/terrain.h"
 #include "field/geometry.h"
 #include "platform/host.h"
@@ -42,6 +43,22 @@ constexpr GroundLook GroundLooks[] = {
     {0, 16, Trenches},  // full trench
 };
 
+// Whether somebody can be reached on cell (x, y), the unit's own included.
+// ODDITY: blows and cures reach only the first 35 columns and 16 rows of the field; elsewhere they cost their
+// time for nothing.
+bool Reaches(const Unit& unit, int x, int y) {
+    constexpr int LastColumn = 34;
+    constexpr int LastRow = 15;
+    if (x < 0 || x > LastColumn || y < 0 || y > LastRow) return false;
+    return std::abs(x - unit.cellX) <= 1 && std::abs(y - unit.cellY) <= 1 && cellGrid[y][x].occupant != -1;
+}
+
+void LoadBullet(int power, int accur, int horizon) {
+    bulletPower = power;
+    bulletAccur = accur;
+    bulletHorizon = horizon;
+}
+
 void Cure(const std::string& healer, Unit& target) {
     const int gain = RandomInt(bulletPower, 0);
     // ODDITY: the gain is drawn, and told, as a negative number.
@@ -53,20 +70,21 @@ void Cure(const std::string& healer, Unit& target) {
 
 }  // namespace
 
-void CureAt(int x, int y) {
-    // ODDITY: a cure works only in the first 35 columns and 16 rows of the field, as a blow does.
-    constexpr int LastColumn = 34;
-    constexpr int LastRow = 15;
+void MeleeHit(int x, int y) {
     const Unit& unit = UnitTable[curUnit];
+    if (!Spend(static_cast<float>(unit.hand.time), "time")) return;
+    if (!Reaches(unit, x, y) || (x == unit.cellX && y == unit.cellY)) return;
+    PlaySoundAt("weapons\\" + unit.hand.sound, AtCurrentUnit);
+    LoadBullet(unit.hand.power, unit.hand.accur, unit.hand.range * CellSize);
+    UnitHit(curUnit, cellGrid[y][x].occupant);
+}
+
+void CureAt(int x, int y) {
     if (!Spend(CureTime, "time")) return;
     if (!Spend(1, "ammo")) return PlaySoundAt("weapons\\empty", AtCurrentUnit);
-    if (x < 0 || x > LastColumn || y < 0 || y > LastRow) return;
-    if (std::abs(x - unit.cellX) > 1 || std::abs(y - unit.cellY) > 1) return;
-    if (cellGrid[y][x].occupant == -1) return;
+    if (!Reaches(UnitTable[curUnit], x, y)) return;
     PlaySoundAt(CureSound, AtCurrentUnit);
-    bulletPower = CurePower;
-    bulletAccur = CureAccur;
-    bulletHorizon = CureHorizon;
+    LoadBullet(CurePower, CureAccur, CureHorizon);
     CureUnit(curUnit, cellGrid[y][x].occupant);
 }
 

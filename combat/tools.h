@@ -1,5 +1,9 @@
-// Tools that work on the field or on a comrade without firing: the medical kit, digging and filling.
+// What a unit does at arm's length, without firing: the blow at a neighbour, the medical kit, digging and
+// filling.
 #pragma once
+
+/// The current unit's blow at cell (x, y).
+void MeleeHit(int x, int y);
 
 /// The current unit uses its medical kit on cell (x, y).
 void CureAt(int x, int y);

@@ -63,11 +63,13 @@ Values ReadValues(const std::string& layer, SourceFaults& faults) {
     return values;
 }
 
-std::vector<std::string> ClassList() {
-    std::vector<std::string> list;
-    list.reserve(TerrainCount);
-    for (int terrain = 0; terrain < TerrainCount; ++terrain)
-        list.push_back(std::to_string(terrain) + " " + TerrainName(terrain));
+const std::string& ClassList() {
+    static const std::string list = [] {
+        std::vector<std::string> classes;
+        for (int terrain = 0; terrain < TerrainCount; ++terrain)
+            classes.push_back(std::to_string(terrain) + " " + TerrainName(terrain));
+        return JoinWords(classes);
+    }();
     return list;
 }
 
@@ -75,8 +77,8 @@ Tile TileOf(int column, int terrain, SourcePlace place, SourceFaults& columnFaul
             SourceFaults& classFaults) {
     const Tile grass;
     if (terrain >= TerrainCount && !classFaults.Full())
-        classFaults.Add({place, "there is no terrain class " + std::to_string(terrain),
-                         "one of " + JoinWords(ClassList())});
+        classFaults.Add(
+            {place, "there is no terrain class " + std::to_string(terrain), "one of " + ClassList()});
     if (column == BadValue || terrain == BadValue || terrain >= TerrainCount) return grass;
     const auto known = static_cast<Terrain>(terrain);
     if (column >= KnownColumns(known)) {

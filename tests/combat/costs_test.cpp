@@ -1,6 +1,7 @@
 // Costs: what pays, what refuses, the feed of the held thing, and the blow's narrow field.
 #include "combat/costs.h"
 
+#include "combat/tools.h"
 #include "data/weapons_file.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"

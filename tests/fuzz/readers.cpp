@@ -31,6 +31,7 @@ namespace {
 
 constexpr const char* InputName = "input";  // of what is read from memory
 constexpr char FileEnd = '\f';              // between the files of an input that stands for several
+constexpr std::size_t FindingsShown = 20;   // of the thousands in a map of noise: the others look alike
 
 struct Reader {
     const char* name;
@@ -97,6 +98,7 @@ void ReadMapOfTheGame(const std::string& /*input*/) {
     Findings findings;
     const GameMap map = ReadGameMap(ProgramPath("map/x"), findings);
     if (findings.empty()) TmxText(map);
+    findings.resize(std::min(findings.size(), FindingsShown));
     FindingsText(findings);
 }
 
