@@ -38,7 +38,11 @@ void EnlistEnemies(int count, int left, int top) {
     teamLast[EnemyTeam] = count - 1;
 }
 
-constexpr int Iterations = 200;  // each puts the whole state back, which takes longer than the turn
+// Each iteration puts the whole state back, which takes longer than the turn.
+void ByTeamSize(benchmark::internal::Benchmark* turns) {
+    constexpr int Iterations = 200;
+    turns->Arg(1)->Arg(3)->Arg(10)->Arg(20)->Iterations(Iterations)->Unit(benchmark::kMicrosecond);
+}
 
 // Far from the squad, without sight of it: they walk.
 void ComputerTurnOnTheMarch(benchmark::State& state) {
@@ -47,13 +51,7 @@ void ComputerTurnOnTheMarch(benchmark::State& state) {
     EnlistEnemies(static_cast<int>(state.range(0)), 60, 22);
     PlayComputerTurns(state);
 }
-BENCHMARK(ComputerTurnOnTheMarch)
-    ->Arg(1)
-    ->Arg(3)
-    ->Arg(10)
-    ->Arg(20)
-    ->Iterations(Iterations)
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(ComputerTurnOnTheMarch)->Apply(ByTeamSize);
 
 // Eight cells before the squad's first soldier: they fire.
 void ComputerTurnInAFight(benchmark::State& state) {
@@ -63,13 +61,7 @@ void ComputerTurnInAFight(benchmark::State& state) {
     EnlistEnemies(static_cast<int>(state.range(0)), 48, 22);
     PlayComputerTurns(state);
 }
-BENCHMARK(ComputerTurnInAFight)
-    ->Arg(1)
-    ->Arg(3)
-    ->Arg(10)
-    ->Arg(20)
-    ->Iterations(Iterations)
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(ComputerTurnInAFight)->Apply(ByTeamSize);
 
 // From the new game to the verdict, a new seed each time; its median is the counter.
 void PlayMissions(benchmark::State& state, const Habits* habits) {

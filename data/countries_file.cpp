@@ -33,6 +33,14 @@ void LoadCountries() {
     if (countryList.empty()) file.Refuse("expected a country's code, found the end of the file");
 }
 
+std::vector<std::string> CountryCodes() {
+    std::vector<std::string> codes;
+    codes.reserve(countryList.size() / 2);
+    for (std::size_t i = 0; i < countryList.size(); i += 2)
+        codes.push_back(countryList[i]);
+    return codes;
+}
+
 std::string CountryName(std::string_view code) {
     for (std::size_t i = 0; i + 1 < countryList.size(); i += 2)
         if (countryList[i] == code) return countryList[i + 1];

@@ -2,7 +2,6 @@
 #include <QPainterPathStroker>
 
 #include "grounds.h"
-#include "joints.h"
 #include "shapes.h"
 #include "tile_drawing.h"
 #include "tile_rows.h"
@@ -84,12 +83,7 @@ constexpr TileDrawing Pieces[] = {
 
 TileRow HighwayTiles() {
     TileRow row;
-    for (const Joint& joint : Joints) {
-        Relief relief;
-        GrassGround(relief);
-        Highway(relief, joint);
-        row.push_back(Finished(relief));
-    }
+    AddJoints(row, Highway);
     AddTiles(row, TileGround::Grass, Pieces);
     return row;
 }

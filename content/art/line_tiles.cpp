@@ -3,9 +3,9 @@
 #include <numbers>
 
 #include "grounds.h"
-#include "joints.h"
 #include "noise.h"
 #include "shapes.h"
+#include "tile_drawing.h"
 #include "tile_rows.h"
 #include "walls.h"
 
@@ -144,45 +144,43 @@ void FallenFence(Relief& relief, bool westEast) {
     }
 }
 
-template <typename Drawing>
-void Draw(TileRow& row, Drawing drawing) {
-    Relief relief;
-    GrassGround(relief);
-    drawing(relief);
-    row.push_back(Finished(relief));
-}
+constexpr TileDrawing Holes[] = {
+    [](Relief& r) { Hole(r, 1.4f, 5.2); },
+    [](Relief& r) { Hole(r, 4.2f, 6.2); },
+};
+
+constexpr TileDrawing CutWires[] = {
+    [](Relief& r) { CutWire(r, true); },
+    [](Relief& r) { CutWire(r, false); },
+};
+
+constexpr TileDrawing Openings[] = {
+    [](Relief& r) { Gate(r, true); },
+    [](Relief& r) { Gate(r, false); },
+    [](Relief& r) { FallenFence(r, true); },
+    [](Relief& r) { FallenFence(r, false); },
+};
 
 }  // namespace
 
 TileRow TrenchTiles() {
     TileRow row;
-    for (const Joint& joint : Joints) {
-        Draw(row, [&](Relief& relief) { Trench(relief, joint); });
-    }
-    Draw(row, [](Relief& relief) { Hole(relief, 1.4f, 5.2); });
-    Draw(row, [](Relief& relief) { Hole(relief, 4.2f, 6.2); });
+    AddJoints(row, Trench);
+    AddTiles(row, TileGround::Grass, Holes);
     return row;
 }
 
 TileRow WireTiles() {
     TileRow row;
-    for (const Joint& joint : Joints) {
-        Draw(row, [&](Relief& relief) { Wire(relief, joint); });
-    }
-    Draw(row, [](Relief& relief) { CutWire(relief, true); });
-    Draw(row, [](Relief& relief) { CutWire(relief, false); });
+    AddJoints(row, Wire);
+    AddTiles(row, TileGround::Grass, CutWires);
     return row;
 }
 
 TileRow FenceTiles() {
     TileRow row;
-    for (std::size_t i = 0; i < FullJoints; ++i) {
-        Draw(row, [&](Relief& relief) { Fence(relief, Joints[i]); });
-    }
-    Draw(row, [](Relief& relief) { Gate(relief, true); });
-    Draw(row, [](Relief& relief) { Gate(relief, false); });
-    Draw(row, [](Relief& relief) { FallenFence(relief, true); });
-    Draw(row, [](Relief& relief) { FallenFence(relief, false); });
+    AddJoints(row, Fence, FullJoints);
+    AddTiles(row, TileGround::Grass, Openings);
     return row;
 }
 

@@ -1,6 +1,5 @@
 // Row 6: dirt roads, paths and plank bridges.
 #include "grounds.h"
-#include "joints.h"
 #include "noise.h"
 #include "shapes.h"
 #include "tile_drawing.h"
@@ -102,12 +101,7 @@ constexpr TileDrawing Pieces[] = {
 
 TileRow RoadTiles() {
     TileRow row;
-    for (const Joint& joint : Joints) {
-        Relief relief;
-        GrassGround(relief);
-        Road(relief, joint);
-        row.push_back(Finished(relief));
-    }
+    AddJoints(row, Road);
     AddTiles(row, TileGround::Grass, Pieces);
     return row;
 }

@@ -1,9 +1,19 @@
 #include "tile_drawing.h"
 
 #include "grounds.h"
-#include "joints.h"
 
 namespace art {
+namespace {
+
+template <typename Drawing>
+void AddOnGrass(TileRow& row, Drawing draw) {
+    Relief relief;
+    GrassGround(relief);
+    draw(relief);
+    row.push_back(Finished(relief));
+}
+
+}  // namespace
 
 void AddTiles(TileRow& row, TileGround ground, std::span<const TileDrawing> drawings) {
     for (const TileDrawing draw : drawings) {
@@ -14,13 +24,17 @@ void AddTiles(TileRow& row, TileGround ground, std::span<const TileDrawing> draw
     }
 }
 
+void AddJoints(TileRow& row, void (*draw)(Relief&, const Joint&), int count) {
+    for (const Joint& joint : std::span(Joints).first(static_cast<std::size_t>(count)))
+        AddOnGrass(row, [&](Relief& relief) { draw(relief, joint); });
+}
+
 void AddWalls(TileRow& row, const WallMake& make) {
-    for (std::size_t i = 0; i < FullJoints; ++i) {
-        Relief relief;
-        GrassGround(relief);
-        BuildApron(relief, Joints[i], make);
-        BuildWall(relief, Joints[i], make);
-        row.push_back(Finished(relief));
+    for (const Joint& joint : std::span(Joints).first(FullJoints)) {
+        AddOnGrass(row, [&](Relief& relief) {
+            BuildApron(relief, joint, make);
+            BuildWall(relief, joint, make);
+        });
     }
 }
 

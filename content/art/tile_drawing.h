@@ -3,6 +3,7 @@
 
 #include <span>
 
+#include "joints.h"
 #include "relief.h"
 #include "tile_rows.h"
 #include "walls.h"
@@ -15,6 +16,9 @@ enum class TileGround { Grass, Bare };
 
 // Adds a tile for each drawing, over the ground.
 void AddTiles(TileRow& row, TileGround ground, std::span<const TileDrawing> drawings);
+
+// Adds a tile for each of the first `count` joints, over grass.
+void AddJoints(TileRow& row, void (*draw)(Relief&, const Joint&), int count = AllJoints);
 
 // Adds a wall's tile for each full joint, over grass.
 void AddWalls(TileRow& row, const WallMake& make);

@@ -98,14 +98,6 @@ std::vector<std::string> RowNames() {
     return names;
 }
 
-std::vector<std::string> CountryCodes() {
-    std::vector<std::string> codes;
-    codes.reserve(countryList.size() / 2);
-    for (std::size_t i = 0; i < countryList.size(); i += 2)
-        codes.push_back(countryList[i]);
-    return codes;
-}
-
 // The game reads the feeds' keys in an empty slot too, where an earlier thing may have left some.
 std::vector<Flaw> EmptySlotFlaws(const InvItem& item) {
     struct FeedKey {

@@ -4,6 +4,7 @@
 #include <optional>
 #include <set>
 
+#include "data/countries_file.h"
 #include "data/tables.h"
 #include "joints.h"
 #include "map_checks.h"
@@ -31,14 +32,6 @@ void FillTables(const std::string& weapons) {
     std::ofstream(folder.Path() / "dat/weapons.dat", std::ios::binary) << weapons;
     SetProgramFolder(folder.Path());
     InitTables();
-}
-
-std::vector<std::string> CountryCodes() {
-    std::vector<std::string> codes;
-    codes.reserve(countryList.size() / 2);
-    for (std::size_t i = 0; i < countryList.size(); i += 2)
-        codes.push_back(countryList[i]);
-    return codes;
 }
 
 // The text files of dat/, which all else leans on. Whether there are weapons to know things by.
