@@ -9,8 +9,8 @@
 
 #include "bench/stage.h"
 #include "state/setup.h"
-#include "tools/orders.h"
-#include "tools/scripted_player.h"
+#include "tools/player/orders.h"
+#include "tools/player/scripted_player.h"
 #include "view/field_form.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <cstdlib>
 
 #include "platform/headless_host.h"
-#include "tools/scripted_player.h"
+#include "tools/player/scripted_player.h"
 #include "window_game.h"
 
 namespace {

@@ -5,8 +5,8 @@
 
 #include "state/state.h"
 #include "tests/support/game_test.h"
-#include "tools/scripted_player.h"
-#include "tools/squad_player.h"
+#include "tools/player/scripted_player.h"
+#include "tools/player/squad_player.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include "state/state.h"
 #include "tests/support/game_test.h"
-#include "tools/scripted_player.h"
+#include "tools/player/scripted_player.h"
 
 namespace {
 

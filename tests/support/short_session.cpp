@@ -5,7 +5,7 @@
 
 #include "personal/info_form.h"
 #include "state/state.h"
-#include "tools/orders.h"
+#include "tools/player/orders.h"
 #include "view/events.h"
 
 namespace {

@@ -3,8 +3,6 @@
 #include "tools/lab/line_chart.h"
 #include "tools/lab/odds_charts.h"
 
-namespace lab {
-
 namespace {
 
 using OddsTest = GameTest;
@@ -72,5 +70,3 @@ TEST(LineChartTest, PlacesPointsByItsAxes) {
 }
 
 }  // namespace
-
-}  // namespace lab

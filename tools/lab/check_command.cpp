@@ -2,10 +2,6 @@
 #include "tools/check/run_check.h"
 #include "tools/lab/commands.h"
 
-namespace lab {
-
-int Check(const Words& words) {
+int CheckData(const Words& words) {
     return RunCheck(words, {GAME_FOLDER, SOURCES_FOLDER});
 }
-
-}  // namespace lab

@@ -5,12 +5,10 @@
 #include <string>
 #include <vector>
 
-namespace lab {
-
 using Words = std::vector<std::string>;
 
 /// Plays in a window and records it.
-int Play(const Words& words, char** arguments);
+int PlayInWindow(const Words& words, char** arguments);
 
 /// Replays a recording without a window or in one.
 int ReplayFile(const Words& words, char** arguments);
@@ -22,12 +20,10 @@ int RecordFile(const Words& words);
 int SoakSeeds(const Words& words);
 
 /// The data's faults, as sarnoth-check tells them.
-int Check(const Words& words);
+int CheckData(const Words& words);
 
 /// The odds on the firing range.
-int Odds(const Words& words);
+int MeasureOdds(const Words& words);
 
 /// Paints a window into a file.
-int Shot(const Words& words, char** arguments);
-
-}  // namespace lab
+int PaintShot(const Words& words, char** arguments);

@@ -17,8 +17,6 @@
 #include "view/events.h"
 #include "view/field_form.h"
 
-namespace lab {
-
 namespace {
 
 constexpr int ShooterPlace = 0;
@@ -182,5 +180,3 @@ void FiringRange::PutBack() {
     RefreshHand();
     ChooseMode(mode);
 }
-
-}  // namespace lab

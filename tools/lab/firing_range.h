@@ -11,8 +11,6 @@
 #include "platform/headless_host.h"
 #include "state/state.h"
 
-namespace lab {
-
 /// Whole columns of one tile across the line of fire, counted in cells from the target's own, which is 0.
 struct Screen {
     std::string name = "open ground";
@@ -79,5 +77,3 @@ class FiringRange {
     Unit target;
     decltype(GameState::cellGrid) cells;
 };
-
-}  // namespace lab

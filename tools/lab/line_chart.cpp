@@ -4,8 +4,6 @@
 #include <iomanip>
 #include <sstream>
 
-namespace lab {
-
 namespace {
 
 // Of the picture, in pixels.
@@ -152,5 +150,3 @@ std::string ChartSvg(const LineChart& chart) {
     }
     return svg + "</svg>\n";
 }
-
-}  // namespace lab

@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-namespace lab {
-
 struct ChartPoint {
     double x;
     double y;
@@ -33,5 +31,3 @@ struct LineChart {
 
 /// The whole file. Throws std::out_of_range for a ninth line.
 std::string ChartSvg(const LineChart& chart);
-
-}  // namespace lab

@@ -12,61 +12,61 @@ enum ExitCode { Well, Found, WrongUsage };
 
 struct Command {
     const char* name;
-    int (*run)(const lab::Words& words, char** arguments);
+    int (*run)(const Words& words, char** arguments);
     const char* help;
 };
 
 constexpr Command Commands[] = {
-    {"play", lab::Play,
-     "play [--seed N] [--record FILE] [--game FOLDER]\n"
-     "  Plays in a window, and writes every event with what it changed into FILE.\n"},
-    {"replay", lab::ReplayFile,
-     "replay FILE [--window] [--game FOLDER]\n"
-     "  Replays a recording and compares the state after each event; stops at the first difference and names "
-     "it.\n"},
-    {"record", [](const lab::Words& words, char** /*arguments*/) { return lab::RecordFile(words); },
-     "record FILE [--game FOLDER]\n"
-     "  Plays the events of a recording anew, and writes what they change now into it: for one that was "
-     "written by\n"
-     "  hand as the first three lines and events alone, or when data or rules were changed on purpose.\n"},
-    {"soak", [](const lab::Words& words, char** /*arguments*/) { return lab::SoakSeeds(words); },
-     "soak [--seeds A..B] [--events N] [--jobs J] [--json] [--record FOLDER] [--game FOLDER]\n"
-     "  Plays missions of N events (600) at most in J processes at once, turns to win them with random "
-     "events between "
-     "and\n"
-     "  within the orders, and looks after each whether all is in order. A mission that isn't is recorded "
-     "into "
-     "FOLDER\n"
-     "  when one is named.\n"},
-    {"check", [](const lab::Words& words, char** /*arguments*/) { return lab::Check(words); },
-     "check [--game FOLDER] [--sources FOLDER] [--json]\n"
-     "  Tells all faults in the game's data and their sources, as sarnoth-check does.\n"},
-    {"odds", [](const lab::Words& words, char** /*arguments*/) { return lab::Odds(words); },
-     "odds [--weapon NAME] [--trials N] [--seed N] [--json | --out FOLDER] [--game FOLDER]\n"
-     "  Fires N orders (1000) for each weapon, fire mode, distance, stance and facing by the game's rules,\n"
-     "  and prints what they come to as tables; with --out writes tables and charts into FOLDER. NAME is a\n"
-     "  key of weapons.dat.\n"},
-    {"shot", lab::Shot,
-     "shot FILE.png [--seed N] [--window field|info|map] [--game FOLDER]\n"
-     "  Paints a window of a new game into FILE.png; needs no display.\n"},
+    {"play", PlayInWindow, R"(play [--seed N] [--record FILE] [--game FOLDER]
+  Plays in a window, and writes every event with what it changed into FILE.
+)"},
+    {"replay", ReplayFile, R"(replay FILE [--window] [--game FOLDER]
+  Replays a recording and compares the state after each event; stops at the first difference and names it.
+)"},
+    {"record", [](const Words& words, char** /*arguments*/) { return RecordFile(words); },
+     R"(record FILE [--game FOLDER]
+  Plays the events of a recording anew, and writes what they change now into it: for one that was written by
+  hand as the first three lines and events alone, or when data or rules were changed on purpose.
+)"},
+    {"soak", [](const Words& words, char** /*arguments*/) { return SoakSeeds(words); },
+     R"(soak [--seeds A..B] [--events N] [--jobs J] [--json] [--record FOLDER] [--game FOLDER]
+  Plays missions of N events (600) at most in J processes at once, turns to win them with random events between
+  and within the orders, and looks after each whether all is in order. A mission that isn't is recorded into
+  FOLDER when one is named.
+)"},
+    {"check", [](const Words& words, char** /*arguments*/) { return CheckData(words); },
+     R"(check [--game FOLDER] [--sources FOLDER] [--json]
+  Tells all faults in the game's data and their sources, as sarnoth-check does.
+)"},
+    {"odds", [](const Words& words, char** /*arguments*/) { return MeasureOdds(words); },
+     R"(odds [--weapon NAME] [--trials N] [--seed N] [--json | --out FOLDER] [--game FOLDER]
+  Fires N orders (1000) for each weapon, fire mode, distance, stance and facing by the game's rules, and prints
+  what they come to as tables; with --out writes tables and charts into FOLDER. NAME is a key of weapons.dat.
+)"},
+    {"shot", PaintShot, R"(shot FILE.png [--seed N] [--window field|info|map] [--game FOLDER]
+  Paints a window of a new game into FILE.png; needs no display.
+)"},
 };
+
+constexpr const char* Ending =
+    R"(The game folder is only read: every run works on a copy of its data. Exit code 0: well; 1: something was
+found, or an error; 2: a wrong command line.
+)";
 
 void PrintHelp(std::ostream& to) {
     to << "usage: sarnoth-lab COMMAND ...\n\n";
     for (const Command& command : Commands)
         to << command.help << "\n";
-    to << "The game folder is only read: every run works on a copy of its data. Exit code 0: well; 1: "
-          "something was "
-          "found, or\nan error; 2: a wrong command line.\n";
+    to << Ending;
 }
 
-int Run(const lab::Words& words, char** arguments) {
+int Run(const Words& words, char** arguments) {
     if (words.empty()) throw UsageError("a command is missing");
     if (words[0] == "--help") {
         PrintHelp(std::cout);
         return Well;
     }
-    const lab::Words rest(words.begin() + 1, words.end());
+    const Words rest(words.begin() + 1, words.end());
     for (const Command& command : Commands) {
         if (words[0] != command.name) continue;
         if (std::find(rest.begin(), rest.end(), "--help") == rest.end()) return command.run(rest, arguments);

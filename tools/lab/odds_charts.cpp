@@ -5,8 +5,6 @@
 #include "data/weapons_file.h"
 #include "tools/lab/line_chart.h"
 
-namespace lab {
-
 namespace {
 
 const std::vector<int> Distances = {1, 2, 3, 5, 7, 10, 12, 15, 18, 20, 23, 26, 30, 35, 40};
@@ -98,5 +96,3 @@ std::vector<ChartFile> OddsCharts(const OddsPlan& plan, OddsStudy& study) {
         {"stances.svg", ChartSvg(ByStance(plan, study))},
     };
 }
-
-}  // namespace lab

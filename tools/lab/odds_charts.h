@@ -6,13 +6,9 @@
 
 #include "tools/lab/odds_tables.h"
 
-namespace lab {
-
 struct ChartFile {
     std::string name;  // as "weapons.svg"
     std::string svg;
 };
 
 std::vector<ChartFile> OddsCharts(const OddsPlan& plan, OddsStudy& study);
-
-}  // namespace lab

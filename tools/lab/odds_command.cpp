@@ -1,19 +1,16 @@
 // The odds on the firing range, printed or written as documents.
 #include <cstdlib>
-#include <fstream>
 #include <iostream>
 
 #include "data/weapons_file.h"
 #include "platform/files.h"
+#include "tools/arguments.h"
 #include "tools/game_copy.h"
-#include "tools/lab/arguments.h"
 #include "tools/lab/commands.h"
 #include "tools/lab/odds_charts.h"
 #include "tools/lab/odds_study.h"
 #include "tools/lab/odds_tables.h"
-#include "tools/usage_error.h"
-
-namespace lab {
+#include "tools/whole_file.h"
 
 namespace {
 
@@ -24,27 +21,18 @@ OddsPlan PlanFor(const std::string& weapon, OddsStudy& study) {
     return {{weapon}, weapon};
 }
 
-void Write(const std::filesystem::path& file, const std::string& content) {
-    std::ofstream to(file, std::ios::binary);
-    to << content;
-    to.close();
-    if (!to) throw std::runtime_error("can't write " + file.string());
-}
-
 void WriteAll(const std::filesystem::path& folder, const OddsPlan& plan, OddsStudy& study) {
     std::filesystem::create_directories(folder);
-    Write(folder / "tables.md", OddsMarkdown(plan, study));
+    WriteWholeFile(folder / "tables.md", OddsMarkdown(plan, study));
     for (const ChartFile& chart : OddsCharts(plan, study))
-        Write(folder / chart.name, chart.svg);
+        WriteWholeFile(folder / chart.name, chart.svg);
 }
 
 }  // namespace
 
-int Odds(const Words& words) {
+int MeasureOdds(const Words& words) {
     const Arguments given(words, {"--weapon", "--trials", "--seed", "--out", "--game"}, {"--json"}, 0);
-    constexpr std::uint32_t MostTrials = 1'000'000;
-    const std::uint32_t trials = given.Number("--trials", 1000);
-    if (trials < 1 || trials > MostTrials) throw UsageError("--trials needs 1 to 1000000");
+    const std::uint32_t trials = given.Number("--trials", 1000, 1, 1'000'000);
     if (given.Has("--json") && given.Has("--out")) throw UsageError("--json is printed, --out writes tables");
     const GameCopy copy(given.Text("--game", GAME_FOLDER));
     SetProgramFolder(copy.Path());
@@ -59,5 +47,3 @@ int Odds(const Words& words) {
     std::cout << (given.Has("--json") ? study.Json() : tables);
     return EXIT_SUCCESS;
 }
-
-}  // namespace lab

@@ -7,8 +7,6 @@
 
 #include "tools/json_text.h"
 
-namespace lab {
-
 namespace {
 
 constexpr std::array<std::string_view, 4> HarmlessModes = {"Dig", "Fill", "Fold", "Unfold"};
@@ -88,5 +86,3 @@ double PercentOf(int count, const Score& score) {
 double MeanOf(int sum, const Score& score) {
     return static_cast<double>(sum) / score.orders;
 }
-
-}  // namespace lab

@@ -8,8 +8,6 @@
 
 #include "tools/lab/firing_range.h"
 
-namespace lab {
-
 /// A weapon's order as it is told: modes that came to the same in every drill share one row.
 struct ToldOrder {
     std::string weapon;  // key
@@ -53,5 +51,3 @@ double PercentOf(int count, const Score& score);
 
 /// For one order.
 double MeanOf(int sum, const Score& score);
-
-}  // namespace lab

@@ -8,8 +8,6 @@
 
 #include "data/weapons_file.h"
 
-namespace lab {
-
 namespace {
 
 const std::vector<int> Distances = {1, 2, 5, 10, 15, 20, 26, 35};
@@ -250,5 +248,3 @@ std::string OddsMarkdown(const OddsPlan& plan, OddsStudy& study) {
         text += table(plan, study);
     return text;
 }
-
-}  // namespace lab

@@ -6,8 +6,6 @@
 
 #include "tools/lab/odds_study.h"
 
-namespace lab {
-
 struct OddsPlan {
     std::vector<std::string> weapons;  // keys
     std::string studied;               // whose first mode is fired for stances, facings, directions, screens
@@ -21,5 +19,3 @@ std::string WeaponTitle(const std::string& weapon);
 
 /// All tables as Markdown, with a head that tells how they were made.
 std::string OddsMarkdown(const OddsPlan& plan, OddsStudy& study);
-
-}  // namespace lab

@@ -15,8 +15,8 @@
 #include "tools/lab/random_player.h"
 #include "tools/lab/recorder.h"
 #include "tools/lab/recording.h"
-#include "tools/orders.h"
-#include "tools/scripted_player.h"
+#include "tools/player/orders.h"
+#include "tools/player/scripted_player.h"
 #include "view/events.h"
 #include "view/field_form.h"
 

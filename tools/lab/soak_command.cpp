@@ -11,25 +11,21 @@
 #include <thread>
 
 #include "platform/files.h"
+#include "tools/arguments.h"
 #include "tools/game_copy.h"
 #include "tools/json_text.h"
-#include "tools/lab/arguments.h"
 #include "tools/lab/commands.h"
 #include "tools/lab/soak.h"
-#include "tools/usage_error.h"
-
-namespace lab {
 
 namespace {
 
 struct Plan {
-    std::uint32_t firstSeed = 1;
-    std::uint32_t lastSeed = 100;
-    int events = 600;
-    std::uint32_t jobs = 1;
+    SeedRange seeds;
+    int events;
+    std::uint32_t jobs;
     std::string recordings;  // folder, empty for none
     std::string game;
-    bool json = false;
+    bool json;
 };
 
 struct Totals {
@@ -40,20 +36,13 @@ struct Totals {
 };
 
 Plan ReadPlan(const Words& words) {
-    const Arguments given(words, {"--seeds", "--events", "--jobs", "--record", "--game"}, {"--json"}, 0);
-    Plan plan;
-    const std::string seeds = given.Text("--seeds", "1..100");
-    const std::size_t dots = seeds.find("..");
-    if (dots == std::string::npos) throw UsageError("--seeds needs A..B, as 1..1000");
-    plan.firstSeed = ReadNumber(seeds.substr(0, dots));
-    plan.lastSeed = ReadNumber(seeds.substr(dots + 2));
-    if (plan.firstSeed > plan.lastSeed) throw UsageError("--seeds counts upward: " + seeds);
-    plan.events = static_cast<int>(std::min(given.Number("--events", 600), 1'000'000U));
-    plan.jobs = std::clamp(given.Number("--jobs", 1), 1U, 64U);
-    plan.recordings = given.Text("--record", "");
-    plan.game = given.Text("--game", GAME_FOLDER);
-    plan.json = given.Has("--json");
-    return plan;
+    const Arguments given(words, {"--seeds", "--events", "--jobs", "--record", "--game"}, {"--json"});
+    return {.seeds = given.Seeds("--seeds", {1, 100}),
+            .events = static_cast<int>(given.Number("--events", 600, 1, 1'000'000)),
+            .jobs = given.Number("--jobs", 1, 1, 64),
+            .recordings = given.Text("--record", ""),
+            .game = given.Text("--game", GAME_FOLDER),
+            .json = given.Has("--json")};
 }
 
 // A mission as a line between processes: seed, events, end, fault, parted by tabs.
@@ -72,8 +61,8 @@ SoakedMission MissionFrom(const std::string& line) {
     std::getline(text, events, '\t');
     std::getline(text, mission.end, '\t');
     std::getline(text, mission.fault);
-    mission.seed = ReadNumber(seed);
-    mission.events = static_cast<int>(ReadNumber(events));
+    mission.seed = static_cast<std::uint32_t>(std::stoul(seed));
+    mission.events = std::stoi(events);
     return mission;
 }
 
@@ -84,7 +73,8 @@ constexpr unsigned MissionSeconds = 600;
 void Work(const Plan& plan, std::uint32_t job, std::FILE* to) {
     const GameCopy copy(plan.game);
     SetProgramFolder(copy.Path());
-    for (std::uint64_t seed = plan.firstSeed + job; seed <= plan.lastSeed; seed += plan.jobs) {
+    for (std::uint64_t seed = std::uint64_t{plan.seeds.first} + job; seed <= plan.seeds.last;
+         seed += plan.jobs) {
         const auto number = static_cast<std::uint32_t>(seed);
         std::fprintf(to, "begin %u\n", number);
         std::fflush(to);
@@ -133,7 +123,7 @@ void Collect(const Worker& worker, Totals& totals) {
         text.pop_back();
         inMission = text.starts_with("begin ");
         if (inMission)
-            running = ReadNumber(text.substr(6));
+            running = static_cast<std::uint32_t>(std::stoul(text.substr(6)));
         else
             Count(totals, MissionFrom(text));
     }
@@ -202,5 +192,3 @@ int SoakSeeds(const Words& words) {
     plan.json ? PrintJson(totals) : PrintTable(totals);
     return totals.faults.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
-
-}  // namespace lab

@@ -8,16 +8,13 @@
 #include "platform/files.h"
 #include "platform/host.h"
 #include "state/setup.h"
+#include "tools/arguments.h"
 #include "tools/game_copy.h"
-#include "tools/lab/arguments.h"
 #include "tools/lab/commands.h"
 #include "tools/lab/recorder.h"
 #include "tools/lab/replay.h"
-#include "tools/usage_error.h"
 #include "view/events.h"
 #include "view/mini_map.h"
-
-namespace lab {
 
 namespace {
 
@@ -44,7 +41,7 @@ int ReplayInWindow(const Recording& recording, const GameCopy& copy, char** argu
 
 }  // namespace
 
-int Play(const Words& words, char** arguments) {
+int PlayInWindow(const Words& words, char** arguments) {
     const Arguments given(words, {"--seed", "--record", "--game"}, {}, 0);
     const GameCopy copy(given.Text("--game", GAME_FOLDER));
     const std::uint32_t seed = given.Number("--seed", 1);
@@ -74,7 +71,7 @@ int ReplayFile(const Words& words, char** arguments) {
     return result.difference.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-int Shot(const Words& words, char** arguments) {
+int PaintShot(const Words& words, char** arguments) {
     const Arguments given(words, {"--seed", "--window", "--game"}, {}, 1);
     const GameCopy copy(given.Text("--game", GAME_FOLDER));
     const std::string window = given.Text("--window", "field");
@@ -94,5 +91,3 @@ int Shot(const Words& words, char** arguments) {
     SetProgramFolder(copy.Path());
     return RunInWindow(arguments, {.begin = begin, .dispatch = Dispatch});
 }
-
-}  // namespace lab

@@ -63,7 +63,7 @@ void PrintSpeed(std::size_t missions, std::chrono::duration<double> time) {
 ExitCode PlayAll(const MissionOptions& options, const GameCopy& copy) {
     const Clock::time_point start = Clock::now();
     std::vector<PlayedMission> missions;
-    for (std::uint64_t seed = options.firstSeed; seed <= options.lastSeed; ++seed)
+    for (std::uint64_t seed = options.seeds.first; seed <= options.seeds.last; ++seed)
         missions.push_back(Play(static_cast<std::uint32_t>(seed), options, copy));
     std::cout << (options.json ? MissionJson(missions) : MissionTable(missions));
     if (options.time) PrintSpeed(missions.size(), Clock::now() - start);

@@ -8,17 +8,16 @@
 #include <string>
 #include <vector>
 
-#include "tools/usage_error.h"
+#include "tools/arguments.h"
 
 struct Habits;
 
 struct MissionOptions {
-    std::uint32_t firstSeed = 1;
-    std::uint32_t lastSeed = 1000;  // included
-    int turns = 40;                 // after which the player leaves a mission
+    SeedRange seeds{1, 1000};
+    int turns = 0;  // after which the player leaves a mission
     std::optional<std::uint32_t> log;
     std::filesystem::path game;  // empty: the one that was built beside the program
-    std::chrono::seconds limit{60};
+    std::chrono::seconds limit{0};
     const Habits* habits = nullptr;  // of the player; nullptr for the simple one
     bool json = false;
     bool time = false;

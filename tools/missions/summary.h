@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tools/scripted_player.h"
+#include "tools/player/scripted_player.h"
 
 constexpr std::array<const char*, 3> Verdicts = {"Victory", "Defeat", "Withdrawal"};
 

@@ -1,11 +1,9 @@
 #include "tools/tiled/game_map.h"
 
-#include <fstream>
-#include <stdexcept>
-
 #include "map_files.h"
 #include "record_files.h"
 #include "tools/check/record_file.h"
+#include "tools/whole_file.h"
 
 namespace fs = std::filesystem;
 
@@ -56,11 +54,4 @@ void WriteGameMap(const fs::path& stem, const GameMap& map) {
     WriteWholeFile(stem.string() + "2.map", layers.classes);
     WriteWholeFile(stem.string() + "3.map", layers.strengths);
     WriteWholeFile(stem.string() + "g.map", GroundBytes(map.places));
-}
-
-void WriteWholeFile(const fs::path& path, std::string_view content) {
-    std::ofstream file(path, std::ios::binary);
-    file << content;
-    file.close();
-    if (!file) throw std::runtime_error("can't write " + path.string());
 }

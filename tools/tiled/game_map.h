@@ -19,6 +19,3 @@ GameMap ReadGameMap(const std::filesystem::path& stem, Findings& findings);
 
 /// All four files. Throws std::runtime_error when one can't be written.
 void WriteGameMap(const std::filesystem::path& stem, const GameMap& map);
-
-/// Throws std::runtime_error.
-void WriteWholeFile(const std::filesystem::path& path, std::string_view content);

@@ -5,6 +5,7 @@
 #include "tools/tiled/tmx_format.h"
 #include "tools/tiled/tmx_reader.h"
 #include "tools/tiled/tmx_writer.h"
+#include "tools/whole_file.h"
 #include "view/embedded_files.h"
 
 namespace fs = std::filesystem;
@@ -13,18 +14,17 @@ namespace {
 
 enum ExitCode { Done, Failed, WrongUsage };
 
-constexpr const char* Usage =
-    "usage: sarnoth-tiled export MAP FILE.tmx\n"
-    "       sarnoth-tiled import FILE.tmx MAP\n"
-    "\n"
-    "Turns a map of the game into a map of the editor Tiled and back. MAP is the files' name without their\n"
-    "endings, as game/map/49 for game/map/491.map, 492.map, 493.map and 49g.map.\n"
-    "\n"
-    "export also writes the tile sheet, picMap.bmp, beside FILE.tmx. import refuses what the game can't "
-    "hold;\n"
-    "whether a mission can be played on the map is what sarnoth-check tells.\n"
-    "\n"
-    "Exit code 0: done; 1: not done, standard error says why; 2: a wrong command line.\n";
+constexpr const char* Usage = R"(usage: sarnoth-tiled export MAP FILE.tmx
+       sarnoth-tiled import FILE.tmx MAP
+
+Turns a map of the game into a map of the editor Tiled and back. MAP is the files' name without their endings,
+as game/map/49 for game/map/491.map, 492.map, 493.map and 49g.map.
+
+export also writes the tile sheet, picMap.bmp, beside FILE.tmx. import refuses what the game can't hold;
+whether a mission can be played on the map is what sarnoth-check tells.
+
+Exit code 0: done; 1: not done, standard error says why; 2: a wrong command line.
+)";
 
 // The report of faults, and the exit code.
 ExitCode Told(const Findings& findings) {

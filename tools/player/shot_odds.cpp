@@ -1,4 +1,4 @@
-#include "tools/odds.h"
+#include "tools/player/shot_odds.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
-#include "tools/enemy_memory.h"
+#include "tools/player/enemy_memory.h"
 
 #include <algorithm>
 
-#include "tools/odds.h"
+#include "tools/player/shot_odds.h"
 
 namespace {
 

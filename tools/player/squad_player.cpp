@@ -1,4 +1,4 @@
-#include "tools/squad_player.h"
+#include "tools/player/squad_player.h"
 
 #include <algorithm>
 #include <iterator>
@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "field/geometry.h"
-#include "tools/odds.h"
-#include "tools/orders.h"
+#include "tools/player/orders.h"
+#include "tools/player/shot_odds.h"
 
 namespace {
 

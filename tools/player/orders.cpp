@@ -1,4 +1,4 @@
-#include "tools/orders.h"
+#include "tools/player/orders.h"
 
 #include "view/events.h"
 

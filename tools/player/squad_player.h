@@ -9,9 +9,9 @@
 #include <string_view>
 
 #include "state/state.h"
-#include "tools/enemy_memory.h"
-#include "tools/search_map.h"
-#include "tools/way_map.h"
+#include "tools/player/enemy_memory.h"
+#include "tools/player/search_map.h"
+#include "tools/player/way_map.h"
 
 struct Habits {
     std::string_view name;

@@ -1,4 +1,4 @@
-#include "tools/way_map.h"
+#include "tools/player/way_map.h"
 
 #include <algorithm>
 #include <vector>

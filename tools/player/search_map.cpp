@@ -1,8 +1,8 @@
-#include "tools/search_map.h"
+#include "tools/player/search_map.h"
 
 #include "field/geometry.h"
 #include "field/sight.h"
-#include "tools/way_map.h"
+#include "tools/player/way_map.h"
 
 namespace {
 

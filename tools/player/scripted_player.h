@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "tools/squad_player.h"
+#include "tools/player/squad_player.h"
 
 /// The turns that the squad has begun, by the log, which is read on from where it was read up to.
 class TurnCount {

@@ -1,4 +1,4 @@
-#include "tools/scripted_player.h"
+#include "tools/player/scripted_player.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -7,8 +7,8 @@
 
 #include "platform/headless_host.h"
 #include "state/state.h"
-#include "tools/orders.h"
-#include "tools/squad_player.h"
+#include "tools/player/orders.h"
+#include "tools/player/squad_player.h"
 #include "view/field_form.h"
 
 namespace {
