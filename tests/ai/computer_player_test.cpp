@@ -71,13 +71,11 @@ TEST_F(ComputerPlayerTest, TheReloadReadsAsIfInverted) {
     }
 }
 
-TEST_F(ComputerPlayerTest, TheReserveIsTheDropAndTheShotAndTwiceTheDropForTheWary) {
+TEST_F(ComputerPlayerTest, TheWaryReserveTwiceTheDrop) {
     self.stance = Stance::Run;
-    AiReserveTime();
-    EXPECT_EQ(self.aiReserve, 12 + Shot);
     self.aiWary = True;
     AiReserveTime();
-    EXPECT_EQ(self.aiReserve, 24 + Shot);
+    EXPECT_EQ(self.aiReserve, 2 * 12 + Shot);
 }
 
 TEST_F(ComputerPlayerTest, WithAnEnemyInSightItRunsUpDropsAndFiresAsFarAsItsTimeGoes) {

@@ -41,21 +41,17 @@ TEST_F(CampaignFilesTest, ASoldiersFieldsLieWhereTheFormatSays) {
     EXPECT_EQ(soldier.name, "Zoë Brandt");
     EXPECT_EQ(soldier.country + soldier.facePrefix + soldier.faceGroup + soldier.faceType, "FRf bj")
         << "blanks are kept in the face";
-    EXPECT_EQ(soldier.faceNo, 12);
-    EXPECT_EQ(soldier.vitality, 100) << "the first of fourteen attributes";
-    EXPECT_EQ(soldier.marksmanship, 106);
-    EXPECT_EQ(soldier.explosives, 113);
-    EXPECT_EQ(soldier.cellX, 5);
-    EXPECT_EQ(soldier.facing, 7);
-    EXPECT_EQ(soldier.stance, 3);
-    EXPECT_EQ(soldier.time, -1);
-    EXPECT_EQ(soldier.health, 80);
-    EXPECT_EQ(soldier.energy, 300);
     const InvItem& item = soldier.items[21];
     EXPECT_EQ(item.name, "7ak");
-    EXPECT_EQ(item.durab, 270) << "whatever the file says";
-    EXPECT_EQ(item.capMain, 31);
-    EXPECT_EQ(item.roundsMain, 29);
+    const int fields[] = {soldier.faceNo, soldier.vitality, soldier.marksmanship, soldier.explosives,
+                          soldier.cellX,  soldier.facing,   soldier.stance,       soldier.time,
+                          soldier.health, soldier.energy,   item.capMain,         item.roundsMain,
+                          item.durab};
+    // Among them the first, the seventh and the last of fourteen attributes; the condition is that of every
+    // roster.
+    const int expected[] = {12, 100, 106, 113, 5, 7, 3, -1, 80, 300, 31, 29, 270};
+    for (std::size_t i = 0; i < std::size(fields); ++i)
+        EXPECT_EQ(fields[i], expected[i]) << i;
     EXPECT_EQ(UnitTable[62].name, "") << "records beyond the end stay empty";
 }
 
@@ -92,11 +88,30 @@ TEST_F(CampaignFilesTest, GroundThingsLieOnTheirCellsUnderOneMarkerEach) {
     EXPECT_EQ(groundItems[45][75][1].name, "med");
     ASSERT_EQ(teamLast[PileList], 1);
     EXPECT_EQ(UnitTable[121].cellX, 3);
-    file[1112] = 76;
-    folder.Write("map/tg.map", file);
-    EXPECT_EQ(ErrorOf([] { LoadGroundItems("t"); }),
+    const auto errorOf = [&](char count, char column) {
+        file[12] = count;
+        file[1112] = column;
+        folder.Write("map/tg.map", file);
+        return ErrorOf([] { LoadGroundItems("t"); });
+    };
+    EXPECT_EQ(errorOf(2, 76),
               "Run-time error 2: Subscript out of range: map/tg.map: record 2, byte 0: expected a cell of "
               "the field, found 76, 45");
+    EXPECT_EQ(errorOf(103, 75),
+              "Run-time error 4: Bad data: map/tg.map: record 4: expected place 3 of 103, found the end of "
+              "the file");
+    EXPECT_EQ(errorOf(104, 75),
+              "Run-time error 2: Subscript out of range: map/tg.map: record 1, byte 12: expected up to 103 "
+              "places with things, found 104");
+}
+
+TEST_F(CampaignFilesTest, EachFacingHasItsTextAmongValuesThatMayBeQuotedAndRunOverLines) {
+    folder.Write("dat/ori.dat", "0,1,2,\"north, east\",4\r\n1,1,1, one ,1\n2\r\n\r\n2\r\ntwo\r\n2");
+    for (const auto& [facing, text] : {std::pair{0, "north, east"}, {1, "one"}, {2, "two"}})
+        EXPECT_EQ(FacingText(facing), text);
+    EXPECT_EQ(ErrorOf([] { FacingText(3); }),
+              "Run-time error 4: Bad data: dat/ori.dat:7:2: expected five values for each of the eight "
+              "facings, found the end of the file");
 }
 
 TEST_F(CampaignFilesTest, FieldsArePaddedWithinTwoCharactersOfTheirLength) {
@@ -104,29 +119,6 @@ TEST_F(CampaignFilesTest, FieldsArePaddedWithinTwoCharactersOfTheirLength) {
     EXPECT_EQ(PadField("123456789012", "1234567890"), "123456789012");
     EXPECT_THROW(PadField("1234567890123", "1234567890"), RunTimeError);
     EXPECT_EQ(TrimBlanks("  a b  "), "  a b");
-}
-
-TEST_F(CampaignFilesTest, EachFacingHasItsText) {
-    folder.Write("dat/ori.dat", "0,1,2,zero,4\r\n1,1,1,one,1\r\n2\r\n2\r\n2\r\ntwo\r\n2\r\n");
-    EXPECT_EQ(FacingText(0), "zero");
-    EXPECT_EQ(FacingText(2), "two");
-}
-
-TEST_F(CampaignFilesTest, MorePilesThanTheUnitsHaveRoomForAreRefused) {
-    std::string file(1112 * 105, '\0');
-    for (int place = 1; place <= 104; ++place) {
-        file[1112 * static_cast<std::size_t>(place)] = static_cast<char>(place % 76);
-        file[1112 * static_cast<std::size_t>(place) + 1] = static_cast<char>(place / 76);
-    }
-    Place(file, 2, "items     \x67");
-    folder.Write("map/tg.map", file);
-    EXPECT_EQ(ErrorOf([] { LoadGroundItems("t"); }), "");
-    teamLast[PileList] = -1;
-    Place(file, 2, "items     \x68");
-    folder.Write("map/tg.map", file);
-    EXPECT_EQ(ErrorOf([] { LoadGroundItems("t"); }),
-              "Run-time error 2: Subscript out of range: map/tg.map: record 1, byte 12: expected up to 103 "
-              "places with things, found 104");
 }
 
 }  // namespace

@@ -18,14 +18,8 @@ class WalkingTest : public GameTest {
 
     Unit& unit = UnitTable[0];
 
-    static InputEvent ClickOn(int cellX, int cellY, int button = 1) {
-        return {EventKind::MouseDown,
-                "frmField.area",
-                -1,
-                button,
-                0,
-                static_cast<float>(cellX * 20 + 10),
-                static_cast<float>(cellY * 20 + 10)};
+    static InputEvent ClickOn(float x, float y) {
+        return {EventKind::MouseDown, "frmField.area", -1, 1, 0, x * 20 + 10, y * 20 + 10};
     }
 };
 

@@ -63,7 +63,7 @@ TEST_F(DropItemTest, EachMeetingOfTwoThings) {
     };
     // clang-format off
     const Case cases[] = {
-        {"a rifle to the ground", {"m4", 30, 30}, 35, {}, true, {}, {"m4", 30, 30}, 0, nullptr},
+        {"a rifle to the ground", {"m4", 30, 30}, 30, {}, true, {}, {"m4", 30, 30}, 0, nullptr},
         {"a rifle to the spare row", {"m4"}, 29, {}, false, {"m4"}, {}, 0, nullptr},
         {"a helmet to the head", {"helmet", 144, 144}, 4, {}, true, {}, {"helmet", 144, 144}, 0, nullptr},
         {"a helmet to the body", {"helmet"}, 5, {}, false, {"helmet"}, {}, 0, nullptr},

@@ -1,10 +1,9 @@
-// Readers that know where they are, safe replacement of a file, the code page, events as text.
+// Readers that know where they are, safe replacement of a file, the code page.
 #include "platform/files.h"
 
 #include <sys/stat.h>
 
 #include "platform/code_page.h"
-#include "platform/input_event.h"
 #include "tests/support/game_test.h"
 
 namespace {
@@ -27,27 +26,43 @@ TEST_F(FilesTest, TheTextReaderEndsLinesAtEitherEndingAndNamesThePlace) {
               "Run-time error 4: Bad data: dat/t.txt:2:2: expected a letter, found the end of the file");
 }
 
-TEST_F(FilesTest, CommaValuesMayBeQuotedAndRunOverLines) {
-    folder.Write("dat/t.txt", "1, two ,\"a, b\"\r\n\nlast");
-    CommaReader reader("\\dat\\t.txt");
-    for (const char* expected : {"1", "two", "a, b", "", "last"})
-        EXPECT_EQ(reader.ReadValue("a value"), expected);
-    EXPECT_EQ(ErrorOf([&] { reader.ReadValue("a value"); }),
-              "Run-time error 4: Bad data: dat/t.txt:3:5: expected a value, found the end of the file");
-}
-
 TEST_F(FilesTest, RecordsAreCountedFromOneAndEmptyBeyondTheEnd) {
-    folder.Write("dat/t.dat", std::string("\x01\x80zwei\x02\xFF    \x03", 13));
+    folder.Write("dat/t.dat", "1     2     3");
     const RecordReader reader("\\dat\\t.dat", 6);
-    EXPECT_EQ(reader.Read(1).ReadInt16(0), -32767);  // 0x8001
-    EXPECT_EQ(reader.Read(1).ReadText(2, 4), "zwei");
-    EXPECT_EQ(reader.Read(2).ReadByte(1), 255);
+    EXPECT_EQ(reader.Read(2).ReadText(0, 1), "2");
     EXPECT_EQ(reader.Read(4).ReadText(0, 6), "");
     EXPECT_EQ(ErrorOf([&] { reader.Read(3); }),
               "Run-time error 4: Bad data: dat/t.dat: record 3: expected 6 bytes, found 1");
     EXPECT_EQ(
         ErrorOf([&] { reader.ReadCounted(4, "a soldier"); }),
         "Run-time error 4: Bad data: dat/t.dat: record 4: expected a soldier, found the end of the file");
+}
+
+// A pipe has nobody at its other end, and the device never ends: neither is waited for.
+TEST_F(FilesTest, WhatIsNoFileIsNamed) {
+    struct Case {
+        void (*put)(const std::filesystem::path& place);
+        const char* found;
+    };
+    constexpr Case Cases[] = {
+        {[](const auto& /*place*/) {}, ""},
+        {[](const auto& place) { std::filesystem::create_directory(place); },
+         ": expected a file, found a folder or a device"},
+        {[](const auto& place) { mkfifo(place.c_str(), 0666); },
+         ": expected a file, found a folder or a device"},
+        {[](const auto& place) { std::filesystem::create_symlink("/dev/zero", place); },
+         ": expected a file, found a folder or a device"},
+        {[](const auto& place) { std::filesystem::create_symlink(place, place); },
+         ": Too many levels of symbolic links"},
+        {[](const auto& place) { std::filesystem::create_symlink("/proc/self/mem", place); },
+         ": it can't be read: Input/output error"},
+    };
+    for (const Case& c : Cases) {
+        folder.Remove("map/49g.map");
+        c.put(folder.Path() / "map/49g.map");
+        EXPECT_EQ(ErrorOf([] { ReadWholeFile("\\map\\49g.map"); }),
+                  std::string("Run-time error 3: File not found: map/49g.map") + c.found);
+    }
 }
 
 TEST(RecordTexts, AreEightBitAndRefuseControlCharacters) {
@@ -68,34 +83,19 @@ TEST(CodePage, EveryByteSurvivesTheWayThereAndBack) {
     EXPECT_EQ(ToCodePage("x\u0445y\xC3"), "x?y?") << "a letter that the page lacks, and broken text";
 }
 
-TEST_F(FilesTest, AFileThatCanNotBeReplacedStaysAsItWas) {
-    folder.Write("dat/t.dat", "old");
-    ReplaceFile("\\dat\\t.dat", "new");
-    EXPECT_EQ(folder.Read("dat/t.dat"), "new");
-    EXPECT_FALSE(FileExists("\\dat\\t.dat.new"));
-
-    std::filesystem::create_directories(folder.Path() / "dat/folder/inside");
-    EXPECT_NE(ErrorOf([] { ReplaceFile("\\dat\\folder", "new"); }), "");
-    EXPECT_TRUE(std::filesystem::is_directory(folder.Path() / "dat/folder/inside"));
-    EXPECT_FALSE(FileExists("\\dat\\folder.new")) << "what was written aside is taken away";
-}
-
-TEST_F(FilesTest, WhatStandsWhereANewFileIsWrittenAsideIsReplacedOrNamed) {
+TEST_F(FilesTest, AFileIsReplacedWholeOrStaysAsItWas) {
     const std::filesystem::path aside = folder.Path() / "dat/t.dat.new";
     mkfifo(aside.c_str(), 0666);  // nobody reads from it
     ReplaceFile("\\dat\\t.dat", "two");
     EXPECT_EQ(folder.Read("dat/t.dat"), "two");
+    EXPECT_FALSE(std::filesystem::exists(aside));
+    std::filesystem::create_directories(folder.Path() / "dat/folder/inside");
+    EXPECT_NE(ErrorOf([] { ReplaceFile("\\dat\\folder", "new"); }), "");
+    EXPECT_FALSE(FileExists("\\dat\\folder.new")) << "what was written aside is taken away";
     std::filesystem::create_directory(aside);
     EXPECT_EQ(ErrorOf([] { ReplaceFile("\\dat\\t.dat", "three"); }),
               "Run-time error 5: File can't be written: dat/t.dat: Is a directory");
     EXPECT_EQ(folder.Read("dat/t.dat"), "two");
-}
-
-TEST(InputEvents, TextAndBackGiveTheSameEvent) {
-    const InputEvent event{EventKind::MouseDown, "frmField.area", 5, 2, 3, 150.53125F, 0.1F};
-    EXPECT_EQ(EventFromText(EventText(event)), event);
-    for (const char* broken : {"", "Click", "Smile frmField -1 0 0 0 0", "Click frmField -1 0 0 0 0 9"})
-        EXPECT_THROW(EventFromText(broken), RunTimeError) << broken;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <set>
 
 #include "platform/arrays.h"
 #include "platform/random.h"
@@ -17,25 +18,13 @@ TEST(Rounding, TiesGoToTheEvenNeighbour) {
         EXPECT_EQ(RoundHalfEven(value), rounded) << value;
 }
 
-TEST(Rounding, DivisionFloorsTowardMinusInfinity) {
-    EXPECT_EQ(FloorDivide(39, 20), 1);
-    EXPECT_EQ(FloorDivide(-20, 20), -1);
-    EXPECT_EQ(FloorDivide(-21, 20), -2);
-}
-
-TEST(CheckedNumbers, OverflowIsThrownAtTheFirstValueThatDoesNotFit) {
+TEST(CheckedNumbers, AreRoundedHalfEvenWhereTheyAreStoredAndRefusedAtTheFirstThatDoesNotFit) {
     i16 word = 32767;
     EXPECT_THROW(++word, RunTimeError);
     EXPECT_EQ(word, 32767) << "a refused store leaves the old value";
-    word = -32768;
-    EXPECT_THROW(word -= 1, RunTimeError);
-    u8 byte = 255;
-    EXPECT_THROW(byte += 1, RunTimeError);
+    EXPECT_THROW(i16(-32769), RunTimeError);
     EXPECT_THROW(i16{std::numeric_limits<double>::quiet_NaN()}, RunTimeError);
-}
-
-TEST(CheckedNumbers, FloatsAreRoundedHalfEvenWhereTheyAreStored) {
-    i16 word = 4.5;
+    word = 4.5;
     EXPECT_EQ(word, 4);
     word += 1.5;  // 5.5
     EXPECT_EQ(word, 6);
@@ -70,15 +59,11 @@ TEST(RandomSource, WholeNumbersCoverBothEndsAndNoMore) {
     constexpr Case Cases[] = {{15, 10, 10, 15}, {0, 0, 0, 0}, {-10, 0, -9, -1}};
     SeedRandom(1);
     for (const Case& c : Cases) {
-        int least = 1000;
-        int most = -1000;
-        for (int i = 0; i < 2000; ++i) {
-            const int drawn = RandomInt(c.high, c.low);
-            least = std::min(least, drawn);
-            most = std::max(most, drawn);
-        }
-        EXPECT_EQ(least, c.least);
-        EXPECT_EQ(most, c.most);
+        std::set<int> drawn;
+        for (int i = 0; i < 2000; ++i)
+            drawn.insert(RandomInt(c.high, c.low));
+        EXPECT_EQ(*drawn.begin(), c.least);
+        EXPECT_EQ(*drawn.rbegin(), c.most);
     }
 }
 

@@ -1,10 +1,10 @@
-// The turn engine: refill, status by health, the selection with its passes and its log.
+// The turn engine: refill, status by health, the selection with its passes and its log, the verdict.
 #include "state/turns.h"
 
 #include "data/tables.h"
+#include "state/mission_end.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"
-#include "view/events.h"
 #include "view/forms.h"
 
 namespace {
@@ -144,37 +144,30 @@ TEST_F(TurnsTest, TheSelectionPassesOverWhoCanNotAct) {
     }
 }
 
-TEST_F(TurnsTest, EachPassOfOneTurnHealsTheWoundedAndBleedsTheImmobile) {
-    MakeTeams({{}, {Wounded, 20}, {Immobile, 10}}, {{}});
-    for (int pass = 0; pass < 3; ++pass)
-        SelectNextUnit();
-    EXPECT_EQ(UnitTable[1].health, 23);
-    EXPECT_EQ(UnitTable[2].health, 7);
-}
-
-TEST_F(TurnsTest, AWholeTurnGoesThroughMixedTeams) {
-    MakeTeams({{Dead, 0}, {Wounded, 20}, {Active, 50, 80, 0}, {}},
-              {{Immobile, 10}, {Dead, 0}, {Wounded, 20}, {}});
-    curUnit = 3;
-    Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
-    // The dead keep the computer's count of those done below its members, so its selection steps past its end
-    // and finds the soldier that the squad's has selected meanwhile: he is selected twice.
-    EXPECT_EQ(Log(),
-              "New turn for team #1\n"
-              "a (#20) is immobile and now -1\n"
-              "b (#21) is dead. Selecting the next one.\n"
-              "c (#22) is wounded and now +1\n"
-              "New turn for team #0\n"
-              "a (#0) is dead. Selecting the next one.\n"
-              "b (#1) is wounded and now +1\n"
-              "Selected b [wounded]\n"
-              "0 time for c (#2)\n"
-              "Selected d [active]\n"
-              "Selected d [active]\n"
-              "Selected d [active]\n"
-              "Selected d [active]\n");
-    EXPECT_EQ(curUnit, 3);
-    EXPECT_EQ(UnitTable[23].stance, Stance::Run) << "the computer's last one has acted";
+TEST_F(TurnsTest, EachOutcomeHasItsWordAndTheSquadGoesBackToItsRoster) {
+    struct Case {
+        std::vector<Member> squad, enemies, civilians;
+        const char* message;
+    };
+    const Member alive;
+    const Member dead = {Dead, 0};
+    const Case cases[] = {
+        {{alive}, {alive}, {}, "Withdrawal. The end."},
+        {{{Wounded}, dead}, {dead, dead}, {}, "Victory. The end."},
+        {{dead}, {dead}, {}, "Defeat. The end."},
+        {{alive}, {alive}, {dead}, "Team #2 exterminated. The end."},
+    };
+    for (const Case& c : cases) {
+        ResetState();
+        host.messages.clear();
+        teamLast[RosterTeam] = 9;
+        MakeTeams(c.squad, c.enemies);
+        MakeTeam(2, c.civilians);
+        EXPECT_THROW(EndGame(), ProcessEnded);
+        EXPECT_EQ(host.messages, std::vector<std::string>{c.message});
+        EXPECT_EQ(teamLast[RosterTeam], teamLast[SquadTeam]);
+        EXPECT_EQ(UnitTable[60].status, c.squad[0].status);
+    }
 }
 
 TEST_F(TurnsTest, OnlyATeamThatIsDeadToTheLastEndsTheMission) {

@@ -1,5 +1,5 @@
-// The mission on the map "49" is worth playing: it lasts, it costs a careful player something, and a careless
-// one a lot more.
+// The mission on the map "49" comes to its end and is worth playing: it lasts, it costs a careful player
+// something, and a careless one a lot more.
 #include <algorithm>
 #include <vector>
 
@@ -25,8 +25,11 @@ class BalanceTest : public GameTest {
     Campaign PlayAll(const char* player) {
         Campaign campaign;
         for (int seed = 1; seed <= Seeds; ++seed) {
+            host.messages.clear();
             StartGame(static_cast<unsigned>(seed));
             const MissionResult result = PlayMission(Turns, HabitsNamed(player));
+            EXPECT_EQ(host.messages, std::vector<std::string>{result.verdict + ". The end."}) << seed;
+            EXPECT_EQ(result.verdict == "Victory", result.enemiesDead == teamLast[EnemyTeam] + 1) << seed;
             const int losses = result.squadWounded + result.squadDead;
             campaign.victories += result.verdict == "Victory" ? 1 : 0;
             campaign.costly += losses > 0 ? 1 : 0;

@@ -1,15 +1,14 @@
-// Where sounds are placed, how they take their turns; the running log.
+// Where sounds are placed, how they take their turns.
 #include "view/sound.h"
 
 #include "state/state.h"
 #include "tests/support/game_test.h"
 #include "view/field_form.h"
-#include "view/log.h"
 #include "view/scrolling.h"
 
 namespace {
 
-class SoundTest : public GameTest {};
+using SoundTest = GameTest;
 
 TEST_F(SoundTest, AColumnIsPannedByItsPlaceOnTheScreen) {
     struct Case {
@@ -40,14 +39,6 @@ TEST_F(SoundTest, FourSlotsTakeTurnsAndAMissingFileTakesNone) {
     for (const SoundRequest& sound : host.sounds)
         slots.push_back(sound.slot);
     EXPECT_EQ(slots, (std::vector<int>{1, 2, 3, 4, 1}));
-}
-
-TEST_F(SoundTest, ALogLineIsGatheredUntilItIsEnded) {
-    AddToLog("a", 0);
-    AddToLog("b", 2);
-    EXPECT_EQ(Log(), "");
-    AddToLog("c", 1);
-    EXPECT_EQ(Log(), "abc\n");
 }
 
 }  // namespace
