@@ -12,9 +12,9 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include "desktop/desktop_host.h"
 #include "desktop/game_window.h"
 #include "platform/files.h"
-#include "platform/host.h"
 #include "state/setup.h"
 #include "state/state.h"
 #include "tests/support/short_session.h"
@@ -22,12 +22,6 @@
 #include "view/field_form.h"
 
 namespace {
-
-QWidget* MainWindow() {
-    for (QWidget* const window : QApplication::topLevelWidgets())
-        if (window->objectName() == QString::fromStdString(frmField.name)) return window;
-    return nullptr;
-}
 
 constexpr std::chrono::milliseconds LookPause(5);
 constexpr std::chrono::milliseconds LongestWait(6);  // long enough for the attendant to look
@@ -45,15 +39,9 @@ class HastyHost : public Host {
     void ShowModal(Form& form) override { real.ShowModal(form); }
     void ShowMessage(const std::string& text) override { real.ShowMessage(text); }
     void PlaySound(const SoundRequest& sound) override { real.PlaySound(sound); }
-    [[noreturn]] void EndProcess(int exitCode) override {
-        real.EndProcess(exitCode);
-        std::abort();  // the compiler doesn't see that it doesn't return
-    }
+    [[noreturn]] void EndProcess(int exitCode) override { real.DesktopHost::EndProcess(exitCode); }
 
-    bool LetsEventsIn() const { return real.InnermostPump() != 0; }
-
-  private:
-    Host& real = TheHost();
+    DesktopHost& real = static_cast<DesktopHost&>(TheHost());
 };
 
 class Attendant {
@@ -69,8 +57,8 @@ class Attendant {
   private:
     void Look() {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (closes && mayClose && (box != nullptr || host.LetsEventsIn())) {
-            MainWindow()->close();
+        if (closes && mayClose && (box != nullptr || host.real.InnermostPump() != 0)) {
+            host.real.WindowOf(frmField).close();
             return;
         }
         if (box != nullptr) {

@@ -10,28 +10,21 @@ namespace {
 
 using GameWindowTest = WindowGame;
 
-TEST_F(GameWindowTest, IsPlayedThroughItsWidgets) {
+TEST_F(GameWindowTest, IsPlayedByTheMouse) {
     HastyHost host(frmField, OtherForms(), Dispatch);
-    const auto widgetOf = [&](const Control& control) { return host.WindowOf(frmField).WidgetOf(control); };
-    const auto clickField = [&](int x, int y) {
-        QTest::mouseClick(widgetOf(frmField.area), Qt::LeftButton, Qt::NoModifier,
-                          {x * 20 + 10, y * 20 + 10});
+    const auto click = [&](const Control& control, QPoint at = {}) {
+        QTest::mouseClick(host.WindowOf(frmField).WidgetOf(control), Qt::LeftButton, Qt::NoModifier, at);
     };
     host.Enter([] { Main(1); });
-    ASSERT_EQ(curTeam, SquadTeam);
     const int last = teamLast[SquadTeam];
-    Unit& soldier = UnitTable[last];
-    clickField(soldier.cellX, soldier.cellY);
+    const Unit& soldier = UnitTable[last];
+    click(frmField.area, {soldier.cellX * 20 + 10, soldier.cellY * 20 + 10});
     ASSERT_EQ(curUnit, last);
-    const int column = soldier.cellX;
-    QTest::keyClick(&host.WindowOf(frmField), Qt::Key_Right);
-    EXPECT_EQ(soldier.cellX, column + 1);
-    QTest::mouseClick(widgetOf(frmField.imgStance[1]), Qt::LeftButton);
+    click(frmField.imgStance[1]);
     EXPECT_EQ(soldier.stance, Crouch);
-
-    QTest::mouseClick(widgetOf(frmField.HScrollArea), Qt::LeftButton, Qt::NoModifier, {200, 8});
+    click(frmField.HScrollArea, {200, 8});
     EXPECT_GT(frmField.HScrollArea.Value, 0);
-    QTest::mouseClick(widgetOf(frmField.cmdNextTurn), Qt::LeftButton);
+    click(frmField.cmdNextTurn);
     EXPECT_EQ(curUnit, 0) << "the turn is the squad's again";
 }
 

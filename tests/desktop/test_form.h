@@ -122,20 +122,3 @@ class DesktopTest : public testing::Test {
                      }};
     FormWindow& window = host.WindowOf(form);
 };
-
-/// Counts what a widget paints.
-class PaintCounter : public QObject {
-  public:
-    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-    int paints = 0;
-    QRect last;
-
-  protected:
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            ++paints;
-            last = static_cast<QPaintEvent*>(event)->rect();
-        }
-        return false;
-    }
-};

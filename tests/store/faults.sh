@@ -83,7 +83,7 @@ while IFS='|' read -r before wrapper during message; do
     message=$(sed 's/^ *//' <<<"$message")
     [ "$(cat err)" = "Sarnoth III: Run-time error $message" ] || complain "standard error: $(cat err)"
     chmod -R u+rwX play
-    [ ! -f play/dat/apc.dat ] || store_is before
+    [[ "$during" = *rm* ]] || store_is before
     [ ! -e play/dat/apc.dat.new ] || complain "a half-written store was left: $what"
 done <<'END'
 rm play/dat/ori.dat play/dat/save.dat; mkfifo play/dat/save.dat| | true | 3: File not found: dat/save.dat: expected a file, found a folder or a device

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <random>
-#include <sstream>
 
 #include "data/campaign_files.h"
 #include "data/countries_file.h"
@@ -20,8 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Replaces the first `from` of a line by `to`. A whole line is named by its beginning and taken out with its
-// end when `to` is nullptr.
+// Replaces the first `from` of a line by `to`.
 struct TextFault {
     const char* file;
     int line;
@@ -58,19 +57,20 @@ constexpr TextFault TextFaults[] = {
     {"content/dat/weapons.dat",   95, "Suomi M31", "Suomi_M31", "95:70",  "underscore"},
     {"content/dat/weapons.dat",   94, "\tsten\t",  "\tsuomi\t", "95:8",   "first in line 94", 2},
     {"content/dat/weapons.dat",   68, "\tcrossbow\t", "\tcrosbow\t", "68:8",  "did you mean \"crosbow\"", 3},
-    {"content/dat/countries.dat",  1, "AD",        nullptr,     "1:1",    "no country's code"},
+    {"content/dat/countries.dat",  1, "AD\n",      "",          "1:1",    "no country's code"},
     {"content/dat/countries.dat",  5, "AF",        "AE",        "5:1",    "comes twice"},
     {"content/dat/ori.dat",        4, ",90",       "",          "4:8",    "4 values"},
     {"content/campaign/roster.txt", 15, "CPT",     "CAP",       "15:17",  "no rank"},
     {"content/campaign/roster.txt", 17, "a 1 b",   "a 13 b",    "17:17",  "usa13.bmp"},
     {"content/campaign/roster.txt", 20, "43",      "101",       "20:17",  "1 to 100"},
-    {"content/campaign/roster.txt", 24, "  mood",  nullptr,     "13:1",   "lacks \"mood\""},
+    {"content/campaign/roster.txt", 24, "  mood          76\n", "", "13:1",   "lacks \"mood\""},
     {"content/campaign/roster.txt", 38, "30/30",   "30/31",     "38:59",  "31 rounds"},
     {"content/campaign/roster.txt", 38, "5nato",   "7nato",     "38:48",  "isn't fed"},
     {"content/campaign/roster.txt", 39, "slot 1:", "slot 8:",   "39:13",  "too long for slot 8", 2},
     {"content/campaign/roster.txt", 51, "slot 15:", "slot 16:", "51:8",   "6 pockets"},
     {"content/campaign/store.txt",  9, "12/12",    "12-12",     "9:74",   "no feed"},
     {"content/map/49g.txt",         5, "25 3",     "76 3",      "5:7",    "0 to 75"},
+    {"content/map/49g.txt",         5, "25 3",     "0 0",       "5:1",    "nobody can stand"},
     {"content/map/49.txt",        124, "|......",  "|.\x60....", "124:3", "no such glyph"},
     {"content/map/49.txt",        124, "|......",  "|.!....",   "124:3",  "in sight of the squad"},
     {"content/map/49.txt",        123, "||||",     "||.|",      "123:3",  "row 0"},
@@ -92,19 +92,13 @@ constexpr ByteFault ByteFaults[] = {
 };
 // clang-format on
 
-std::string Edited(const std::string& content, const TextFault& fault) {
+std::string Edited(std::string content, const TextFault& fault) {
     std::size_t begin = 0;
     for (int line = 1; line < fault.line; ++line)
         begin = content.find('\n', begin) + 1;
-    const std::size_t end = content.find('\n', begin) + 1;
-    std::string line = content.substr(begin, end - begin);
-    const std::size_t at = line.find(fault.from);
-    EXPECT_NE(at, std::string::npos) << fault.file << " has changed: " << line;
-    if (fault.to == nullptr)
-        line.clear();
-    else
-        line.replace(at, std::string(fault.from).size(), fault.to);
-    return content.substr(0, begin) + line + content.substr(end);
+    const std::size_t at = content.find(fault.from, begin);
+    EXPECT_LE(at, content.find('\n', begin)) << fault.file << " has changed: " << fault.from;
+    return content.replace(at, std::string(fault.from).size(), fault.to);
 }
 
 class CheckTest : public GameTest {
@@ -128,22 +122,20 @@ class CheckTest : public GameTest {
         folder.Write(fault.file, content);
         const Findings findings = Check(fault.file);
         folder.Write(fault.file, whole);
-        const std::string report = FindingsText(findings);
         const std::string start = (folder.Path() / fault.file).string() + ":" +
                                   (std::string(fault.place).starts_with("record") ? " " : "") + fault.place;
-        bool found = false;
-        std::istringstream lines(report);
-        for (std::string line; std::getline(lines, line);)
-            found = found || (line.starts_with(start + ": ") && line.find(fault.word) != std::string::npos);
-        EXPECT_TRUE(found) << fault.file << ":" << fault.place << ": " << fault.word << "\n" << report;
-        EXPECT_EQ(findings.size(), fault.findings) << report;
+        EXPECT_EQ(findings.size(), fault.findings);
+        EXPECT_TRUE(std::ranges::any_of(findings,
+                                        [&](const Finding& finding) {
+                                            const std::string text = FindingsText({finding});
+                                            return text.starts_with(start + ": ") &&
+                                                   text.substr(0, text.find('\n')).find(fault.word) !=
+                                                       std::string::npos;
+                                        }))
+            << fault.file << ":" << fault.place << ": " << fault.word << "\n"
+            << FindingsText(findings);
     }
 };
-
-TEST_F(CheckTest, OurDataIsClean) {
-    EXPECT_EQ(FindingsText(Check("content/")), "");
-    EXPECT_EQ(FindingsText(Check("")), "");
-}
 
 TEST_F(CheckTest, FaultsInTextsAreFoundAtTheirPlace) {
     for (const TextFault& fault : TextFaults)
@@ -222,7 +214,6 @@ TEST(FindingsTest, TheCaretStandsUnderTheColumnAndJsonIsEscaped) {
 
 TEST(NearestTest, CountsEditsAndStopsAtAThird) {
     EXPECT_EQ(EditDistance("form", "from"), 1U) << "two letters exchanged";
-    EXPECT_EQ(EditDistance("kitten", "sitting"), 3U);
     EXPECT_EQ(Nearest("vestt", {"pack", "vest"}), "vest");
     EXPECT_EQ(Nearest("abc", {"abdd", "axyz"}), "");
     EXPECT_EQ(Nearest("vest", {"vest"}), "");
