@@ -205,6 +205,7 @@ TEST_F(KeyboardDeathTest, AWholeTurnIsPlayedByKeysAlone) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return soldier.time > left; }))
         << "the button is seen going down first";
     EXPECT_EQ(curTeam, SquadTeam);
+    host.atEnd = [this] { folder.RemoveAll(); };  // nothing else in that process would
     EXPECT_EXIT(Press(Qt::Key_X, Qt::AltModifier), testing::ExitedWithCode(0), "");
 }
 
