@@ -65,7 +65,7 @@ SeedRange Arguments::Seeds(const std::string& name, SeedRange otherwise) const {
 std::filesystem::path Arguments::DataFolder(const std::string& name,
                                             const std::filesystem::path& otherwise) const {
     if (!Has(name)) return otherwise;
-    const std::filesystem::path folder = values.at(name);
+    std::filesystem::path folder = values.at(name);
     if (!std::filesystem::is_directory(folder / "dat"))
         throw UsageError("no folder with dat/: " + folder.string());
     return folder;

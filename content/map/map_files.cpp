@@ -66,6 +66,7 @@ Values ReadValues(const std::string& layer, SourceFaults& faults) {
 const std::string& ClassList() {
     static const std::string list = [] {
         std::vector<std::string> classes;
+        classes.reserve(TerrainCount);
         for (int terrain = 0; terrain < TerrainCount; ++terrain)
             classes.push_back(std::to_string(terrain) + " " + TerrainName(terrain));
         return JoinWords(classes);

@@ -23,7 +23,7 @@ class MapTest : public GameTest {
     }
 
     void Put(int x, int y, int tileX, int tileY) {
-        const auto at = static_cast<std::size_t>(y * (FieldWidth + 2) + x);
+        const auto at = static_cast<std::size_t>(y) * (FieldWidth + 2) + static_cast<std::size_t>(x);
         columns[at] = static_cast<char>(tileX + 32);
         rows[at] = static_cast<char>(tileY + 32);
     }

@@ -27,7 +27,7 @@ class SweptHost : public HastyHost {
     }
     void ShowMessage(const std::string& /*text*/) override { CloseInACopy(); }
     [[noreturn]] void EndProcess(int exitCode) override {
-        if (isCopy) DesktopHost::EndProcess(exitCode);
+        if (isCopy) HastyHost::EndProcess(exitCode);
         throw ProcessEnded{exitCode};
     }
 
