@@ -2,7 +2,7 @@
 
 # What each purpose needs, by the distribution's names.
 packages_play="cmake ninja-build g++ ccache pkg-config qt6-base-dev libsdl2-mixer-dev libstb-dev libgif-dev libpugixml-dev fonts-dejavu-core"
-packages_check="$packages_play sox libgtest-dev libbenchmark-dev libtcod-dev"
+packages_check="$packages_play sox tiled libgtest-dev libbenchmark-dev libtcod-dev"
 packages_lint="clang-format clang-tidy"
 packages_clang="clang"
 packages_fuzz="clang libclang-rt-14-dev"
