@@ -11,6 +11,7 @@ packages_package="$packages_play dpkg-dev file lintian appstream desktop-file-ut
 # need PURPOSE...: installs what is missing, as root or through sudo; without either it says what and stops.
 need() {
     local wanted="" missing="" package
+    case " $* " in *" check "*) tests=ON ;; *) tests=OFF ;; esac
     for purpose in "$@"; do
         local list="packages_$purpose"
         wanted="$wanted ${!list}"
@@ -36,12 +37,14 @@ need() {
     $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null
 }
 
-# build PRESET TARGET...: quiet when there is nothing to do.
+# build PRESET TARGET...: quiet when there is nothing to do. What was configured without tests is configured anew when
+# they are needed.
 build() {
     local preset=$1
     shift
-    if [ ! -f "build/$preset/build.ninja" ]; then
-        cmake --preset "$preset" >"/tmp/sarnoth-configure.$$" 2>&1 || { cat "/tmp/sarnoth-configure.$$"; exit 1; }
+    if [ ! -f "build/$preset/build.ninja" ] ||
+        { [ $tests = ON ] && grep -q '^SARNOTH_TESTS:BOOL=OFF' "build/$preset/CMakeCache.txt"; }; then
+        cmake --preset "$preset" -DSARNOTH_TESTS=$tests >"/tmp/sarnoth-configure.$$" 2>&1 || { cat "/tmp/sarnoth-configure.$$"; exit 1; }
         rm -f "/tmp/sarnoth-configure.$$"
     fi
     cmake --build "build/$preset" --target "$@" -- --quiet
