@@ -162,6 +162,7 @@ void DesktopHost::CloseQuietDevice() {
 
 void DesktopHost::EndProcess(int exitCode) {
     soundDevice.Close();
+    if (atEnd) exitCode = atEnd(exitCode);
     std::fflush(nullptr);
     std::_Exit(exitCode);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include <QTimer>
@@ -30,6 +31,9 @@ class DesktopHost : public Host {
     /// next event by itself.
     void PlayBack(std::function<void(int pump)> source);
 
+    /// `last` runs when the process is about to end, whatever ends it, and gives its exit code.
+    void AtEnd(std::function<int(int exitCode)> last) { atEnd = std::move(last); }
+
     void Refresh(Control& control) override;
     void PumpEvents() override;
     void Wait(std::chrono::nanoseconds time, bool pump) override;
@@ -52,6 +56,7 @@ class DesktopHost : public Host {
     SoundDevice soundDevice;
     std::function<void(int pump)> playBack;  // empty: a person plays
     QTimer playBackPace;
+    std::function<int(int exitCode)> atEnd;
     bool failed = false;  // the error is being shown: ticks and the close button reach the game no more
     QTimer quiet;         // runs out when no sound was asked for in a while
 };

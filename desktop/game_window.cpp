@@ -105,6 +105,7 @@ int RunInWindow(char** arguments, const WindowRun& run) {
 
     DesktopHost host(frmField, OtherForms(), run.dispatch);
     if (run.playBack) host.PlayBack(run.playBack);
+    host.AtEnd(run.atEnd);
     // Within the event loop, so that the game can wait, and show boxes, from its first moment.
     QTimer begin;
     begin.setSingleShot(true);

@@ -11,6 +11,7 @@ struct WindowRun {
     std::function<void()> begin;                       // starts the game, its folder too unless that was set
     std::function<void(const InputEvent&)> dispatch;   // takes what a person does
     std::function<void(int pump)> playBack = nullptr;  // see DesktopHost::PlayBack; empty for a person's play
+    std::function<int(int exitCode)> atEnd = nullptr;  // see DesktopHost::AtEnd; may be empty
 };
 
 /// Runs until the process ends. `arguments` are main's. The result is an exit code: with nowhere to show a

@@ -205,7 +205,10 @@ TEST_F(KeyboardDeathTest, AWholeTurnIsPlayedByKeysAlone) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return soldier.time > left; }))
         << "the button is seen going down first";
     EXPECT_EQ(curTeam, SquadTeam);
-    host.atEnd = [this] { folder.RemoveAll(); };  // nothing else in that process would
+    host.AtEnd([this](int exitCode) {  // nothing else in that process takes it away
+        folder.RemoveAll();
+        return exitCode;
+    });
     EXPECT_EXIT(Press(Qt::Key_X, Qt::AltModifier), testing::ExitedWithCode(0), "");
 }
 

@@ -2,7 +2,6 @@
 // and nothing is heard.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -26,13 +25,8 @@ class HastyHost : public DesktopHost {
     }
     void ShowMessage(const std::string& text) override { message = text; }
     void PlaySound(const SoundRequest& /*sound*/) override {}
-    [[noreturn]] void EndProcess(int exitCode) override {
-        atEnd();
-        DesktopHost::EndProcess(exitCode);
-    }
 
     std::string message;
-    std::function<void()> atEnd = [] {};
 };
 
 class WindowGame : public testing::Test {

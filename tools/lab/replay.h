@@ -25,6 +25,9 @@ class Replay {
     /// Dispatches the events that came in this pump, as far as they are next. 0 is outside all pumps.
     void LetIn(int pump);
 
+    /// The game has ended the process; for a host that doesn't throw then.
+    void Ended(int exitCode) { Compare("end " + std::to_string(exitCode)); }
+
     bool Done() const { return next == recording.events.size() || !difference.empty(); }
     ReplayResult Result() const;
 

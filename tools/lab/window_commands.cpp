@@ -1,6 +1,7 @@
 // The commands that show a window.
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <iostream>
 
 #include "desktop/game_window.h"
@@ -25,18 +26,33 @@ void Tell(const ReplayResult& result) {
         std::cout << "it went another way at " << result.difference << "\n";
 }
 
+// The process ends where it is, so no destructor does it.
+std::function<int(int exitCode)> Removing(const GameCopy& copy) {
+    return [&copy](int exitCode) {
+        copy.RemoveAll();
+        return exitCode;
+    };
+}
+
 int ReplayInWindow(const Recording& recording, const GameCopy& copy, char** arguments) {
     Replay replay(recording);
-    const auto playBack = [&replay, &copy](int pump) {
+    bool byTheGame = true;
+    const auto playBack = [&](int pump) {
         replay.LetIn(pump);
         if (pump != 0 || !replay.Done()) return;
+        byTheGame = false;
+        TheHost().EndProcess(EXIT_SUCCESS);
+    };
+    const auto atEnd = [&](int exitCode) {
+        if (byTheGame) replay.Ended(exitCode);
         Tell(replay.Result());
         copy.RemoveAll();
-        TheHost().EndProcess(replay.Result().difference.empty() ? EXIT_SUCCESS : EXIT_FAILURE);
+        return replay.Result().difference.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
     };
-    return RunInWindow(
-        arguments,
-        {.begin = [&replay] { replay.Start(); }, .dispatch = [](const InputEvent&) {}, .playBack = playBack});
+    return RunInWindow(arguments, {.begin = [&replay] { replay.Start(); },
+                                   .dispatch = [](const InputEvent&) {},
+                                   .playBack = playBack,
+                                   .atEnd = atEnd});
 }
 
 }  // namespace
@@ -57,7 +73,8 @@ int PlayInWindow(const Words& words, char** arguments) {
     Recorder recorder(sink);
     SetProgramFolder(copy.Path());
     return RunInWindow(arguments, {.begin = [&] { recorder.Start(seed); },
-                                   .dispatch = [&](const InputEvent& event) { recorder.Dispatch(event); }});
+                                   .dispatch = [&](const InputEvent& event) { recorder.Dispatch(event); },
+                                   .atEnd = Removing(copy)});
 }
 
 int ReplayFile(const Words& words, char** arguments) {
@@ -85,9 +102,8 @@ int PaintShot(const Words& words, char** arguments) {
         if (window == "map") ToggleBigMap();
         const bool saved = SaveWindow(window == "info" ? "frmInfo" : "frmField", given.Plain()[0]);
         if (!saved) std::cerr << "sarnoth-lab: can't write " << given.Plain()[0] << "\n";
-        copy.RemoveAll();
         TheHost().EndProcess(saved ? EXIT_SUCCESS : EXIT_FAILURE);
     };
     SetProgramFolder(copy.Path());
-    return RunInWindow(arguments, {.begin = begin, .dispatch = Dispatch});
+    return RunInWindow(arguments, {.begin = begin, .dispatch = Dispatch, .atEnd = Removing(copy)});
 }
