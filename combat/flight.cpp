@@ -154,8 +154,6 @@ void RepaintInFlight(int x, int y, int tileX = -1, int tileY = -1) {
 }
 
 void BreakWood(int x, int y) {
-    constexpr int BrokenTile = 81;   // beyond the sheet: nothing stops or bears there any more
-    constexpr int RemainsTile = 15;  // what is shown of it
     cellGrid[y][x].tileX = BrokenTile;
     RepaintInFlight(x, y, RemainsTile, Wooden);
 }

@@ -148,7 +148,7 @@ void DesktopHost::ShowMessage(const std::string& text) {
     ShowBox(QMessageBox::Information, text);
 }
 
-void DesktopHost::PlaySound(const SoundRequest& sound) {
+void DesktopHost::Emit(const SoundRequest& sound) {
     soundDevice.Play(sound);
     quiet.start();
 }

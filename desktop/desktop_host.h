@@ -39,8 +39,10 @@ class DesktopHost : public Host {
     void Wait(std::chrono::nanoseconds time, bool pump) override;
     void ShowModal(Form& form) override;
     void ShowMessage(const std::string& text) override;
-    void PlaySound(const SoundRequest& sound) override;
     [[noreturn]] void EndProcess(int exitCode) override;
+
+  protected:
+    void Emit(const SoundRequest& sound) override;
 
   private:
     void LetIn();

@@ -45,7 +45,7 @@ void HeadlessHost::ShowMessage(const std::string& text) {
     messages.push_back(text);
 }
 
-void HeadlessHost::PlaySound(const SoundRequest& sound) {
+void HeadlessHost::Emit(const SoundRequest& sound) {
     sounds.push_back(sound);
 }
 

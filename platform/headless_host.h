@@ -32,7 +32,6 @@ class HeadlessHost : public Host {
     /// Throws std::logic_error for a form that refuses.
     void ShowModal(Form& form) override;
     void ShowMessage(const std::string& text) override;
-    void PlaySound(const SoundRequest& sound) override;
     [[noreturn]] void EndProcess(int exitCode) override;
 
     std::vector<std::string> messages;
@@ -40,6 +39,9 @@ class HeadlessHost : public Host {
     std::chrono::nanoseconds waited{0};  // what all waits together would have taken
     int refreshes = 0;
     int pumps = 0;
+
+  protected:
+    void Emit(const SoundRequest& sound) override;
 
   private:
     struct Waiting {

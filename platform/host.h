@@ -4,7 +4,9 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "platform/controls.h"
 
@@ -44,12 +46,22 @@ class Host {
     /// Shows `text` in a box and returns when it has been read.
     virtual void ShowMessage(const std::string& text) = 0;
 
-    virtual void PlaySound(const SoundRequest& sound) = 0;
+    /// Plays a sound, and lets who listens know.
+    void PlaySound(const SoundRequest& sound) {
+        if (listener) listener(sound);
+        Emit(sound);
+    }
+
+    /// Every sound that is asked for is passed to `ear` too; an empty one listens no more.
+    using Ear = std::function<void(const SoundRequest& sound)>;
+    void Listen(Ear ear) { listener = std::move(ear); }
 
     /// Ends the process at once; nothing of the game runs any more.
     [[noreturn]] virtual void EndProcess(int exitCode) = 0;
 
   protected:
+    virtual void Emit(const SoundRequest& sound) = 0;
+
     /// Lives for as long as events are let in.
     class Pumping {
       public:
@@ -64,6 +76,7 @@ class Host {
     };
 
   private:
+    Ear listener;
     int begun = 0;
     int innermost = 0;
 };

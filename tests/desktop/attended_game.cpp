@@ -38,7 +38,7 @@ class HastyHost : public Host {
     }
     void ShowModal(Form& form) override { real.ShowModal(form); }
     void ShowMessage(const std::string& text) override { real.ShowMessage(text); }
-    void PlaySound(const SoundRequest& sound) override { real.PlaySound(sound); }
+    void Emit(const SoundRequest& sound) override { real.PlaySound(sound); }
     [[noreturn]] void EndProcess(int exitCode) override { real.DesktopHost::EndProcess(exitCode); }
 
     DesktopHost& real = static_cast<DesktopHost&>(TheHost());

@@ -24,7 +24,7 @@ class HastyHost : public DesktopHost {
         if (pump) PumpEvents();
     }
     void ShowMessage(const std::string& text) override { message = text; }
-    void PlaySound(const SoundRequest& /*sound*/) override {}
+    void Emit(const SoundRequest& /*sound*/) override {}
 
     std::string message;
 };

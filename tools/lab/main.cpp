@@ -20,8 +20,10 @@ constexpr Command Commands[] = {
     {"play", PlayInWindow, R"(play [--seed N] [--record FILE] [--game FOLDER]
   Plays in a window, and writes every event with what it changed into FILE.
 )"},
-    {"replay", ReplayFile, R"(replay FILE [--window] [--game FOLDER]
-  Replays a recording and compares the state after each event; stops at the first difference and names it.
+    {"replay", ReplayFile, R"(replay FILE [--window] [--pictures FOLDER] [--game FOLDER]
+  Replays a recording and compares the state, the field's picture, the windows and the sounds after each event;
+  stops at the first difference and names it. Where the field looks different, its two pictures are painted into
+  FOLDER as recorded.png and replayed.png.
 )"},
     {"record", [](const Words& words, char** /*arguments*/) { return RecordFile(words); },
      R"(record FILE [--game FOLDER]

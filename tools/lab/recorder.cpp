@@ -1,13 +1,13 @@
 #include "tools/lab/recorder.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <ctime>
 #include <utility>
 
 #include "platform/headless_host.h"
 #include "platform/run_time_error.h"
 #include "state/setup.h"
+#include "tools/lab/hash.h"
 #include "view/events.h"
 
 namespace {
@@ -27,7 +27,10 @@ Recorder::~Recorder() = default;
 void Recorder::Start(std::uint32_t seed) {
     Run([&] {
         Main(seed);
-        if (sink) watch = std::make_unique<StateWatch>();
+        if (sink) {
+            watch = std::make_unique<StateWatch>();
+            shown = std::make_unique<ShownWatch>();
+        }
         TellState(0);
     });
 }
@@ -52,11 +55,12 @@ void Recorder::TellState(int event) {
     // Events that come while the game is still set up find no state to tell.
     if (watch == nullptr) return;
     const std::vector<std::string> changes = watch->Look();
-    char hash[17];
-    std::snprintf(hash, sizeof hash, "%016llx", static_cast<unsigned long long>(watch->Hash()));
-    sink("after " + std::to_string(event) + " " + hash);
-    for (const std::string& change : changes)
-        sink("  " + change);
+    const std::vector<std::string> seen = shown->Look();
+    sink("after " + std::to_string(event) + " " + Fnv::Text(watch->Hash()) + " field " +
+         Fnv::Text(shown->FieldHash()) + " windows " + Fnv::Text(HashOfWindows()));
+    for (const auto* lines : {&changes, &seen})
+        for (const std::string& line : *lines)
+            sink("  " + line);
 }
 
 void Recorder::Run(const std::function<void()>& piece) {

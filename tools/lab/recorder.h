@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/input_event.h"
+#include "tools/lab/shown_watch.h"
 #include "tools/lab/state_watch.h"
 
 class Recorder {
@@ -27,6 +28,9 @@ class Recorder {
     /// How many events there were.
     int Events() const { return events; }
 
+    /// What was last seen and heard; the game must have started with a sink.
+    const ShownWatch& Shown() const { return *shown; }
+
     /// The most processor time that an event took for itself, without those that it let in.
     std::chrono::nanoseconds LongestEvent() const { return longest; }
 
@@ -38,6 +42,7 @@ class Recorder {
 
     const Sink sink;
     std::unique_ptr<StateWatch> watch;
+    std::unique_ptr<ShownWatch> shown;
     int events = 0;
     bool ended = false;
     std::chrono::nanoseconds inner{0};  // what events within the running one took

@@ -2,8 +2,9 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
+#include <filesystem>
 #include <string>
+#include <vector>
 
 #include "platform/headless_host.h"
 #include "tools/lab/recorder.h"
@@ -17,7 +18,8 @@ struct ReplayResult {
 /// Gives the recorded events to the game where they came, and compares the lines.
 class Replay {
   public:
-    explicit Replay(const Recording& ofRecording);
+    /// With `pictureFolder` the field as recorded and as replayed is painted into it where they first differ.
+    explicit Replay(const Recording& ofRecording, std::filesystem::path pictureFolder = {});
 
     /// Starts the game; the host must have been installed.
     void Start();
@@ -29,18 +31,27 @@ class Replay {
     void Ended(int exitCode) { Compare("end " + std::to_string(exitCode)); }
 
     bool Done() const { return next == recording.events.size() || !difference.empty(); }
-    ReplayResult Result() const;
+    ReplayResult Result();
 
   private:
+    using Lines = std::vector<std::string>;
+
     void Compare(const std::string& line);
+    void CompareBlock();
+    Lines RecordedBlock() const;
+    void Differ(const Lines& recorded);
+    std::string DifferingSquare(const Lines& recorded) const;
+    void PaintDifference(const Lines& recorded) const;
 
     const Recording& recording;
+    const std::filesystem::path pictures;  // empty for none
     Recorder recorder;
     std::size_t next = 0;      // event
     std::size_t compared = 0;  // lines
-    std::string event;         // the one last given
+    Lines block;               // the replay's newest lines that belong together: one and those indented under it
+    Picture agreed;            // the field after the last block in which both agreed
     std::string difference;
 };
 
 /// All of it without a window, with the data of the program's folder.
-ReplayResult ReplayHeadless(const Recording& recording);
+ReplayResult ReplayHeadless(const Recording& recording, const std::filesystem::path& pictureFolder = {});

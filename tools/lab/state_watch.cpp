@@ -6,6 +6,7 @@
 
 #include "personal/info_form.h"
 #include "platform/random.h"
+#include "tools/lab/hash.h"
 #include "tools/lab/state_fields.h"
 #include "view/field_form.h"
 
@@ -21,12 +22,10 @@ std::string TextOf(const Number& number) {
     return std::to_string(static_cast<int>(number));
 }
 
-// FNV-1a of 64 bits: simple, and the same everywhere.
 std::uint64_t HashOf(std::string_view text) {
-    std::uint64_t hash = 14695981039346656037U;
-    for (const char character : text)
-        hash = (hash ^ static_cast<unsigned char>(character)) * 1099511628211U;
-    return hash;
+    Fnv hash;
+    hash.Add(text);
+    return hash.Sum();
 }
 
 std::string Joined(std::initializer_list<std::string_view> parts) {

@@ -34,8 +34,9 @@ std::function<int(int exitCode)> Removing(const GameCopy& copy) {
     };
 }
 
-int ReplayInWindow(const Recording& recording, const GameCopy& copy, char** arguments) {
-    Replay replay(recording);
+int ReplayInWindow(const Recording& recording, const std::string& pictures, const GameCopy& copy,
+                   char** arguments) {
+    Replay replay(recording, pictures);
     bool byTheGame = true;
     const auto playBack = [&](int pump) {
         replay.LetIn(pump);
@@ -78,12 +79,13 @@ int PlayInWindow(const Words& words, char** arguments) {
 }
 
 int ReplayFile(const Words& words, char** arguments) {
-    const Arguments given(words, {"--game"}, {"--window"}, 1);
+    const Arguments given(words, {"--game", "--pictures"}, {"--window"}, 1);
+    const std::string pictures = given.Text("--pictures", "");
     const Recording recording = ReadRecording(given.Plain()[0]);
     const GameCopy copy(given.Text("--game", GAME_FOLDER));
     SetProgramFolder(copy.Path());
-    if (given.Has("--window")) return ReplayInWindow(recording, copy, arguments);
-    const ReplayResult result = ReplayHeadless(recording);
+    if (given.Has("--window")) return ReplayInWindow(recording, pictures, copy, arguments);
+    const ReplayResult result = ReplayHeadless(recording, pictures);
     Tell(result);
     return result.difference.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
