@@ -14,6 +14,7 @@
 #include "state/state.h"
 #include "view/field_form.h"
 #include "view/log.h"
+#include "view/panel.h"
 #include "view/sound.h"
 
 namespace {
@@ -113,7 +114,7 @@ void Refold(const char* logWord, const char* name, int count) {
     unit.items[0].count = count;
     ShowSlot(0, frmField);
     unit.hand.name = name;
-    ListActions();
+    ListActions();  // which remembers the tool by its new name
 }
 
 void Dig(const char* logWord, int delta) {
@@ -126,7 +127,7 @@ void Dig(const char* logWord, int delta) {
 
 void UseTool(int targetX, int targetY) {
     constexpr int Spadeful = 20;  // of 200 levels of the ground
-    const std::string mode = frmField.comboMode.Text;
+    const std::string mode = game.modes.Text();
     AddToLog("dig it: ", 0);
     if (mode == "Fold") Refold("fold", "etoolfold", 0);
     if (mode == "Unfold") Refold("unfold", "etool", 1);
@@ -142,7 +143,7 @@ void UseTool(int targetX, int targetY) {
 
 std::string_view ActionFamily() {
     const WeaponInfo& hand = UnitTable[curUnit].hand;
-    const std::string& mode = frmField.comboMode.Text;
+    const std::string mode = game.modes.Text();
     const std::string_view named = NamedFamilyOf(hand.name, mode == "Secondary");
     if (!named.empty()) return named;
     if (hand.weaponClass == "knife" && mode == "Hit") return "hit";
@@ -166,14 +167,15 @@ void ActOnTarget(int x, int y) {
 }
 
 void ListActions() {
-    frmField.comboMode.List = OfferedModes(UnitTable[curUnit].hand.name);
+    const std::string& name = UnitTable[curUnit].hand.name;
+    game.modes.weapon = name;
+    game.modes.offered = OfferedModes(name);
     ChooseMode(0);
 }
 
 void ChooseMode(int index) {
-    ComboBox& combo = frmField.comboMode;
-    const bool offered = index >= 0 && index < static_cast<int>(combo.List.size());
-    combo.ListIndex = offered ? index : -1;
-    combo.Text = offered ? combo.List[static_cast<std::size_t>(index)] : "";
+    const bool offered = index >= 0 && index < static_cast<int>(game.modes.offered.size());
+    game.modes.chosen = offered ? index : -1;
+    ShowModes();
     HandSync("real2fake");
 }

@@ -1,11 +1,11 @@
 #include "combat/costs.h"
 
+#include <algorithm>
 #include <string>
 
 #include "combat/actions.h"
 #include "platform/numbers.h"
 #include "state/state.h"
-#include "view/field_form.h"
 #include "view/panel.h"
 #include "view/sound.h"
 
@@ -69,6 +69,5 @@ void HandSync(std::string_view direction) {
     else
         CopyFeed(direction, unit.handCap, unit.handRounds, held.capMain, held.roundsMain);
     ShowWeaponBox(unit.handRounds);
-    const int mode = frmField.comboMode.ListIndex;
-    unit.fireMode = mode < 0 ? 0 : mode;
+    unit.fireMode = std::max(0, int{game.modes.chosen});
 }

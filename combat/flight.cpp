@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <functional>
 #include <limits>
 #include <utility>
 #include <vector>
@@ -56,22 +55,11 @@ void ShowTrailForAMoment() {
     DelayThen(1, [&path] { TakeAway(path, 0); });
 }
 
-// Runs what lets events in. An order among them may fire another bullet: this one keeps what it has left.
-void KeepBullet(const std::function<void()>& work) {
-    const i16 power = bulletPower;
-    const i16 accur = bulletAccur;
-    const i16 horizon = bulletHorizon;
-    work();
-    bulletPower = power;
-    bulletAccur = accur;
-    bulletHorizon = horizon;
-}
-
 // The trail is out of the way meanwhile, as an order may repaint what lies under it.
 void ShowCard(int x, int y) {
     std::vector<TrailPixel> path = std::exchange(flightPath, {});
     TakeAway(path, 0);
-    KeepBullet([x, y] { ShowTarget(1, x, y); });
+    ShowTarget(1, x, y);
     for (TrailPixel& pixel : path)
         DrawPixel(pixel);
     flightPath = std::move(path);
@@ -235,7 +223,7 @@ void BulletFly(int x0, int y0, int x1, int y1) {
         flightPath.push_back({x.place, y.place, 0});
         DrawPixel(flightPath.back());
     }
-    KeepBullet([] { BulletTrail("finalize"); });
+    BulletTrail("finalize");
     impactX = CellOfPixel(x.place);
     impactY = CellOfPixel(y.place);
     if (InField(impactX, impactY)) BulletInCell(impactX, impactY);

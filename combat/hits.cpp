@@ -82,7 +82,7 @@ void TakeDamage(int shooter, Unit& target) {
 
 // The current unit has died.
 void Die(const Unit& unit) {
-    const bool flying = frmField.comboMode.Text != "Hit";
+    const bool flying = game.modes.Text() != "Hit";
     if (flying) BulletTrail("return");
     PaintUnit(0, 0);
     DropAll(curUnit);
@@ -92,16 +92,26 @@ void Die(const Unit& unit) {
     if (TeamEliminated() > -1) EndGame();
 }
 
+// A soldier who falls lets go of his weapon, and the list of fire modes follows his hand. Who goes on firing
+// has his own.
+void KeepModes(const ModeChoice& modes) {
+    if (game.modes == modes) return;
+    game.modes = modes;
+    if (curUnit < ChargeBase) ShowHand();
+}
+
 }  // namespace
 
 void UnitHit(int shooter, int target) {
     Unit& unit = UnitTable[target];
     if (unit.status == Dead) return;
     RunOperation([&] {
+        const ModeChoice modes = game.modes;
         AsCurrentUnit(target, [&] {
             if (RollHit(shooter, target)) TakeDamage(shooter, unit);
             if (unit.health == 0) Die(unit);
         });
+        KeepModes(modes);
         ShowStatus("");
     });
 }

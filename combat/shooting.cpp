@@ -13,7 +13,6 @@
 #include "platform/random.h"
 #include "platform/rounding.h"
 #include "state/state.h"
-#include "view/field_form.h"
 #include "view/log.h"
 #include "view/sound.h"
 
@@ -68,7 +67,7 @@ int RoundsOf(const std::string& mode, const WeaponInfo& hand) {
 }
 
 void SoundLaunch(const Unit& unit, const FamilyWord* word) {
-    if (word == nullptr || word->launch == nullptr || frmField.comboMode.Text != "Secondary") return;
+    if (word == nullptr || word->launch == nullptr || game.modes.Text() != "Secondary") return;
     if (unit.time >= unit.hand.time && unit.handRounds >= 1) PlaySoundAt(word->launch, AtCurrentUnit);
 }
 
@@ -140,18 +139,31 @@ void LayDown(const InvItem& held) {
     }
 }
 
-void EndOrder(std::string_view family) {
-    const InvItem& held = UnitTable[curUnit].items[0];
+// What an order fires. Events in its middle may put something else into the hand: no more rounds are fired
+// then, and what flies already is still this.
+struct Fired {
+    std::string_view family;
+    WeaponInfo hand;
+    InvItem item;
+
+    bool IsHeldBy(const Unit& unit) const { return unit.hand.name == hand.name; }
+};
+
+void EndOrder(const Fired& fired) {
+    Unit& unit = UnitTable[curUnit];
+    const std::string_view family = fired.family;
     const bool lies = family == "throw" || family == "charge";
+    const bool bursts = family == "gren" || family == "bloop";
     const bool inField = InField(impactX, impactY);
-    if (lies) LayDown(held);
-    if (family == "gren" || family == "bloop") ChargeBlow(impactX, impactY);
+    const bool held = fired.IsHeldBy(unit);
+    if (lies) LayDown(fired.item);
+    if (bursts && !held) unit.hand = fired.hand;
+    if (bursts) ChargeBlow(impactX, impactY);
     if (family == "throw" && inField) WeaponAdd(impactX, impactY);
     if (family == "charge" && inField) ChargeAdd(impactX, impactY);
-    if ((lies || family == "gren") && held.roundsMain == 0) {
-        ClearItem(0);
-        RefreshHand();
-    }
+    const bool usedUp = held && (lies || family == "gren") && unit.items[0].roundsMain == 0;
+    if (usedUp) ClearItem(0);
+    if (usedUp || !held) RefreshHand();
 }
 
 }  // namespace
@@ -162,14 +174,15 @@ void ShootAt(int x, int y, std::string_view family) {
     const FamilyWord* word = WordOf(family);
     PlaceMuzzle(unit);
     if (word != nullptr) AddToLog(word->log, 1);
-    const int rounds = RoundsOf(frmField.comboMode.Text, unit.hand);
+    const int rounds = RoundsOf(game.modes.Text(), unit.hand);
     const int pellets = family == "shot" ? PelletsOfShell : 1;
+    const Fired fired{family, unit.hand, unit.items[0]};
     SoundLaunch(unit, word);
     for (int round = 0; round < rounds; ++round) {
-        if (!PayRound(unit)) return;
+        if (!fired.IsHeldBy(unit) || !PayRound(unit)) return;
         PlaySoundAt("weapons\\" + unit.hand.sound, AtCurrentUnit);
         for (int pellet = 0; pellet < pellets; ++pellet)
             FireBullet(unit, aim, family);
     }
-    EndOrder(family);
+    EndOrder(fired);
 }

@@ -81,6 +81,7 @@ int CountAt(int x, int y, int base) {
 
 void WeaponAdd(int x, int y) {
     if (CountAt(x, y, PileBase) > 0) return;
+    if (teamLast[PileList] + 1 == MaxPiles) return AddToLog("no room for another pile of things", 1);
     AddToLog("weapon dropped", 1);
     ++teamLast[PileList];
     Unit& marker = UnitTable[PileBase + teamLast[PileList]];
@@ -123,15 +124,22 @@ void DropAll(int unit) {
 void RefreshHand() {
     WeaponInfo& hand = UnitTable[curUnit].hand;
     hand = WeaponInfoByName(FightingName());
-    const bool changed = hand.name != game.shownHand;
-    game.shownHand = hand.name;
-    if (changed)
+    if (hand.name != game.modes.weapon)
         ListActions();
     else
         HandSync("real2fake");
     ShowSlot(0, frmField);
     ShowStatus("durab");
-    ShowMakersFlag(UnitTable[curUnit].hand.country);
+    ShowMakersFlag(hand.country);
+}
+
+void ShowHand() {
+    const Unit& unit = UnitTable[curUnit];
+    ShowModes();
+    ShowWeaponBox(unit.handRounds);
+    ShowSlot(0, frmField);
+    ShowMakersFlag(unit.hand.country);
+    RedrawPanel();
 }
 
 void ShowSlot(int slot, Form& form) {

@@ -10,8 +10,8 @@ void ClearItem(int slot);
 /// How many records of the list that begins at unit `base` lie at (x, y).
 int CountAt(int x, int y, int base);
 
-/// Marks the cell as holding things, once, and repaints it. Throws RunTimeError (Subscript) when the table is
-/// full.
+/// Marks the cell as holding things, once, and repaints it. Where the table of piles is full a line of the
+/// log says so, and the things lie there unmarked.
 void WeaponAdd(int x, int y);
 
 /// Takes the marker of a cell away and repaints it.
@@ -24,6 +24,10 @@ void DropAll(int unit);
 /// Brings the current unit's hand into step with its slot 0, and the panel with it. What isn't fit to fight
 /// with leaves the hand bare.
 void RefreshHand();
+
+/// Shows on the panel what the current unit holds, its fire modes, and the unit itself; nothing is logged,
+/// and nobody hands over.
+void ShowHand();
 
 /// Shows a slot of the current unit in the form's control imgInv of that place, which must exist unless the
 /// slot is off the form. Throws RunTimeError for a missing picture.

@@ -16,7 +16,6 @@ namespace {
 constexpr const char* RosterFile = "\\dat\\save.dat";
 constexpr const char* StoreFile = "\\dat\\apc.dat";
 constexpr int HeaderRecord = 1;
-constexpr int MaxPiles = decltype(game.UnitTable)::Upper - PileBase + 1;
 constexpr std::size_t PileCountAt = PlaceItemsAt + 10;  // in the header of a map's things: the label's count
 constexpr int RosterDurab = 270;  // every thing of the roster is in this condition, whatever the file says
 

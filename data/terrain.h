@@ -23,8 +23,9 @@ constexpr int TerrainCount = Fence + 1;
 
 constexpr int LandingMark =
     7;  // tile of class "various": in a map file, a landing spot of the computer's team
-constexpr int BrokenTile = 81;   // wood that broke: beyond the sheet, and nothing stops or bears there any more
-constexpr int RemainsTile = 15;  // tile of class "wooden" that is shown of it
+constexpr int BrokenTile =
+    81;  // wood that broke: beyond the sheet, and nothing stops or bears there any more
+constexpr int RemainsTile = 15;     // tile of class "wooden" that is shown of it
 constexpr int FirstStoreTile = 18;  // tiles of class "various" that show the squad's vehicle
 constexpr int LastStoreTile = 25;
 

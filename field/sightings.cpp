@@ -69,14 +69,24 @@ void ShowCounter() {
         std::to_string(count) + (count == 1 ? " enemy" : " enemies") + " sighted";
 }
 
-void FlashSelection() {
-    constexpr int Flashes = 5;
-    for (int i = 0; i < Flashes; ++i) {
-        Delay(3, "mode1");
-        frmField.shpSelect.Visible = true;
-        Delay(2, "mode1");
-        frmField.shpSelect.Visible = false;
+int begunFlashes = 0;
+
+// Waits with the frame shown or hidden. False when events have begun another flash meanwhile, which this one
+// then leaves the frame to.
+bool WaitInFlash(int flash, bool shown, int wait) {
+    frmField.shpSelect.Visible = shown;
+    Delay(wait, "mode1");
+    return flash == begunFlashes;
+}
+
+void FlashSelection(const Unit& unit) {
+    constexpr int Passes = 5;
+    const int flash = ++begunFlashes;
+    for (int i = 0; i < Passes; ++i) {
+        if (!WaitInFlash(flash, false, 3)) return;
+        if (!WaitInFlash(flash, SelectionFrames(unit), 2)) return;
     }
+    frmField.shpSelect.Visible = false;
 }
 
 int ScrollPlace(float place, const ScrollBar& bar) {
@@ -141,7 +151,11 @@ void ScrollToUnit(int unit) {
     frmField.shpSelect.Left = shown.pixelX;
     frmField.shpSelect.Top = shown.pixelY;
     MarkCurrentUnit();
-    FlashSelection();
+    FlashSelection(shown);
+}
+
+bool SelectionFrames(const Unit& unit) {
+    return frmField.shpSelect.Left == unit.pixelX && frmField.shpSelect.Top == unit.pixelY;
 }
 
 void MarkCurrentUnit() {

@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+struct Unit;
+
 /// The current unit looks: casts its fan, notes each enemy that the fan reaches for the first time, and has
 /// it drawn.
 void UnitLookEnemies();
@@ -18,8 +20,12 @@ void EnemyCounter(std::string_view command);
 /// A click on the counter: brings the next enemy that the current unit has sighted into view.
 void imgEnemyCount_Click();
 
-/// Brings a unit into view and flashes the selection on it. Events run meanwhile.
+/// Brings a unit into view and flashes the selection on it. Events run meanwhile; one that begins another
+/// flash ends this one.
 void ScrollToUnit(int unit);
+
+/// Whether the selection's frame lies where the unit stands.
+bool SelectionFrames(const Unit& unit);
 
 /// Moves the two marks on the field's frame to the column and row of the current unit.
 void MarkCurrentUnit();

@@ -25,7 +25,7 @@ void TakeUpHand() {
     const std::string before = unit.hand.name;
     const int mode = unit.fireMode;
     RefreshHand();
-    if (unit.hand.name == before && mode < static_cast<int>(frmField.comboMode.List.size())) ChooseMode(mode);
+    if (unit.hand.name == before && mode < static_cast<int>(game.modes.offered.size())) ChooseMode(mode);
 }
 
 void Unload() {

@@ -4,6 +4,9 @@
 #include <utility>
 #include <vector>
 
+#include "combat/actions.h"
+#include "combat/costs.h"
+#include "combat/things.h"
 #include "state/state.h"
 #include "state/turns.h"
 
@@ -18,17 +21,47 @@ class Running {
     Running& operator=(const Running&) = delete;
 };
 
-// What was selected in the middle of the operation becomes current at its end.
+// What an operation goes on with when a pump in its middle has ended.
+struct Order {
+    i16 unit = curUnit;
+    ModeChoice modes = game.modes;
+    FlightValues flight = game.flight;
+
+    bool IsCurrent() const { return curUnit == unit && game.modes == modes; }
+};
+
+// The unit's weapon may have been taken from it meanwhile, and its modes with it.
+void TakeUp(int unit, ModeChoice modes) {
+    curUnit = unit;
+    game.modes = std::move(modes);
+    if (game.modes.weapon == UnitTable[unit].hand.name)
+        HandSync("real2fake");
+    else
+        ListActions();
+}
+
+// What was selected in the middle of the operation becomes current.
 void SettleSelection() {
     if (game.selectedMeanwhile < 0) return;
-    curUnit = game.selectedMeanwhile;
-    game.selectedMeanwhile = -1;
+    TakeUp(std::exchange(game.selectedMeanwhile, -1), std::exchange(game.selectedModes, {}));
+    ShowHand();
 }
 
 void SettleHandOver() {
     const std::vector<int> askers = std::exchange(game.handOverAsked, {});
     const bool asked = std::find(askers.begin(), askers.end(), curUnit) != askers.end();
     if (asked && IsSpentSoldier(UnitTable[curUnit])) SelectNextUnit();
+}
+
+// Between the pumps of an operation nothing shows whose modes its rounds are fired with.
+void GoOnWith(const Order& order) {
+    game.flight = order.flight;
+    if (order.IsCurrent()) return;
+    game.selectedMeanwhile = curUnit;
+    game.selectedModes = game.modes;
+    curUnit = order.unit;
+    game.modes = order.modes;
+    HandSync("real2fake");
 }
 
 }  // namespace
@@ -38,9 +71,9 @@ void RunOperation(const std::function<void()>& body) {
         const Running running;
         body();
     }
-    if (game.operationDepth > 0) return;
+    if (game.operationDepth > game.pumpedDepth) return;
     SettleSelection();
-    SettleHandOver();
+    if (game.operationDepth == 0) SettleHandOver();
 }
 
 void AskHandOver() {
@@ -59,10 +92,12 @@ void HoldHandOver(const std::function<void()>& body) {
     game.handOverAsked = askedBefore;
 }
 
-void PumpKeepingUnit(const std::function<void()>& pump) {
-    const int unit = curUnit;
+void PumpKeepingOrder(const std::function<void()>& pump) {
+    if (game.operationDepth == game.pumpedDepth) return pump();
+    const Order order;
+    const i16 outer = std::exchange(game.pumpedDepth, game.operationDepth);
+    SettleSelection();
     pump();
-    if (game.operationDepth == 0 || curUnit == unit) return;
-    game.selectedMeanwhile = curUnit;
-    curUnit = unit;
+    game.pumpedDepth = outer;
+    GoOnWith(order);
 }

@@ -1,5 +1,6 @@
 // An operation keeps its unit: a turn, a step, a change of stance or an action works to its end on the unit
-// that it began with, whatever is selected meanwhile.
+// that it began with, with that unit's fire modes and its own flights, whatever events select, order or kill
+// meanwhile.
 #pragma once
 
 #include <functional>
@@ -29,6 +30,6 @@ void AskHandOver();
 /// Runs `body`, in which nobody hands over: the selection itself goes on to the next.
 void HoldHandOver(const std::function<void()>& body);
 
-/// Lets events run in the middle of whatever goes on, through `pump`, and makes the unit current again that
-/// was before.
-void PumpKeepingUnit(const std::function<void()>& pump);
+/// Lets events run in the middle of whatever goes on, through `pump`. They act on the unit that was selected
+/// last; a running operation then goes on with its own unit, fire modes and flight.
+void PumpKeepingOrder(const std::function<void()>& pump);

@@ -18,6 +18,8 @@ constexpr int TimeToAct = 4;     // time without which a unit is passed over: wh
 constexpr int RosterSize = 20;   // soldiers' places in the roster
 constexpr int ChargeBase = 100;  // pseudo-units of the set charges start here, team 5
 constexpr int PileBase = 120;    // pseudo-units that mark piles of things, team 6
+constexpr int UnitCount = 223;   // records of UnitTable
+constexpr int MaxPiles = UnitCount - PileBase;
 
 enum Facing { East, West, North, South, NorthEast, SouthEast, SouthWest, NorthWest };
 enum Stance { Prone, Crouch, Stand, Run };
@@ -151,13 +153,38 @@ struct Spot {
     i16 y;
 };
 
+/// The fire modes of the thing in a unit's hand.
+struct ModeChoice {
+    std::vector<std::string> offered;  // as "Burst [3]"
+    i16 chosen = -1;                   // which of them, -1 for none
+    std::string weapon;                // the thing that they were listed for
+
+    /// The chosen one; empty for none.
+    std::string Text() const {
+        return chosen < 0 ? "" : offered[static_cast<std::size_t>(static_cast<int>(chosen))];
+    }
+
+    bool operator==(const ModeChoice&) const = default;
+};
+
+/// What the bullets of one order share.
+struct FlightValues {
+    i16 muzzleX;  // pixel where the next flight starts
+    i16 muzzleY;
+    i16 impactX;  // cell where the last flight ended, which may lie outside the field
+    i16 impactY;
+    i16 bulletPower;  // strengths of the bullet, worn down on its way
+    i16 bulletAccur;
+    i16 bulletHorizon;  // pixel steps that the flight may take
+};
+
 struct GameState {
     GameState() {
         for (i16& last : teamLast)
             last = -1;
     }
 
-    Array<Unit, 0, 222> UnitTable;
+    Array<Unit, 0, UnitCount - 1> UnitTable;
     Array<i16, 0, 9> teamLast;  // offset of the team's last member, -1 for none
     i16 curTeam = -1;           // -1 before the first turn
     i16 curUnit;
@@ -184,20 +211,16 @@ struct GameState {
     i16 walkOn;      // go-ahead of a walk in progress
     i16 lastClickX;  // the cell that a left click last chose as a destination
     i16 lastClickY;
-    i16 muzzleX;  // pixel where the next flight starts
-    i16 muzzleY;
-    i16 impactX;  // cell where the last flight ended, which may lie outside the field
-    i16 impactY;
-    i16 bulletPower;  // strengths of the bullet, worn down on its way
-    i16 bulletAccur;
-    i16 bulletHorizon;      // pixel steps that the flight may take
-    std::string shownHand;  // the thing in hand that the list of fire modes was last made for
-    i32 orders;             // orders of the player so far: a new one ends the walk that runs
+    FlightValues flight;
+    ModeChoice modes;  // of the current unit; the list box shows them
+    i32 orders;        // orders of the player so far: a new one ends the walk that runs
 
-    // Of the running operation, see state/operation.
+    // Of the running operations, see state/operation.
     i16 operationDepth;
+    i16 pumpedDepth;                 // how many of them wait for the innermost pump to end
     std::vector<int> handOverAsked;  // the soldiers that asked
-    i16 selectedMeanwhile = -1;      // what events selected in its middle, -1 for nothing
+    i16 selectedMeanwhile = -1;      // what events selected in their middle, -1 for nothing
+    ModeChoice selectedModes;        // and its fire modes
 };
 
 extern GameState game;
@@ -229,13 +252,13 @@ inline auto& fieldBusy = game.fieldBusy;
 inline auto& walkOn = game.walkOn;
 inline auto& lastClickX = game.lastClickX;
 inline auto& lastClickY = game.lastClickY;
-inline auto& muzzleX = game.muzzleX;
-inline auto& muzzleY = game.muzzleY;
-inline auto& impactX = game.impactX;
-inline auto& impactY = game.impactY;
-inline auto& bulletPower = game.bulletPower;
-inline auto& bulletAccur = game.bulletAccur;
-inline auto& bulletHorizon = game.bulletHorizon;
+inline auto& muzzleX = game.flight.muzzleX;
+inline auto& muzzleY = game.flight.muzzleY;
+inline auto& impactX = game.flight.impactX;
+inline auto& impactY = game.flight.impactY;
+inline auto& bulletPower = game.flight.bulletPower;
+inline auto& bulletAccur = game.flight.bulletAccur;
+inline auto& bulletHorizon = game.flight.bulletHorizon;
 
 /// Puts every value of the game state back to its start.
 void ResetState();

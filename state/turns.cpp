@@ -8,6 +8,7 @@
 #include "combat/explosions.h"
 #include "combat/things.h"
 #include "field/sightings.h"
+#include "platform/run_time_error.h"
 #include "state/mission_end.h"
 #include "state/operation.h"
 #include "state/state.h"
@@ -32,12 +33,30 @@ void PassToNextTeam() {
     } while (teamLast[curTeam] == -1);
 }
 
+int TimeOfTurn(const Unit& unit) {
+    return unit.agility * 2;
+}
+
 // ODDITY: energy that passes twice the strength jumps to three times it; a rested soldier suddenly has
 // plenty.
 void Refill(Unit& unit) {
-    unit.time = unit.agility * 2;
+    unit.time = TimeOfTurn(unit);
     unit.energy = unit.strength / 2.0 + unit.energy;
     if (unit.energy > unit.strength * 2) unit.energy = unit.strength * 3;
+}
+
+// A squad in which no living soldier ever gets time to act would pass its turns on for ever.
+void CheckSquadCanAct() {
+    bool anyAlive = false;
+    for (int i = 0; i <= teamLast[SquadTeam]; ++i) {
+        if (UnitTable[i].status == Dead) continue;
+        if (TimeOfTurn(UnitTable[i]) >= TimeToAct) return;
+        anyAlive = true;
+    }
+    if (anyAlive)
+        throw RunTimeError(
+            Fault::BadData,
+            "the squad: expected a living soldier of agility 2 or more, found none; nobody can act");
 }
 
 // The health step of a wounded or immobile unit.
@@ -73,7 +92,7 @@ void StepSelection(Passed& passed) {
 void TakeUpWeapon(Unit& unit) {
     const int kept = unit.fireMode;
     RefreshHand();
-    const bool offered = kept < static_cast<int>(frmField.comboMode.List.size());
+    const bool offered = kept < static_cast<int>(game.modes.offered.size());
     ChooseMode(offered ? kept : 0);
 }
 
@@ -108,6 +127,7 @@ void NewTurn() {
         Refill(UnitTable[FirstOf(curTeam) + i]);
     curUnit = FirstOf(curTeam) - 1;
     if (curTeam == EnemyTeam) ClearSightings();
+    if (curTeam == SquadTeam) CheckSquadCanAct();
     SelectNextUnit();
 }
 

@@ -24,13 +24,14 @@
 namespace {
 
 void StepMode(int by) {
-    comboMode_Click(frmField.comboMode.ListIndex + by);
+    comboMode_Click(game.modes.chosen + by);
 }
 
 struct KeyCommand {
     int code;
     void (*run)(int argument);
     int argument;
+    bool isOrder = true;  // to the unit: it ends the walk that runs
 };
 
 void StepKey(int dir) {
@@ -57,9 +58,9 @@ constexpr KeyCommand KeyCommands[] = {
     {103, StepKey, NorthWest},
     {104, StepKey, North},
     {105, StepKey, NorthEast},
-    {219, StepMode, -1},                   // [
-    {77, [](int) { ToggleBigMap(); }, 0},  // M
-    {221, StepMode, +1},                   // ]
+    {219, StepMode, -1},                          // [
+    {77, [](int) { ToggleBigMap(); }, 0, false},  // M
+    {221, StepMode, +1},                          // ]
 };
 
 int CellUnder(float pixel) {
@@ -117,17 +118,22 @@ constexpr int SwitchColumn = 30;  // where the switch's voice sounds
 }  // namespace
 
 void Form_KeyDown(int code) {
-    ++game.orders;
     if (UnitTable[curUnit].status != Active) SelectNextUnit();
     if (frmField.bigMapShown) return ToggleBigMap();
-    for (const KeyCommand& command : KeyCommands)
-        if (command.code == code) return command.run(command.argument);
+    for (const KeyCommand& command : KeyCommands) {
+        if (command.code != code) continue;
+        if (command.isOrder) ++game.orders;
+        return command.run(command.argument);
+    }
 }
 
 void area_MouseDown(int button, float x, float y) {
+    if (button != 1 && button != 2) return;
     ++game.orders;
-    if (button == 2) ActByClick(x, y);
-    if (button == 1) OrderByClick(CellUnder(x), CellUnder(y), x, y);
+    if (button == 2)
+        ActByClick(x, y);
+    else
+        OrderByClick(CellUnder(x), CellUnder(y), x, y);
 }
 
 void area_MouseMove(float x, float y) {
@@ -135,7 +141,7 @@ void area_MouseMove(float x, float y) {
 }
 
 void comboMode_Click(int index) {
-    if (index >= 0 && index < static_cast<int>(frmField.comboMode.List.size())) ChooseMode(index);
+    if (index >= 0 && index < static_cast<int>(game.modes.offered.size())) ChooseMode(index);
 }
 
 void SetStance(int newStance) {

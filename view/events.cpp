@@ -28,7 +28,7 @@ namespace {
 
 using Event = const InputEvent&;
 
-// Who may give it: orders are the player's, and only in his turn; the rest looks at the game or ends it.
+// When it may be given: orders only while the squad awaits them; the rest looks at the game or ends it.
 enum class Kind { Order, View };
 
 struct Handler {
@@ -111,10 +111,15 @@ bool CanHappen(const Control& control) {
     return overIt && IsShown(&control);
 }
 
+// Orders are for soldiers of the squad: not in the computer's turn, nor while a charge blows.
+bool AwaitsOrders() {
+    return curTeam == SquadTeam && curUnit < ChargeBase;
+}
+
 void Handle(Event event) {
     for (const Handler& handler : Handlers) {
         if (handler.event != event.kind || handler.control != event.control) continue;
-        if (handler.kind == Kind::View || curTeam == SquadTeam) handler.run(event);
+        if (handler.kind == Kind::View || AwaitsOrders()) handler.run(event);
         return;
     }
 }

@@ -56,7 +56,7 @@ void Delay(int n, std::string_view mode) {
     for (const DelayMode& entry : Modes) {
         if (entry.word != mode || n <= 0) continue;
         if (entry.pumps)
-            PumpKeepingUnit([&] { TheHost().Wait(LengthOf(n, entry), true); });
+            PumpKeepingOrder([&] { TheHost().Wait(LengthOf(n, entry), true); });
         else
             TheHost().Wait(LengthOf(n, entry), false);
     }
@@ -67,7 +67,7 @@ void DelayThen(int n, const std::function<void()>& putBack) {
     TheHost().Refresh(frmField.area);
     TheHost().Wait(LengthOf(n, Shown), false);
     putBack();
-    PumpKeepingUnit([] { TheHost().PumpEvents(); });
+    PumpKeepingOrder([] { TheHost().PumpEvents(); });
 }
 
 void RestOverlay(ImageControl& image) {

@@ -1,6 +1,7 @@
 #include "view/painting.h"
 
 #include "combat/things.h"
+#include "data/terrain.h"
 #include "platform/blit.h"
 #include "state/operation.h"
 #include "state/state.h"
@@ -21,12 +22,17 @@ void SaveBackground(int index, const Picture& target) {
            RasterOp::SRCCOPY);
 }
 
+// The column of the sheet that shows a tile.
+int ShownTile(int tileX) {
+    return tileX == BrokenTile ? RemainsTile : tileX;
+}
+
 }  // namespace
 
 void PaintCell(int x, int y, Picture& target, int tileX, int tileY) {
     const Cell& cell = cellGrid[y][x];
     const bool ownTile = tileX == -1 || tileY == -1;
-    const int column = ownTile ? static_cast<int>(cell.tileX) : tileX;
+    const int column = ownTile ? ShownTile(cell.tileX) : tileX;
     const int row = ownTile ? static_cast<int>(cell.tileY) : tileY;
     const int left = x * CellSize;
     const int top = y * CellSize;

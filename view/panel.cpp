@@ -42,6 +42,11 @@ void ShowHealth(const Unit& unit) {
     AddToLog("Selected " + unit.name + " [" + UnitStatusText(curUnit) + "]", 1);
 }
 
+// Charges and piles have no panel, and no more have the enemies.
+bool IsPlayers(int unit) {
+    return unit < ChargeBase && UnitTable[unit].team < EnemyTeam;
+}
+
 // A number as the column's tips write it: a blank stands where a minus would.
 std::string Signed(int number) {
     return (number < 0 ? "" : " ") + std::to_string(number);
@@ -92,9 +97,8 @@ PictureRef DigitCell(int cell) {
 }  // namespace
 
 void ShowStatus(std::string_view what) {
-    if (curUnit >= ChargeBase) return;
+    if (!IsPlayers(curUnit)) return;
     Unit& unit = UnitTable[curUnit];
-    if (unit.team >= EnemyTeam) return;
     const bool all = what.empty();
     if (all || what == "stance") ShowAccuracy(unit);
     if (all || what == "time") ShowBar(TimeBar, unit.time, "time");
@@ -102,6 +106,23 @@ void ShowStatus(std::string_view what) {
     if (all || what == "health") ShowHealth(unit);
     if (what == "durab") ShowDurability(unit);
     if (IsSpentSoldier(unit)) AskHandOver();
+}
+
+void RedrawPanel() {
+    if (!IsPlayers(curUnit)) return;
+    const Unit& unit = UnitTable[curUnit];
+    ShowBar(AccuracyBar, unit.aimChance, "accuracy");
+    ShowBar(TimeBar, unit.time, "time");
+    ShowBar(EnergyBar, unit.energy, "energy");
+    ShowBar(HealthBar, unit.health, "health");
+    ShowDurability(unit);
+    ShowStance(unit.stance);
+}
+
+void ShowModes() {
+    frmField.comboMode.List = game.modes.offered;
+    frmField.comboMode.ListIndex = game.modes.chosen;
+    frmField.comboMode.Text = game.modes.Text();
 }
 
 void BarDigits(int bar, int value) {

@@ -8,6 +8,12 @@
 /// a unit of the player; one with too little time left then hands over to the next.
 void ShowStatus(std::string_view what);
 
+/// Shows the four bars and the condition of the current unit as they are, if it is one of the player's.
+void RedrawPanel();
+
+/// Shows the fire modes that the current unit has, and the chosen one.
+void ShowModes();
+
 /// Shows `value`, 0 to 999, in the three digits of bar 0 to 3.
 void BarDigits(int bar, int value);
 

@@ -108,6 +108,7 @@ void MoveSeen(Unit& unit, int dx, int dy) {
     const int targetX = unit.cellX + dx;
     const int targetY = unit.cellY + dy;
     if (move) {
+        if (SelectionFrames(unit)) frmField.shpSelect.Visible = false;
         PlaySoundAt("bump/step1", AtCurrentUnit);
         PlaySoundAt("bump/step2", AtCurrentUnit);
         PaintCover(RaiseCover, targetX, targetY);

@@ -8,6 +8,7 @@
 #include "data/terrain.h"
 #include "platform/blit.h"
 #include "platform/random.h"
+#include "state/operation.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
@@ -153,7 +154,7 @@ TEST_F(FlightTest, AShotInTheMiddleOfAnotherLeavesItItsTrailAndStrength) {
     cellGrid[3][8].tileX = 10;
     Load(100, 2000);
     host.Queue({EventKind::MouseDown, "frmField.area", -1, 2, 0, 70, 270}, host.pumps + 2);
-    BulletFly(80, 70, 270, 70);
+    RunOperation([] { BulletFly(80, 70, 270, 70); });
     EXPECT_EQ(UnitTable[0].handRounds, 29) << "the other shot was fired";
     EXPECT_EQ(bulletPower, 100);
     const Picture& area = frmField.area.canvas;

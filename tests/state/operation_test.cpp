@@ -39,7 +39,7 @@ TEST_F(OperationTest, TimeThatComesBackKeepsTheSelection) {
 
 TEST_F(OperationTest, WhatEventsSelectInItsMiddleStaysSelectedAfterIt) {
     RunOperation([] {
-        PumpKeepingUnit([] {
+        PumpKeepingOrder([] {
             SelectNextUnit();
             SelectNextUnit();
         });
@@ -47,7 +47,7 @@ TEST_F(OperationTest, WhatEventsSelectInItsMiddleStaysSelectedAfterIt) {
         Spend(78, "time");
     });
     EXPECT_EQ(curUnit, 2) << "what was selected, and the spent one's wish is void";
-    PumpKeepingUnit([] { SelectNextUnit(); });
+    PumpKeepingOrder([] { SelectNextUnit(); });
     EXPECT_EQ(curUnit, 1) << "outside of one a pump may select";
 }
 

@@ -107,7 +107,7 @@ const Unit& FiringRange::Target() const {
 
 std::vector<std::string> FiringRange::ModesOf(const std::string& weapon) {
     SetUp({.weapon = weapon});
-    return frmField.comboMode.List;
+    return game.modes.offered;
 }
 
 Score FiringRange::Fire(const Drill& drill, int orders, std::uint32_t seed) {
@@ -154,7 +154,7 @@ void FiringRange::SetUp(const Drill& drill) {
     mode = drill.mode;
     RefreshHand();
     ChooseMode(mode);
-    modeText = frmField.comboMode.Text;
+    modeText = game.modes.Text();
     const auto centre = [](int cell) { return static_cast<float>(cell * CellSize + HalfCell); };
     TurnTowards(centre(x), centre(y));
     soldier.time = soldier.agility * 2;
@@ -175,8 +175,8 @@ void FiringRange::PutBack() {
     frmField.cmbLog.List.clear();
     frmField.cmbLog.Tag.clear();
     host.sounds.clear();
-    if (frmField.comboMode.Text == modeText) return;
-    game.shownHand.clear();  // the last thing was thrown away, or folded
+    if (game.modes.Text() == modeText) return;
+    game.modes.weapon.clear();  // the last thing was thrown away, or folded
     RefreshHand();
     ChooseMode(mode);
 }

@@ -1,6 +1,6 @@
 // Recordings of a run as text: its seed, every event with where in the run it came, and after each event what
-// has changed in the state and in what a player sees and hears. A run that is replayed writes its lines anew; the first that differs tells what
-// went another way.
+// has changed in the state and in what a player sees and hears. A run that is replayed writes its lines anew;
+// the first that differs tells what went another way.
 //
 //   sarnoth recording 1
 //   build 1.0.0 gcc 12.2.0

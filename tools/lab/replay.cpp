@@ -173,8 +173,8 @@ ReplayResult Replay::Result() {
     CompareBlock();
     ReplayResult result{next, difference};
     if (difference.empty() && compared < recording.lines.size())
-        result.difference = "it ended before line " + std::to_string(compared + LinesBeforeEvents + 1) + ": " +
-                            recording.lines[compared];
+        result.difference = "it ended before line " + std::to_string(compared + LinesBeforeEvents + 1) +
+                            ": " + recording.lines[compared];
     return result;
 }
 

@@ -48,8 +48,8 @@ class Replay {
     Recorder recorder;
     std::size_t next = 0;      // event
     std::size_t compared = 0;  // lines
-    Lines block;               // the replay's newest lines that belong together: one and those indented under it
-    Picture agreed;            // the field after the last block in which both agreed
+    Lines block;     // the replay's newest lines that belong together: one and those indented under it
+    Picture agreed;  // the field after the last block in which both agreed
     std::string difference;
 };
 

@@ -146,7 +146,8 @@ std::vector<std::string> ShownWatch::Look() {
     std::vector<std::string> lines;
     for (int y = 0; y < Rows; ++y)
         for (int x = 0; x < Columns; ++x)
-            if (!SameSquare(before, frmField.area.canvas, x * CellSize, y * CellSize)) LookAtCell(x, y, lines);
+            if (!SameSquare(before, frmField.area.canvas, x * CellSize, y * CellSize))
+                LookAtCell(x, y, lines);
     lines.insert(lines.end(), heard->begin(), heard->end());
     heard->clear();
     return lines;

@@ -16,9 +16,9 @@ class ShownWatch {
     /// Takes the field as it is now, and listens to the host from now on.
     ShownWatch();
 
-    /// What has changed since it last looked: a cell's square of the field a line, as "area 240,600 20x20 HASH"
-    /// with its left top corner in pixels, then the sounds as they came, as "sound weapons\ak -150" with the
-    /// balance in hundredths of a decibel, left below 0.
+    /// What has changed since it last looked: a cell's square of the field a line, as "area 240,600 20x20
+    /// HASH" with its left top corner in pixels, then the sounds as they came, as "sound weapons\ak -150"
+    /// with the balance in hundredths of a decibel, left below 0.
     std::vector<std::string> Look();
 
     /// Of the field's picture when it last looked.

@@ -122,15 +122,25 @@ void VisitValues(const GameState& state, Visit visit) {
     visit("walkOn", state.walkOn);
     visit("lastClickX", state.lastClickX);
     visit("lastClickY", state.lastClickY);
-    visit("muzzleX", state.muzzleX);
-    visit("muzzleY", state.muzzleY);
-    visit("impactX", state.impactX);
-    visit("impactY", state.impactY);
-    visit("bulletPower", state.bulletPower);
-    visit("bulletAccur", state.bulletAccur);
-    visit("bulletHorizon", state.bulletHorizon);
-    visit("shownHand", state.shownHand);
+    visit("muzzleX", state.flight.muzzleX);
+    visit("muzzleY", state.flight.muzzleY);
+    visit("impactX", state.flight.impactX);
+    visit("impactY", state.flight.impactY);
+    visit("bulletPower", state.flight.bulletPower);
+    visit("bulletAccur", state.flight.bulletAccur);
+    visit("bulletHorizon", state.flight.bulletHorizon);
+    const auto visitModes = [&visit](const std::string& name, const ModeChoice& modes) {
+        visit(name + ".weapon", modes.weapon);
+        visit(name + ".chosen", modes.chosen);
+        std::string offered;
+        for (const std::string& mode : modes.offered)
+            offered += mode + "|";
+        visit(name + ".offered", offered);
+    };
+    visitModes("modes", state.modes);
+    visitModes("selectedModes", state.selectedModes);
     visit("orders", state.orders);
     visit("operationDepth", state.operationDepth);
+    visit("pumpedDepth", state.pumpedDepth);
     visit("selectedMeanwhile", state.selectedMeanwhile);
 }

@@ -44,7 +44,6 @@ Values WindowValues() {
     return {{"chance.draws", std::to_string(RandomDraws())},
             {"frmField.HScrollArea.Value", std::to_string(frmField.HScrollArea.Value)},
             {"frmField.VScrollArea.Value", std::to_string(frmField.VScrollArea.Value)},
-            {"frmField.comboMode.ListIndex", std::to_string(frmField.comboMode.ListIndex)},
             {"frmField.imgStop.Tag", TextOf(frmField.imgStop.Tag)},
             {"frmField.bigMapShown", std::to_string(frmField.bigMapShown ? 1 : 0)},
             {"frmField.enemyCount", TextOf(frmField.enemyCount)},
