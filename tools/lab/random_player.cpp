@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -13,40 +14,115 @@ namespace {
 
 constexpr int Left = 1;
 constexpr int Right = 2;
-constexpr std::array<int, 22> Keys = {13, 27, 32, 33, 34,  35,  36,  37,  38,  39,  40,
-                                      77, 97, 98, 99, 100, 102, 103, 104, 105, 219, 221};
+constexpr int Middle = 4;
+
+// Those that mean something to the game, and some that don't: Shift, number pad 5, W.
+constexpr std::array<int, 25> Keys = {13, 27, 32,  33,  34,  35,  36,  37,  38,  39, 40,  77, 97,
+                                      98, 99, 100, 102, 103, 104, 105, 219, 221, 16, 101, 87};
+constexpr std::array<int, 4> CatalogueKeys = {38, 40, 98, 104};
+
+// What a soldier does more with than with a rifle.
+constexpr std::array<const char*, 12> Favourites = {"c4",        "m67",     "m67a2",  "m367",
+                                                    "knife",     "bayonet", "etool",  "med",
+                                                    "famasm203", "xm8lss",  "m4m203", "shuriken"};
 
 InputEvent Click(const char* control, int index = -1) {
     return {EventKind::Click, control, index, Left};
 }
 
-InputEvent Key(int code) {
-    return {EventKind::KeyDown, frmInfo.Visible ? "frmInfo" : "frmField", -1, code};
+InputEvent Key(int code, int shift = 0) {
+    return {EventKind::KeyDown, frmInfo.Visible ? "frmInfo" : "frmField", -1, code, shift};
 }
+
+const Unit& Current() {
+    return UnitTable[std::clamp<int>(curUnit, 0, FirstOf(2) - 1)];
+}
+
+bool Carries() {
+    return frmInfo.dragSlot != NoSlot;
+}
+
+bool IsFavourite(const std::string& name) {
+    return std::find(Favourites.begin(), Favourites.end(), name) != Favourites.end();
+}
+
+// Each control that takes events, and which.
+struct Place {
+    EventKind kind;
+    const char* control;
+    int places;  // of a control array, 0 for a control on its own
+};
+
+constexpr Place FieldPlaces[] = {
+    {EventKind::KeyDown, "frmField", 0},
+    {EventKind::MouseDown, "frmField.area", 0},
+    {EventKind::Click, "frmField.cmdNextTurn", 0},
+    {EventKind::Click, "frmField.imgStance", 4},
+    {EventKind::Click, "frmField.imgEnemyCount", 0},
+    {EventKind::Choose, "frmField.comboMode", 0},
+    {EventKind::Click, "frmField.picBarWeapon", 0},
+    {EventKind::MouseDown, "frmField.picAreaMapCover", 0},
+};
+
+constexpr Place FilePlaces[] = {
+    {EventKind::KeyDown, "frmInfo", 0},          {EventKind::KeyUp, "frmInfo", 0},
+    {EventKind::MouseDown, "frmInfo", 0},        {EventKind::MouseMove, "frmInfo", 0},
+    {EventKind::Click, "frmInfo.cmdNext", 0},    {EventKind::Click, "frmInfo.cmdGndPage", 3},
+    {EventKind::MouseDown, "frmInfo.picB1", 0},  {EventKind::MouseUp, "frmInfo.picB1", 0},
+    {EventKind::Click, "frmInfo.imgDel", 0},     {EventKind::MouseDown, "frmInfo.imgUpDn", 4},
+    {EventKind::Timer, "frmInfo.timerArrow", 0}, {EventKind::MouseMove, "frmInfo.imgAward", 25},
+};
 
 }  // namespace
 
 InputEvent RandomPlayer::Next() {
+    if (!planned.empty()) {
+        const InputEvent next = planned.front();
+        planned.pop_front();
+        return next;
+    }
     const int mood = Draw(100);
     if (frmInfo.Visible && mood < 85) return InFile();
     if (mood < 45) return Sensible();
-    return mood < 85 ? Hasty() : Nonsense();
+    if (mood < 80) return Hasty();
+    return mood < 88 ? OfOtherWindow() : Nonsense();
 }
 
 InputEvent RandomPlayer::OnField(int button, int cellX, int cellY) {
-    return {EventKind::MouseDown,
-            "frmField.area",
-            -1,
-            button,
-            0,
-            static_cast<float>(cellX * CellSize + Draw(CellSize)),
-            static_cast<float>(cellY * CellSize + Draw(CellSize))};
+    const int x = cellX * CellSize + Draw(CellSize);
+    const int y = cellY * CellSize + Draw(CellSize);
+    return {EventKind::MouseDown,  "frmField.area",      -1, button, 0,
+            static_cast<float>(x), static_cast<float>(y)};
+}
+
+InputEvent RandomPlayer::AtEnemy(int button) {
+    const Unit& enemy = UnitTable[FirstOf(EnemyTeam) + Draw(std::max(teamLast[EnemyTeam] + 1, 1))];
+    return OnField(button, enemy.cellX, enemy.cellY);
+}
+
+InputEvent RandomPlayer::AtComrade(int button) {
+    const Unit& comrade = UnitTable[Draw(std::max(teamLast[SquadTeam] + 1, 1))];
+    return OnField(button, comrade.cellX, comrade.cellY);
+}
+
+InputEvent RandomPlayer::NearBy(int button) {
+    constexpr int Reach = 7;
+    const int x = std::clamp(Current().cellX + Draw(2 * Reach + 1) - Reach, 0, FieldWidth - 1);
+    const int y = std::clamp(Current().cellY + Draw(2 * Reach + 1) - Reach, 0, FieldHeight - 1);
+    return OnField(button, x, y);
+}
+
+// A pointer that was dragged out of the field, or what a broken mouse might report.
+InputEvent RandomPlayer::PastTheEdge() {
+    static constexpr std::array<float, 8> Places = {-1, -20, 1520, 1539, 919, 920, 1e30F, -1e30F};
+    const auto kind = Draw(2) == 0 ? EventKind::MouseMove : EventKind::MouseDown;
+    const float x = Places[static_cast<std::size_t>(Draw(static_cast<int>(Places.size())))];
+    const float y = Places[static_cast<std::size_t>(Draw(static_cast<int>(Places.size())))];
+    return {kind, frmInfo.Visible ? "frmInfo" : "frmField.area", -1, Left, 0, x, y};
 }
 
 // Orders as a player gives them: to the current soldier, toward enemies and places near by.
 InputEvent RandomPlayer::Sensible() {
-    const Unit& unit = UnitTable[std::clamp<int>(curUnit, 0, FirstOf(2) - 1)];
-    const Unit& enemy = UnitTable[FirstOf(EnemyTeam) + Draw(std::max(teamLast[EnemyTeam] + 1, 1))];
     switch (Draw(12)) {
         case 0:
             return Click("frmField.cmdNextTurn");
@@ -61,64 +137,218 @@ InputEvent RandomPlayer::Sensible() {
         case 5:
         case 6:
         case 7:
-            return OnField(Right, enemy.cellX, enemy.cellY);
+            return AtEnemy(Right);
         default:
-            return OnField(Left, std::clamp(unit.cellX + Draw(15) - 7, 0, FieldWidth - 1),
-                           std::clamp(unit.cellY + Draw(15) - 7, 0, FieldHeight - 1));
+            return NearBy(Left);
     }
 }
 
 InputEvent RandomPlayer::Hasty() {
-    switch (Draw(7)) {
+    switch (Draw(11)) {
         case 0:
             return Key(Keys[static_cast<std::size_t>(Draw(static_cast<int>(Keys.size())))]);
         case 1:
             return Click("frmField.imgEnemyCount");
         case 2:
             return Click("frmField.imgStop");
-        case 3:
-            return {EventKind::MouseDown,          "frmField.picAreaMap",       -1, Left, 0,
-                    static_cast<float>(Draw(152)), static_cast<float>(Draw(92))};
-        case 4:
-            return {EventKind::Change, Draw(2) == 0 ? "frmField.HScrollArea" : "frmField.VScrollArea", -1,
-                    20 * Draw(24)};
-        default:
-            return OnField(1 + Draw(2), Draw(FieldWidth), Draw(FieldHeight));
+        case 3: {
+            const int x = Draw(152);
+            const int y = Draw(92);
+            return {EventKind::MouseDown,  "frmField.picAreaMap", -1, Left, 0,
+                    static_cast<float>(x), static_cast<float>(y)};
+        }
+        case 4: {
+            const char* bar = Draw(2) == 0 ? "frmField.HScrollArea" : "frmField.VScrollArea";
+            return {Draw(3) == 0 ? EventKind::Scroll : EventKind::Change, bar, -1, Draw(480)};
+        }
+        case 5: {
+            InputEvent move = NearBy(Draw(5));
+            move.kind = EventKind::MouseMove;
+            return move;
+        }
+        case 6:
+            return PastTheEdge();
+        case 7:
+            return AtComrade(Right);
+        case 8:
+            return NearBy(Middle);
+        default: {
+            const int button = 1 + Draw(2);
+            const int x = Draw(FieldWidth);
+            const int y = Draw(FieldHeight);
+            return OnField(button, x, y);
+        }
     }
 }
 
-// In a soldier's file: things are taken up and laid down, magazines come out, pages turn.
-InputEvent RandomPlayer::InFile() {
-    const auto press = [this](int button) -> InputEvent {
-        return {EventKind::MouseDown,         "frmInfo", -1, button, 0, static_cast<float>(Draw(760)),
-                static_cast<float>(Draw(640))};
-    };
-    const auto pressSlot = [this](int button) -> InputEvent {
-        const ImageControl& slot = frmInfo.imgInv[Draw(LastBoardSlot + 1)];
-        return {EventKind::MouseDown,
-                "frmInfo",
-                -1,
-                button,
-                0,
-                static_cast<float>(slot.Left + 3),
-                static_cast<float>(slot.Top + 3)};
-    };
+InputEvent RandomPlayer::Lasting() {
+    const int modes = static_cast<int>(game.modes.offered.size());
+    switch (Draw(6)) {
+        case 0:
+            return Click("frmField.cmdNextTurn");
+        case 1: {
+            InputEvent walk = NearBy(Left);
+            planned.push_back(walk);
+            return walk;
+        }
+        case 2:
+            planned.push_back(NearBy(Right));
+            break;
+        case 3:
+            planned.push_back(AtComrade(Right));
+            break;
+        default:
+            planned.push_back(AtEnemy(Right));
+            break;
+    }
+    return {EventKind::Choose, "frmField.comboMode", -1, Draw(std::max(modes, 1))};
+}
+
+InputEvent RandomPlayer::Meanwhile() {
     switch (Draw(14)) {
         case 0:
-            return Key(13);
         case 1:
-            return press(Left);
+            return Key(32);
         case 2:
-            return pressSlot(Right);
+        case 3:
+            return AtComrade(Left);
+        case 4:
+        case 5:
+            return AtEnemy(Right);
+        case 6:
+            return NearBy(Right);
+        case 7:
+            return Key(Keys[static_cast<std::size_t>(Draw(static_cast<int>(Keys.size())))]);
+        case 8:
+            return {EventKind::Choose, "frmField.comboMode", -1, Draw(6)};
+        case 9:
+            return Click("frmField.picBarWeapon");
+        case 10:
+            return Click("frmField.imgStance", Draw(4));
+        case 11:
+            return Draw(3) == 0 ? Click("frmField.cmdNextTurn") : NearBy(Middle);
+        case 12:
+            return NearBy(Left);
+        default:
+            return Next();
+    }
+}
+
+InputEvent RandomPlayer::OnSlot(int button, int slot) {
+    const ImageControl& image = frmInfo.imgInv[slot];
+    return {EventKind::MouseDown,
+            "frmInfo",
+            -1,
+            button,
+            0,
+            static_cast<float>(image.Left + 3),
+            static_cast<float>(image.Top + 3)};
+}
+
+// A slot that shows something, one of the favourites if he sees any; the hand where there is nothing.
+int RandomPlayer::SlotWithThing() {
+    std::vector<int> things;
+    std::vector<int> favourites;
+    for (int slot = 1; slot <= LastBoardSlot; ++slot) {
+        const InvItem& item = UnitTable[curUnit].items[slot];
+        if (!frmInfo.imgInv[slot].Visible || item.name.empty()) continue;
+        things.push_back(slot);
+        if (IsFavourite(item.name)) favourites.push_back(slot);
+    }
+    const std::vector<int>& from = favourites.empty() || Draw(3) == 0 ? things : favourites;
+    return from.empty() ? 0 : from[static_cast<std::size_t>(Draw(static_cast<int>(from.size())))];
+}
+
+// Things are taken up, laid down, laid on one another and brought into the hand; magazines come out.
+InputEvent RandomPlayer::WithThings() {
+    if (Carries()) return OnSlot(Left, Draw(3) == 0 ? 0 : Draw(LastBoardSlot + 1));
+    const int slot = SlotWithThing();
+    switch (Draw(4)) {
+        case 0:
+            return OnSlot(Right, slot);
+        case 1:
+            return OnSlot(Left, slot);
+        case 2:
+            planned.push_back(OnSlot(Left, SlotWithThing()));
+            return OnSlot(Left, slot);
+        default:
+            // Into the hand, and what was in it to where that came from.
+            planned.push_back(OnSlot(Left, 0));
+            planned.push_back(OnSlot(Left, slot));
+            return OnSlot(Left, slot);
+    }
+}
+
+InputEvent RandomPlayer::WithCatalogue() {
+    switch (Draw(7)) {
+        case 0:
+        case 1:
+            return {EventKind::MouseDown, "frmInfo.imgUpDn", 1 + Draw(3), Left};
+        case 2:
+            return {EventKind::MouseUp, "frmInfo.imgUpDn", 1 + Draw(3), Left};
+        case 3:
+            return {EventKind::Timer, "frmInfo.timerArrow"};
+        case 4:
+            return {EventKind::KeyUp, "frmInfo", -1, 40};
+        case 5:
+            return Draw(4) == 0 ? Click("frmInfo.imgDel") : OnSlot(Left, 0);
+        default: {
+            const int key =
+                CatalogueKeys[static_cast<std::size_t>(Draw(static_cast<int>(CatalogueKeys.size())))];
+            return Key(key, Draw(2));
+        }
+    }
+}
+
+// In a soldier's file.
+InputEvent RandomPlayer::InFile() {
+    switch (Draw(20)) {
+        case 0:
+            return Key(13);
+        case 1: {
+            const int x = Draw(760);
+            const int y = Draw(640);
+            return {EventKind::MouseDown, "frmInfo", -1, Left, 0, static_cast<float>(x),
+                    static_cast<float>(y)};
+        }
+        case 2: {
+            const int x = Draw(760);
+            const int y = Draw(640);
+            return {EventKind::MouseMove, "frmInfo", -1, 0, 0, static_cast<float>(x), static_cast<float>(y)};
+        }
         case 3:
             return Click(Draw(2) == 0 ? "frmInfo.cmdNext" : "frmInfo.cmdPrev");
         case 4:
             return Click("frmInfo.cmdGndPage", Draw(3));
         case 5:
             return {EventKind::CloseRequest, "frmInfo"};
+        case 6:
+            planned.push_back({EventKind::MouseUp, "frmInfo.picB1", -1, Left});
+            return {EventKind::MouseDown, "frmInfo.picB1", -1, Left};
+        case 7:
+            return PastTheEdge();
+        case 8:
+        case 9:
+        case 10:
+            return WithCatalogue();
         default:
-            return pressSlot(Left);
+            return WithThings();
     }
+}
+
+// A control of the window that is not in front, or of the one that is.
+InputEvent RandomPlayer::OfOtherWindow() {
+    const bool ofFile = Draw(2) == 0;
+    const int place = Draw(static_cast<int>(ofFile ? std::size(FilePlaces) : std::size(FieldPlaces)));
+    const Place& chosen = ofFile ? FilePlaces[place] : FieldPlaces[place];
+    InputEvent event;
+    event.kind = chosen.kind;
+    event.control = chosen.control;
+    event.index = chosen.places == 0 ? -1 : Draw(chosen.places);
+    event.code = chosen.kind == EventKind::KeyDown ? 40 : Left;
+    event.x = static_cast<float>(Draw(760));
+    event.y = static_cast<float>(Draw(640));
+    return event;
 }
 
 InputEvent RandomPlayer::Nonsense() {

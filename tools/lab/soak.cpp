@@ -12,6 +12,7 @@
 #include "platform/headless_host.h"
 #include "platform/run_time_error.h"
 #include "state/state.h"
+#include "tools/lab/field_referee.h"
 #include "tools/lab/random_player.h"
 #include "tools/lab/recorder.h"
 #include "tools/lab/recording.h"
@@ -60,7 +61,7 @@ std::string MisplacedOccupant() {
 }
 
 std::string OpenOperation() {
-    if (game.operationDepth != 0) return "an operation is still open";
+    if (game.operationDepth != 0 || game.pumpedDepth != 0) return "an operation is still open";
     if (!game.handOverAsked.empty()) return "a hand-over still waits";
     return game.selectedMeanwhile != -1 ? "a selection still waits" : "";
 }
@@ -77,11 +78,17 @@ std::string StrayOverlay() {
     return frmField.shpSelect.Visible ? "the selection's frame was left on the field" : "";
 }
 
+// What is out of order in the state between two events; empty for nothing.
+std::string Disorder() {
+    for (const auto& look : {MisplacedUnit, MisplacedOccupant, OpenOperation, StrayDrag, StrayOverlay})
+        if (std::string found = look(); !found.empty()) return found;
+    return "";
+}
+
 // A flight draws its trail in a grey that no picture of the game has, and takes it away again.
-std::string LeftTrail() {
+std::string LeftTrail(const Rectangle& changed) {
     constexpr Colour TrailGrey = Rgb(128, 128, 128);
-    Picture& area = frmField.area.canvas;
-    const Rectangle changed = area.TakeChanged();
+    const Picture& area = frmField.area.canvas;
     for (int y = changed.top; y < changed.top + changed.height; ++y) {
         const Colour* from = area.Row(y) + changed.left;
         const Colour* found = std::find(from, from + changed.width, TrailGrey);
@@ -192,20 +199,35 @@ class Mission {
 
   private:
     void Step() {
-        // Some of what he does falls into the middle of the orders that follow.
-        while (player.Draw(3) == 0)
-            host.Queue(player.Next(), host.pumps + 1 + player.Draw(40));
-        const bool wholeTurn = player.Draw(TurnsEvery) == 0;
-        const InputEvent event = player.Next();
-        if (wholeTurn)
-            soldier.PlayTurn();
-        else
-            recorder.Dispatch(event);
-        const std::string last = wholeTurn ? "a turn" : EventText(event);
+        const std::string last = DoSomething();
         if (recorder.LongestEvent() > HandlerLimit)
             result.fault = "an event took over a second by itself, the last one: " + last;
         else
             Look(last);
+    }
+
+    // What he did, in words.
+    std::string DoSomething() {
+        const int what = player.Draw(TurnsEvery);
+        if (what == 0) {
+            QueueMeanwhile(40);
+            soldier.PlayTurn();
+            return "a turn";
+        }
+        const bool lasting = what <= 2 && !frmInfo.Visible;
+        const InputEvent event = lasting ? player.Lasting() : player.Next();
+        QueueMeanwhile(lasting ? 12 : 40);
+        recorder.Dispatch(event);
+        return EventText(event);
+    }
+
+    // Some of what he does falls into the middle of the orders that follow, within so many pumps.
+    void QueueMeanwhile(int pumps) {
+        while (player.Draw(3) != 0) {
+            const InputEvent event = player.Meanwhile();
+            const int after = 1 + player.Draw(pumps);
+            host.Queue(event, host.pumps + after);
+        }
     }
 
     void Leave() {
@@ -215,6 +237,9 @@ class Mission {
 
     void Look(const std::string& last) {
         result.fault = Disorder();
+        const Rectangle changed = frmField.area.canvas.TakeChanged();
+        if (result.fault.empty()) result.fault = LeftTrail(changed);
+        if (result.fault.empty()) result.fault = referee.Look(changed);
         if (result.fault.empty() && frmInfo.Visible) return;  // things are on their way
         const int now = CountGuns();
         const bool catalogue = frmInfo.imgUpDn[1].Visible;
@@ -232,18 +257,12 @@ class Mission {
     Recorder recorder;
     SoakHost host;
     ScriptedPlayer soldier;
+    FieldReferee referee;
     SoakedMission result;
     int guns = 0;
 };
 
 }  // namespace
-
-std::string Disorder() {
-    for (const auto& look :
-         {MisplacedUnit, MisplacedOccupant, OpenOperation, StrayDrag, StrayOverlay, LeftTrail})
-        if (std::string found = look(); !found.empty()) return found;
-    return "";
-}
 
 SoakedMission Soak(std::uint32_t seed, int events, const std::filesystem::path& recording) {
     if (recording.empty()) return Mission(seed, events, nullptr).Play();

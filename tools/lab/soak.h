@@ -16,6 +16,3 @@ struct SoakedMission {
 /// One mission of at most `events` events, with the data of the program's folder. With `recording` its lines
 /// are written there.
 SoakedMission Soak(std::uint32_t seed, int events, const std::filesystem::path& recording = {});
-
-/// What is out of order in the state between two events; empty for nothing.
-std::string Disorder();

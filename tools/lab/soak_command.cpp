@@ -16,6 +16,9 @@
 #include "tools/json_text.h"
 #include "tools/lab/commands.h"
 #include "tools/lab/soak.h"
+#include "tools/whole_file.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -73,15 +76,22 @@ constexpr unsigned MissionSeconds = 600;
 void Work(const Plan& plan, std::uint32_t job, std::FILE* to) {
     const GameCopy copy(plan.game);
     SetProgramFolder(copy.Path());
+    const fs::path store = copy.Path() / "dat/apc.dat";
+    const std::string stock = ReadWholeFile("\\dat\\apc.dat");
+    // Every mission begins with the same store, as its recording does.
+    const auto soak = [&](std::uint32_t seed, const fs::path& recording = {}) {
+        WriteWholeFile(store, stock);
+        return Soak(seed, plan.events, recording);
+    };
     for (std::uint64_t seed = std::uint64_t{plan.seeds.first} + job; seed <= plan.seeds.last;
          seed += plan.jobs) {
         const auto number = static_cast<std::uint32_t>(seed);
         std::fprintf(to, "begin %u\n", number);
         std::fflush(to);
         alarm(MissionSeconds);
-        const SoakedMission mission = Soak(number, plan.events);
+        const SoakedMission mission = soak(number);
         if (!mission.fault.empty() && !plan.recordings.empty())
-            Soak(number, plan.events, plan.recordings + "/" + std::to_string(number) + ".rec");
+            soak(number, fs::path(plan.recordings) / (std::to_string(number) + ".rec"));
         Tell(to, mission);
     }
 }
