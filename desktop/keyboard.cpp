@@ -135,10 +135,10 @@ void Keyboard::Release(const QKeyEvent& key) {
     Send(EventKind::KeyUp, KeyCode(key), ShiftState(key.modifiers()));
 }
 
-// Another window gets the releases.
+// Another window gets the releases. One that was hidden needs none.
 void Keyboard::LetGo() {
     for (const int code : std::exchange(held, {}))
-        Send(EventKind::KeyUp, code, 0);
+        if (form.Visible) Send(EventKind::KeyUp, code, 0);
 }
 
 // Whatever key brings the field back from behind the whole map does nothing else.

@@ -13,14 +13,14 @@ bool EndsTurn(const InputEvent& event) {
 }  // namespace
 
 void TurnPause::Note(int team, Moment now) {
-    if (team == SquadTeam && shownTeam != SquadTeam) cameBack = now;
-    shownTeam = team;
+    if (team == SquadTeam && away) cameBack = now;
+    away = team == EnemyTeam;
 }
 
 // What lets the turn end is noted too, for nothing need be shown of the computer's turn.
 bool TurnPause::Swallows(const InputEvent& event, Moment now) {
     if (!EndsTurn(event)) return false;
     if (now - cameBack < Pause) return true;
-    shownTeam = NoTeam;
+    away = true;
     return false;
 }

@@ -18,8 +18,6 @@ class TurnPause {
     bool Swallows(const InputEvent& event, Moment now);
 
   private:
-    static constexpr int NoTeam = -1;
-
-    int shownTeam = NoTeam;
+    bool away = false;  // the turn is the computer's, or about to be
     Moment cameBack;
 };
