@@ -89,7 +89,7 @@ void DesktopHost::TakeLate() {
 void DesktopHost::Receive(const InputEvent& event) {
     if (playBack || failed) return;
     if (refreshing) return late.push_back(event);
-    if (turnPause.Swallows(event, steady_clock::now())) return;
+    if (turnPause.Swallows(event, Now())) return;
     Enter([&] { dispatch(event); });
     if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name)
         EndProcess(EXIT_SUCCESS);
@@ -105,7 +105,7 @@ FormWindow& DesktopHost::WindowOf(Form& form) {
 }
 
 void DesktopHost::NoteTurn() {
-    turnPause.Note(curTeam, steady_clock::now());
+    turnPause.Note(curTeam, Now());
 }
 
 void DesktopHost::Sync() {

@@ -43,6 +43,10 @@ class DesktopHost : public Host {
     void PlaySound(const SoundRequest& sound) override;
     [[noreturn]] void EndProcess(int exitCode) override;
 
+  protected:
+    /// The clock that a double click is told by.
+    virtual TurnPause::Moment Now() const { return std::chrono::steady_clock::now(); }
+
   private:
     void LetIn();
     void TakeLate();

@@ -28,6 +28,9 @@ void SendMouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton b
     QCoreApplication::sendEvent(target, &event);
 }
 
+// What was pressed last, on any window.
+const QObject* pressed = nullptr;
+
 // One of the pixels along a side of a control.
 float PixelWithin(double at, int length) {
     return static_cast<float>(std::clamp(at, 0.0, static_cast<double>(std::max(length - 1, 0))));
@@ -50,19 +53,25 @@ PointerEvents::PointerEvents(QWidget& target, const Control& ofControl, const Ev
     widget.installEventFilter(this);
 }
 
-bool PointerEvents::eventFilter(QObject* /*watched*/, QEvent* event) {
+bool PointerEvents::eventFilter(QObject* watched, QEvent* event) {
     const auto mouse = [event]() -> const QMouseEvent& { return static_cast<const QMouseEvent&>(*event); };
-    if (reports == Reports::Moves && event->type() != QEvent::MouseMove) return false;
+    // What a first press brings under the pointer must not take the second one of a double click.
+    const bool strays = event->type() == QEvent::MouseButtonDblClick && pressed != watched;
+    if (event->type() == QEvent::MouseButtonPress) pressed = watched;
+    if (reports == Reports::Moves && event->type() != QEvent::MouseMove) return strays;
     switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            if (IsMeantHere(mouse())) Send(EventKind::MouseDown, ButtonCode(mouse().button()), mouse());
+            meant.setFlag(mouse().button(), !strays && IsMeantHere(mouse()));
+            if (meant.testFlag(mouse().button()))
+                Send(EventKind::MouseDown, ButtonCode(mouse().button()), mouse());
             return true;
         case QEvent::MouseMove:
             Send(EventKind::MouseMove, ButtonCode(mouse().buttons()), mouse());
             return reports == Reports::Everything;
         case QEvent::MouseButtonRelease:
-            Release(mouse());
+            if (meant.testFlag(mouse().button())) Release(mouse());
+            meant.setFlag(mouse().button(), false);
             return true;
         default:
             return false;

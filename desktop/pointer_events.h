@@ -19,8 +19,8 @@ void PressAt(QWidget& widget, QPointF at, Qt::MouseButton button);
 enum class Reports { Everything, Moves };
 
 /// Sends what the mouse does on a widget; the widget owns it. A click with the left button sends MouseDown,
-/// MouseUp and Click; the second press of a double click is a press like any other. Every place that is sent
-/// lies on the control.
+/// MouseUp and Click; the second press of a double click is a press like any other, unless the first came to
+/// another widget: then it does nothing. Every place that is sent lies on the control.
 class PointerEvents : public QObject {
   public:
     /// `ofControl` is what `target` shows; `to` must outlive it.
@@ -39,4 +39,5 @@ class PointerEvents : public QObject {
     const Control& control;
     const EventSink& sink;
     const Reports reports;
+    Qt::MouseButtons meant;  // whose last presses were sent
 };
