@@ -151,7 +151,7 @@ void ButtonWidget::SyncContent() {
     shownCaption = button.Caption;
     const char letter = ShortcutLetter(button);
     setText(Underlined(QString::fromStdString(shownCaption), letter));
-    if (letter != '\0') setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter)));
+    setShortcut({});  // its own would repeat while it is held; the window's keyboard has one that doesn't
     setAccessibleName(SpokenName(button));
 }
 

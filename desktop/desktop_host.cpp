@@ -10,6 +10,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "state/state.h"
+
 namespace {
 
 using std::chrono::steady_clock;
@@ -63,6 +65,7 @@ void DesktopHost::Enter(const std::function<void()>& piece) {
         Fail(error.what());
     }
     Sync();
+    if (InnermostPump() == 0) TakeLate();
 }
 
 void DesktopHost::PlayBack(std::function<void(int pump)> source) {
@@ -75,10 +78,18 @@ void DesktopHost::PlayBack(std::function<void(int pump)> source) {
 
 void DesktopHost::LetIn() {
     if (playBack) Enter([this] { playBack(InnermostPump()); });
+    TakeLate();
+}
+
+void DesktopHost::TakeLate() {
+    for (const InputEvent& event : std::exchange(late, {}))
+        Receive(event);
 }
 
 void DesktopHost::Receive(const InputEvent& event) {
     if (playBack || failed) return;
+    if (refreshing) return late.push_back(event);
+    if (turnPause.Swallows(event, Now())) return;
     Enter([&] { dispatch(event); });
     if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name)
         EndProcess(EXIT_SUCCESS);
@@ -93,7 +104,12 @@ FormWindow& DesktopHost::WindowOf(Form& form) {
     return *otherWindows.back();
 }
 
+void DesktopHost::NoteTurn() {
+    turnPause.Note(curTeam, Now());
+}
+
 void DesktopHost::Sync() {
+    NoteTurn();
     mainWindow.Sync();
     for (Form* form : forms)
         if (form->Visible) WindowOf(*form);
@@ -103,8 +119,11 @@ void DesktopHost::Sync() {
 
 void DesktopHost::Refresh(Control& control) {
     FormWindow& window = WindowOf(*control.form);
+    NoteTurn();
     window.Sync();
+    refreshing = true;
     window.PaintNow();
+    refreshing = false;
 }
 
 void DesktopHost::PumpEvents() {

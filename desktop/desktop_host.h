@@ -10,6 +10,7 @@
 
 #include "desktop/form_window.h"
 #include "desktop/sound_device.h"
+#include "desktop/turn_pause.h"
 #include "platform/host.h"
 
 class DesktopHost : public Host {
@@ -44,10 +45,15 @@ class DesktopHost : public Host {
   protected:
     void Emit(const SoundRequest& sound) override;
 
+    /// The clock that a double click is told by.
+    virtual TurnPause::Moment Now() const { return std::chrono::steady_clock::now(); }
+
   private:
     void LetIn();
+    void TakeLate();
     void Receive(const InputEvent& event);
     void Sync();
+    void NoteTurn();
     void Fail(const std::string& text);
     void CloseQuietDevice();
 
@@ -56,6 +62,9 @@ class DesktopHost : public Host {
     std::vector<FormWindow*> otherWindows;  // the main window owns them
     std::vector<Form*> forms;               // all but the main one
     SoundDevice soundDevice;
+    TurnPause turnPause;
+    bool refreshing = false;
+    std::vector<InputEvent> late;  // came from the windows while one was refreshed; they wait for the next pump
     std::function<void(int pump)> playBack;  // empty: a person plays
     QTimer playBackPace;
     std::function<int(int exitCode)> atEnd;

@@ -22,6 +22,7 @@
 namespace {
 
 constexpr int ExposurePatience = 250;  // milliseconds for the window system to show a new window
+constexpr QRgb Bright = 0xFFD4D0C8;    // the native controls shade their frames from it, to stand out
 
 }  // namespace
 
@@ -39,6 +40,9 @@ FormWindow::FormWindow(Form& shown, QWidget* owner, EventSink to)
     layout->setSpacing(0);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(client);
+    QPalette colours = client->palette();
+    colours.setColor(QPalette::Window, QColor(Bright));
+    client->setPalette(colours);
     client->setAccessibleName(SpokenName(form));
     client->setAttribute(Qt::WA_NoMousePropagation);
     new PointerEvents(*client, form, sink);
@@ -99,12 +103,6 @@ void FormWindow::SyncFrame() {
     if (shownCaption != form.Caption) {
         shownCaption = form.Caption;
         setWindowTitle(QString::fromStdString(shownCaption));
-    }
-    if (shownColour != form.BackColor) {
-        shownColour = form.BackColor;
-        QPalette colours = client->palette();
-        colours.setColor(QPalette::Window, QColor(shownColour));
-        client->setPalette(colours);  // the native controls take the colour of their frames from it
     }
     client->SyncCanvas();
 }

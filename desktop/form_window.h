@@ -63,6 +63,5 @@ class FormWindow : public QWidget {
     std::vector<ControlView*> views;  // in the order of the form's controls
     std::vector<std::unique_ptr<FormTimer>> timers;
     std::string shownCaption;
-    Colour shownColour = 0;
     bool justShown = false;
 };

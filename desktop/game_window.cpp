@@ -97,6 +97,10 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     qInstallMessageHandler(usual);
     std::setlocale(LC_NUMERIC, "C");  // the game's numbers have a decimal point everywhere
     QApplication::setQuitOnLastWindowClosed(false);
+    if (QGuiApplication::primaryScreen() == nullptr) {  // a platform that found none and went on
+        PrintNoDisplay();
+        return EXIT_FAILURE;
+    }
     const QSize screen = QGuiApplication::primaryScreen()->availableSize();
     SetScale(FittingScale(WantedScale(factor), screen, ShownForms()));
     SetAppearance(application);

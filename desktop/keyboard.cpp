@@ -1,6 +1,7 @@
 #include "desktop/keyboard.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QAbstractButton>
 #include <QShortcut>
@@ -75,7 +76,7 @@ void Keyboard::Add(ControlView& view) {
     QWidget& widget = view.Widget();
     widget.installEventFilter(this);
     const char letter = ShortcutLetter(view.Shown());
-    if (letter == '\0' || qobject_cast<QAbstractButton*>(&widget) != nullptr) return;
+    if (letter == '\0') return;
     auto* const shortcut = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(letter)), &window);
     shortcut->setAutoRepeat(false);
     connect(shortcut, &QShortcut::activated, this, [this, &view] { UseAtOnce(view); });
@@ -86,16 +87,17 @@ void Keyboard::Sync() {
     frame->StandAround(at == nullptr ? QRect() : pointer.Spot(*at));
 }
 
-bool Keyboard::eventFilter(QObject* /*watched*/, QEvent* event) {
+bool Keyboard::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::KeyPress:
             Press(static_cast<const QKeyEvent&>(*event));
             return true;
         case QEvent::KeyRelease:
-            // A held key only repeats its press.
-            if (const auto& key = static_cast<const QKeyEvent&>(*event); !key.isAutoRepeat())
-                Send(EventKind::KeyUp, key);
+            Release(static_cast<const QKeyEvent&>(*event));
             return true;
+        case QEvent::WindowDeactivate:
+            if (watched == &window) LetGo();
+            return false;
         case QEvent::FocusIn:
         case QEvent::FocusOut:
             Sync();
@@ -109,19 +111,43 @@ bool Keyboard::eventFilter(QObject* /*watched*/, QEvent* event) {
     }
 }
 
-void Keyboard::Send(EventKind kind, const QKeyEvent& key) const {
-    InputEvent event = EventOf(form, kind, KeyCode(key));
-    event.shift = ShiftState(key.modifiers());
+void Keyboard::Send(EventKind kind, int code, int shift) const {
+    InputEvent event = EventOf(form, kind, code);
+    event.shift = shift;
     sink(event);
 }
 
-// Whatever key brings the field back from behind the whole map does nothing else.
+// A press may let in events and so come back here before it has ended; those of a key that is merely held
+// would nest without end.
 void Keyboard::Press(const QKeyEvent& key) {
+    const int code = KeyCode(key);
+    if (key.isAutoRepeat() && (!held.contains(code) || working.contains(code))) return;
+    held.insert(code);
+    const auto press = working.insert(code);
+    Work(key);
+    working.erase(press);
+}
+
+// A held key only repeats its press.
+void Keyboard::Release(const QKeyEvent& key) {
+    if (key.isAutoRepeat()) return;
+    held.erase(KeyCode(key));
+    Send(EventKind::KeyUp, KeyCode(key), ShiftState(key.modifiers()));
+}
+
+// Another window gets the releases. One that was hidden needs none.
+void Keyboard::LetGo() {
+    for (const int code : std::exchange(held, {}))
+        if (form.Visible) Send(EventKind::KeyUp, code, 0);
+}
+
+// Whatever key brings the field back from behind the whole map does nothing else.
+void Keyboard::Work(const QKeyEvent& key) {
     tipPause.stop();
     tips.PutAway();
     const ControlView* const main = MainStop();
     const bool bringsBack = main != nullptr && !pointer.IsSeen(*main);
-    Send(EventKind::KeyDown, key);
+    Send(EventKind::KeyDown, KeyCode(key), ShiftState(key.modifiers()));
     if (bringsBack || WithCommand(key)) return;
     if (KeyCode(key) != TabKey) return Drive(key);
     const bool forward = key.key() == Qt::Key_Tab && !(key.modifiers() & Qt::ShiftModifier);
@@ -211,6 +237,8 @@ void Keyboard::Use(ControlView& view, Qt::MouseButton button) {
 // By its shortcut, wherever the focus is. What this has brought into view is aimed at next.
 void Keyboard::UseAtOnce(ControlView& view) {
     if (!pointer.IsSeen(view) || !view.Widget().isEnabled()) return;
+    // A button is seen going down first.
+    if (auto* const plate = qobject_cast<QAbstractButton*>(&view.Widget())) return plate->animateClick();
     Use(view, Qt::LeftButton);
     ControlView* const main = MainStop();
     if (main == nullptr || !ShownBy(view.Shown())) return;

@@ -1,8 +1,10 @@
 // The keyboard on a window. Every key is the game's; besides, Tab moves the focus from stop to stop, and keys
 // that mean nothing to the game move a pointer of their own and press there: on the field from cell to cell,
-// on a small map in steps, elsewhere from stop to stop. The press goes the mouse's way.
+// on a small map in steps, elsewhere from stop to stop. The press goes the mouse's way. A held key repeats only
+// in the window in which it was pressed, and each time only when what it did before has ended.
 #pragma once
 
+#include <set>
 #include <vector>
 
 #include <QKeyEvent>
@@ -34,6 +36,9 @@ class Keyboard : public QObject {
 
   private:
     void Press(const QKeyEvent& key);
+    void Work(const QKeyEvent& key);
+    void Release(const QKeyEvent& key);
+    void LetGo();
     void Drive(const QKeyEvent& key);
     void Move(ControlView& view, QPoint step);
     void MoveWithin(ControlView& view, QPoint step);
@@ -41,7 +46,7 @@ class Keyboard : public QObject {
     void UseAtOnce(ControlView& view);
     void Focus(ControlView& view);
     void Point(ControlView& view);
-    void Send(EventKind kind, const QKeyEvent& key) const;
+    void Send(EventKind kind, int code, int shift) const;
     void ShowTip();
 
     ControlView* Focused() const;
@@ -57,5 +62,7 @@ class Keyboard : public QObject {
     KeyPointer pointer;
     FocusFrame* frame;
     std::vector<ControlView*> views;  // in the order of the form's controls
+    std::set<int> held;               // codes of the keys that were pressed here and not let go
+    std::multiset<int> working;       // of those whose presses have not ended
     QTimer tipPause;
 };

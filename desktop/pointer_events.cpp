@@ -1,5 +1,7 @@
 #include "desktop/pointer_events.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 
 #include "desktop/key_codes.h"
@@ -26,6 +28,14 @@ void SendMouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton b
     QCoreApplication::sendEvent(target, &event);
 }
 
+// What was pressed last, on any window.
+const QObject* pressed = nullptr;
+
+// One of the pixels along a side of a control.
+float PixelWithin(double at, int length) {
+    return static_cast<float>(std::clamp(at, 0.0, static_cast<double>(std::max(length - 1, 0))));
+}
+
 }  // namespace
 
 void PointAt(QWidget& widget, QPointF at) {
@@ -43,31 +53,43 @@ PointerEvents::PointerEvents(QWidget& target, const Control& ofControl, const Ev
     widget.installEventFilter(this);
 }
 
-bool PointerEvents::eventFilter(QObject* /*watched*/, QEvent* event) {
+bool PointerEvents::eventFilter(QObject* watched, QEvent* event) {
     const auto mouse = [event]() -> const QMouseEvent& { return static_cast<const QMouseEvent&>(*event); };
-    if (reports == Reports::Moves && event->type() != QEvent::MouseMove) return false;
+    // What a first press brings under the pointer must not take the second one of a double click.
+    const bool strays = event->type() == QEvent::MouseButtonDblClick && pressed != watched;
+    if (event->type() == QEvent::MouseButtonPress) pressed = watched;
+    if (reports == Reports::Moves && event->type() != QEvent::MouseMove) return strays;
     switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            Send(EventKind::MouseDown, ButtonCode(mouse().button()), mouse());
+            meant.setFlag(mouse().button(), !strays && IsMeantHere(mouse()));
+            if (meant.testFlag(mouse().button()))
+                Send(EventKind::MouseDown, ButtonCode(mouse().button()), mouse());
             return true;
         case QEvent::MouseMove:
             Send(EventKind::MouseMove, ButtonCode(mouse().buttons()), mouse());
             return reports == Reports::Everything;
         case QEvent::MouseButtonRelease:
-            Release(mouse());
+            if (meant.testFlag(mouse().button())) Release(mouse());
+            meant.setFlag(mouse().button(), false);
             return true;
         default:
             return false;
     }
 }
 
+// While one button is held, a widget gets the others' presses as well, wherever the pointer has been dragged.
+bool PointerEvents::IsMeantHere(const QMouseEvent& press) const {
+    return press.buttons() == press.button() || widget.visibleRegion().contains(press.position().toPoint());
+}
+
 void PointerEvents::Send(EventKind kind, int code, const QMouseEvent& mouse) const {
     InputEvent event = EventOf(control, kind, code);
     event.shift = ShiftState(mouse.modifiers());
     const QPointF at = FromScreen(mouse.position());
-    event.x = static_cast<float>(at.x());
-    event.y = static_cast<float>(at.y());
+    // A drag that has left the control goes along its edge.
+    event.x = PixelWithin(at.x(), control.Width);
+    event.y = PixelWithin(at.y(), control.Height);
     sink(event);
 }
 

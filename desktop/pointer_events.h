@@ -19,7 +19,8 @@ void PressAt(QWidget& widget, QPointF at, Qt::MouseButton button);
 enum class Reports { Everything, Moves };
 
 /// Sends what the mouse does on a widget; the widget owns it. A click with the left button sends MouseDown,
-/// MouseUp and Click; the second press of a double click is a press like any other.
+/// MouseUp and Click; the second press of a double click is a press like any other, unless the first came to
+/// another widget: then it does nothing. Every place that is sent lies on the control.
 class PointerEvents : public QObject {
   public:
     /// `ofControl` is what `target` shows; `to` must outlive it.
@@ -30,6 +31,7 @@ class PointerEvents : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    bool IsMeantHere(const QMouseEvent& press) const;
     void Send(EventKind kind, int code, const QMouseEvent& mouse) const;
     void Release(const QMouseEvent& mouse) const;
 
@@ -37,4 +39,5 @@ class PointerEvents : public QObject {
     const Control& control;
     const EventSink& sink;
     const Reports reports;
+    Qt::MouseButtons meant;  // whose last presses were sent
 };

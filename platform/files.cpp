@@ -1,6 +1,8 @@
 #include "platform/files.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -45,8 +47,9 @@ bool IsFile(const std::filesystem::path& path) {
 // A file descriptor that closes itself. Opening one never waits for the other end of a pipe.
 class OpenFile {
   public:
-    OpenFile(const std::filesystem::path& path, int flags)
-        : descriptor(::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC, 0644)) {}
+    // `mode` is for a file that is made by it.
+    OpenFile(const std::filesystem::path& path, int flags, mode_t mode = 0)
+        : descriptor(::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC, mode)) {}
     ~OpenFile() { Close(); }
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
@@ -72,6 +75,15 @@ class OpenFile {
         }
         return true;
     }
+    // Makes it as open to others as `old`, and theirs whose it was, as far as this process may.
+    bool TakeOver(const struct stat& old) const {
+        const bool given = ::fchown(descriptor, old.st_uid, old.st_gid) == 0 ||
+                           ::fchown(descriptor, static_cast<uid_t>(-1), old.st_gid) == 0;
+        const mode_t kept = given ? old.st_mode & 07777 : old.st_mode & 0707;
+        return ::fchmod(descriptor, kept) == 0;
+    }
+    // Waits until no other process has it locked; where there are no locks it goes on without.
+    void Lock() const { static_cast<void>(::flock(descriptor, LOCK_EX)); }
     bool Flush() const { return ::fsync(descriptor) == 0; }
     bool Close() {
         const int closing = descriptor;
@@ -83,9 +95,45 @@ class OpenFile {
     int descriptor;
 };
 
-bool WriteAside(const std::filesystem::path& aside, std::string_view content) {
-    OpenFile file(aside, O_WRONLY | O_CREAT | O_TRUNC);
-    return file.Good() && file.Write(content) && file.Flush() && file.Close();
+std::filesystem::path NeighbourOf(const std::filesystem::path& path) {
+    return path.native() + ".new";
+}
+
+// Makes of `path` the place that its links lead to, so that they stay. False, with errno, where that is none.
+bool FollowLinks(std::filesystem::path& path) {
+    std::error_code failure;
+    if (!std::filesystem::is_symlink(path, failure)) return true;
+    path = std::filesystem::canonical(path, failure);
+    errno = failure.value();
+    return !failure;
+}
+
+// Writes what will take the place of `path` beside it. A file that may not be written to is not replaced
+// either.
+bool WriteAside(const std::filesystem::path& path, std::string_view content) {
+    struct stat old {};
+    const bool replaces = ::stat(path.c_str(), &old) == 0;
+    if (replaces && ::access(path.c_str(), W_OK) != 0) return false;
+    const std::filesystem::path aside = NeighbourOf(path);
+    ::unlink(aside.c_str());  // what a killed process left there, or what is no file
+    OpenFile file(aside, O_WRONLY | O_CREAT | O_TRUNC, replaces ? S_IRUSR | S_IWUSR : 0644);
+    return file.Good() && (!replaces || file.TakeOver(old)) && file.Write(content) && file.Flush() &&
+           file.Close();
+}
+
+// Throws FileWrite unless WriteAside could replace the file at `path`, as far as can be seen.
+void CheckReplaceable(const std::filesystem::path& path, const std::string& shown) {
+    const auto refuse = [&shown](const std::string& problem) {
+        throw RunTimeError(Fault::FileWrite, shown + problem);
+    };
+    const auto reason = [] { return ", found: " + std::string(std::strerror(errno)); };
+    if (::access(path.parent_path().c_str(), W_OK | X_OK) != 0)
+        refuse(": expected a folder that can be written to" + reason());
+    if (IsFile(path) && ::access(path.c_str(), W_OK) != 0)
+        refuse(": expected a file that can be written to" + reason());
+    std::error_code ignored;
+    if (std::filesystem::is_directory(NeighbourOf(path), ignored))
+        refuse(".new: expected a name for a new file, found a folder");
 }
 
 // What stands where a file should be; empty where there is nothing.
@@ -114,17 +162,14 @@ std::string ShownName(std::string_view name) {
 }
 
 void KeepForPlayer(std::string_view name) {
-    if (playersFolder.empty()) return;
-    const std::filesystem::path own = PlayersPath(name);
-    std::error_code failure;
-    std::filesystem::create_directories(own.parent_path(), failure);
-    // A file is replaced by its neighbour, so it is the folder that must take new files.
-    if (!failure && ::access(own.parent_path().c_str(), W_OK | X_OK) != 0)
-        failure.assign(errno, std::generic_category());
-    if (failure)
-        throw RunTimeError(
-            Fault::FileWrite,
-            own.string() + ": expected a folder that can be written to, found: " + failure.message());
+    std::filesystem::path own = PlayersPath(name);
+    const bool apart = !playersFolder.empty();
+    if (!apart && !IsFile(own)) return;  // whoever reads it says what is missing
+    std::error_code ignored;
+    if (apart) std::filesystem::create_directories(own.parent_path(), ignored);
+    const bool linked = std::filesystem::is_symlink(own, ignored);
+    if (!FollowLinks(own)) ThrowNotWritten(name);
+    CheckReplaceable(own, apart || linked ? own.string() : RelativeName(name));
     if (!IsFile(own)) ReplaceFile(name, ReadWholeFile(name));
 }
 
@@ -144,11 +189,12 @@ std::string ReadWholeFile(std::string_view name) {
 }
 
 void ReplaceFile(std::string_view name, std::string_view content) {
-    const std::filesystem::path path = PlayersPath(name);
-    std::filesystem::path aside = path;
-    aside += ".new";
-    ::unlink(aside.c_str());  // what a killed process left there, or what is no file
-    if (!WriteAside(aside, content) || ::rename(aside.c_str(), path.c_str()) != 0) {
+    std::filesystem::path path = PlayersPath(name);
+    if (!FollowLinks(path)) ThrowNotWritten(name);
+    const OpenFile folder(path.parent_path(), O_RDONLY | O_DIRECTORY);
+    if (folder.Good()) folder.Lock();  // two games that end together would use the same neighbour
+    const std::filesystem::path aside = NeighbourOf(path);
+    if (!WriteAside(path, content) || ::rename(aside.c_str(), path.c_str()) != 0) {
         const int reason = errno;
         ::unlink(aside.c_str());
         errno = reason;
@@ -156,7 +202,6 @@ void ReplaceFile(std::string_view name, std::string_view content) {
     }
     // The new name itself reaches the disk with its folder; where a folder can't be flushed the file is whole
     // anyway.
-    const OpenFile folder(path.parent_path(), O_RDONLY | O_DIRECTORY);
     if (folder.Good()) folder.Flush();
 }
 

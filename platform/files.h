@@ -22,8 +22,9 @@ void SetProgramFolder(const std::filesystem::path& folder, const std::filesystem
 std::filesystem::path ProgramPath(std::string_view name);
 
 /// Sees to it, before a game begins, that the player has a file of his own that can be replaced: one that is
-/// there stays as it is, else he gets a copy of the program's. Does nothing where the program's folder is
-/// his. Throws FileMissing, or FileWrite with the file's whole path.
+/// there stays as it is, else he gets a copy of the program's. Where the program's folder is his, a file that
+/// is missing is left to who reads it. Throws FileMissing, or FileWrite with the place that can't be written
+/// to.
 void KeepForPlayer(std::string_view name);
 
 /// A file's name as messages show it: relative, with forward slashes, as "dat/weapons.dat"; the whole path of
@@ -36,8 +37,9 @@ bool FileExists(std::string_view name);
 std::string ReadWholeFile(std::string_view name);
 
 /// Puts `content` in the place of the file's old content so that at any moment, a full disk, a power cut or a
-/// kill included, the file is either the old one or the new one, whole. Throws FileWrite and leaves the old
-/// one.
+/// kill included, the file is either the old one or the new one, whole. The new one has the old one's
+/// permissions and, as far as may be, its owner; links to it stay links. Throws FileWrite, also for a file that
+/// may not be written to, and leaves the old one.
 void ReplaceFile(std::string_view name, std::string_view content);
 
 /// Reads a text character by character and knows where it is. CR LF and LF both end a line.

@@ -37,6 +37,15 @@ need() {
     $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null
 }
 
+# quietly COMMAND...: what it prints is seen only when it fails.
+quietly() {
+    local told code=0
+    told=$(mktemp)
+    "$@" >"$told" 2>&1 || { code=$?; cat "$told"; }
+    rm -f "$told"
+    return $code
+}
+
 # build PRESET TARGET...: quiet when there is nothing to do. What was configured without tests is configured anew when
 # they are needed.
 build() {
@@ -44,8 +53,7 @@ build() {
     shift
     if [ ! -f "build/$preset/build.ninja" ] ||
         { [ $tests = ON ] && grep -q '^SARNOTH_TESTS:BOOL=OFF' "build/$preset/CMakeCache.txt"; }; then
-        cmake --preset "$preset" -DSARNOTH_TESTS=$tests >"/tmp/sarnoth-configure.$$" 2>&1 || { cat "/tmp/sarnoth-configure.$$"; exit 1; }
-        rm -f "/tmp/sarnoth-configure.$$"
+        quietly cmake --preset "$preset" -DSARNOTH_TESTS=$tests || exit 1
     fi
     cmake --build "build/$preset" --target "$@" -- --quiet
 }

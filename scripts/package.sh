@@ -8,9 +8,8 @@ need package
 build release sarnoth sarnoth_content sarnoth_delivery
 
 rm -rf build/package
-cpack --config build/release/CPackConfig.cmake -B build/package >/tmp/sarnoth-package.$$ 2>&1 ||
-    { cat /tmp/sarnoth-package.$$; exit 1; }
-rm -rf /tmp/sarnoth-package.$$ build/package/_CPack_Packages
+quietly cpack --config build/release/CPackConfig.cmake -B build/package || exit 1
+rm -rf build/package/_CPack_Packages
 folder=$(echo build/package/*.tar.gz)
 deb=$(echo build/package/*.deb)
 

@@ -116,6 +116,16 @@ bool AwaitsOrders() {
     return curTeam == SquadTeam && curUnit < ChargeBase;
 }
 
+// Whether the event lies on one of the control's pixels, to the nearest of which its place is rounded. A
+// release ends what the press began, wherever it comes.
+bool LiesOn(const Control& control, Event event) {
+    if (event.kind != EventKind::MouseDown && event.kind != EventKind::MouseMove) return true;
+    const auto within = [](float at, int length) {
+        return at >= 0 && at < static_cast<float>(length) - 0.5F;  // false for what is no number
+    };
+    return within(event.x, control.Width) && within(event.y, control.Height);
+}
+
 void Handle(Event event) {
     for (const Handler& handler : Handlers) {
         if (handler.event != event.kind || handler.control != event.control) continue;
@@ -154,7 +164,7 @@ InputEvent AsSeenByTheWindow(InputEvent event, const Control* control) {
 
 void Dispatch(const InputEvent& event) {
     const Control* control = ControlOf(event);
-    if (control == nullptr || !CanHappen(*control)) return;
+    if (control == nullptr || !CanHappen(*control) || !LiesOn(*control, event)) return;
     Handle(event);
     if (IsForTheWindowToo(event, *control)) Handle(AsSeenByTheWindow(event, control));
 }

@@ -6,7 +6,8 @@
 
 struct Control;
 
-/// Runs the handler of `event` to its end; an event that no handler wants does nothing.
+/// Runs the handler of `event` to its end; an event that no handler wants does nothing, nor does one
+/// that can't happen: on a control that isn't there or isn't shown, a press or a move beyond the control.
 void Dispatch(const InputEvent& event);
 
 /// Whether a person does something by pressing the control or by moving over it. Of the windows' pictures;

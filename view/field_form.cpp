@@ -27,6 +27,7 @@ FieldForm::FieldForm() {
     Tag = Caption;
     Width = 799;
     Height = 636;
+    BackColor = FieldGreen;  // seen while a map is read, when the field itself is hidden
     Visible = false;
     PutTopLevel();
     PutPanel();

@@ -75,6 +75,25 @@ TEST(RecordTexts, AreEightBitAndRefuseControlCharacters) {
               "Run-time error 4: Bad data: r, byte 1: expected a text, found the code 7");
 }
 
+TEST(RecordNumbers, AreSixteenBitsWithTheLowByteFirst) {
+    for (const int value : {0, 258, 32767, -1, -32768}) {
+        Record record(3, "r");
+        record.WriteInt16(1, value);
+        EXPECT_EQ(record.ReadByte(0), 0);
+        EXPECT_EQ(record.ReadByte(1) + 256 * record.ReadByte(2), value & 0xFFFF);
+        EXPECT_EQ(record.ReadInt16(1), value);
+    }
+}
+
+TEST_F(FilesTest, ValuesArePartedByCommasAndLineEndsButNotWithinQuotes) {
+    folder.Write("dat/t.txt", " a ,\"b, c\",\r\n\n d\"e\"");
+    CommaReader reader("\\dat\\t.txt");
+    for (const char* value : {"a", "b, c", "", "", "de"})
+        EXPECT_EQ(reader.ReadValue("a value"), value);
+    EXPECT_EQ(ErrorOf([&] { reader.ReadValue("a value"); }),
+              "Run-time error 4: Bad data: dat/t.txt:3:6: expected a value, found the end of the file");
+}
+
 TEST(CodePage, EveryByteSurvivesTheWayThereAndBack) {
     for (int code = 1; code < 256; ++code) {
         const std::string byte(1, static_cast<char>(code));
@@ -96,6 +115,26 @@ TEST_F(FilesTest, AFileIsReplacedWholeOrStaysAsItWas) {
     EXPECT_EQ(ErrorOf([] { ReplaceFile("\\dat\\t.dat", "three"); }),
               "Run-time error 5: File can't be written: dat/t.dat: Is a directory");
     EXPECT_EQ(folder.Read("dat/t.dat"), "two");
+}
+
+TEST_F(FilesTest, AFileThatIsReplacedKeepsItsLinksAndItsPermissions) {
+    const std::filesystem::path link = folder.Path() / "dat/link.dat";
+    const auto modeOf = [this](const char* name) {
+        struct stat found {};
+        stat((folder.Path() / name).c_str(), &found);
+        return found.st_mode & 07777;
+    };
+    folder.Write("map/far.dat", "one");
+    chmod((folder.Path() / "map/far.dat").c_str(), 0620);
+    std::filesystem::create_symlink("../map/far.dat", link);
+    ReplaceFile("\\dat\\link.dat", "two");
+    EXPECT_EQ(std::filesystem::read_symlink(link), "../map/far.dat");
+    EXPECT_EQ(folder.Read("map/far.dat"), "two");
+    EXPECT_EQ(modeOf("map/far.dat"), 0620U);
+    folder.Remove("map/far.dat");
+    EXPECT_EQ(ErrorOf([] { ReplaceFile("\\dat\\link.dat", "three"); }),
+              "Run-time error 5: File can't be written: dat/link.dat: No such file or directory");
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
 }
 
 }  // namespace

@@ -63,4 +63,20 @@ TEST_F(GameFoldersTest, ThePlayerGetsAFileOnceAndWritesOnlyHisOwn) {
     EXPECT_EQ(ShownName("\\dat\\apc.dat"), folder.Path() / "home/dat/apc.dat") << "tells which of the two";
 }
 
+TEST_F(GameFoldersTest, WhatWouldStandInTheWayAtTheMissionsEndIsToldAtTheStart) {
+    const std::string own = (folder.Path() / "home/dat/apc.dat").string();
+    for (const bool apart : {false, true}) {
+        SetProgramFolder(root / "share/sarnoth", apart ? folder.Path() / "home" : fs::path());
+        KeepForPlayer("\\dat\\apc.dat");
+        fs::create_directory(ProgramPath("\\dat\\apc.dat") += ".new");
+        EXPECT_EQ(ErrorOf([] { KeepForPlayer("\\dat\\apc.dat"); }),
+                  "Run-time error 5: File can't be written: " + (apart ? own : "dat/apc.dat") +
+                      ".new: expected a name for a new file, found a folder");
+    }
+    EXPECT_EQ(ErrorOf([] { KeepForPlayer("\\dat\\none.dat"); }),
+              "Run-time error 3: File not found: dat/none.dat");
+    SetProgramFolder(root / "share/sarnoth");
+    EXPECT_EQ(ErrorOf([] { KeepForPlayer("\\dat\\none.dat"); }), "") << "whoever reads it says so";
+}
+
 }  // namespace

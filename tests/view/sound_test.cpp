@@ -1,6 +1,7 @@
 // Where sounds are placed, how they take their turns.
 #include "view/sound.h"
 
+#include "platform/files.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"
 #include "view/field_form.h"
@@ -29,6 +30,19 @@ TEST_F(SoundTest, AColumnIsPannedByItsPlaceOnTheScreen) {
         EXPECT_EQ(host.sounds.back().volume, -std::abs(c.pan));
         EXPECT_EQ(host.sounds.back().frequency, 45000);
     }
+}
+
+TEST_F(SoundTest, VoicesAreHeardOnlyWhenTheyAreOn) {
+    std::filesystem::create_directories(folder.Path() / "own/wav/voice");
+    folder.Write("own/wav/voice/prone.wav", "");
+    SetProgramFolder(folder.Path() / "own");
+    for (const int on : {0, 1}) {
+        voiceOn = on;
+        host.sounds.clear();
+        PlaySoundAt("voice\\prone", 20);
+        ASSERT_EQ(host.sounds.size(), static_cast<std::size_t>(on));
+    }
+    EXPECT_EQ(host.sounds.back().fileName, "\\wav\\voice\\prone.wav");
 }
 
 TEST_F(SoundTest, FourSlotsTakeTurnsAndAMissingFileTakesNone) {
