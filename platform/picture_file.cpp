@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/files.h"
+#include "platform/picture_bytes.h"
 #include "platform/run_time_error.h"
 
 #define STB_IMAGE_IMPLEMENTATION
@@ -33,7 +34,9 @@ constexpr int MaxSide = 2048;  // pixels; the largest of the game's pictures has
 }
 
 [[noreturn]] void RefuseFormat(std::string_view name) {
-    Refuse(name, std::string("expected a picture (BMP, GIF or JPEG), found: ") + stbi_failure_reason());
+    const char* const reason = stbi_failure_reason();  // none for a GIF that ends before its picture
+    Refuse(name, std::string("expected a picture (BMP, GIF or JPEG), found ") +
+                     (reason == nullptr ? "none" : reason));
 }
 
 // Before anything is decoded, so that a few bytes of a header can't ask for gigabytes.
@@ -79,6 +82,7 @@ Picture DecodePicture(std::string_view content, std::string_view name) {
     constexpr int Channels = 4;
     const auto* const bytes = reinterpret_cast<const stbi_uc*>(content.data());
     const int length = static_cast<int>(content.size());
+    CheckPictureBytes(content, name);
     if (content.starts_with('\xFF')) CheckHuffmanTables(content, name);
     CheckSize(bytes, length, name);
     int width = 0;
@@ -105,5 +109,6 @@ PictureRef ReadPictureFile(std::string_view name) {
     }
     const auto known = read.find(name);
     if (known != read.end()) return known->second;
-    return read[std::string(name)] = std::make_shared<Picture>(DecodePicture(ReadWholeFile(name), name));
+    return read[std::string(name)] =
+               std::make_shared<Picture>(DecodePicture(ReadWholeFile(name, MaxPictureFile), name));
 }
