@@ -5,57 +5,10 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/files.h"
-#include "platform/run_time_error.h"
+#include "platform/byte_walk.h"
+#include "platform/jpeg_bytes.h"
 
 namespace {
-
-// Goes through the bytes of a file, and refuses it where it ends too early.
-class ByteWalk {
-  public:
-    ByteWalk(std::string_view read, std::string_view file, const char* fileKind)
-        : content(read), name(file), kind(fileKind) {}
-
-    std::size_t At() const { return at; }
-    std::size_t Left() const { return content.size() - at; }
-
-    void GoTo(std::size_t place) {
-        at = 0;
-        Skip(place);
-    }
-    void Skip(std::size_t count) {
-        if (count > Left()) {
-            at = content.size();
-            Refuse(std::string("a whole ") + kind, "the end of the file");
-        }
-        at += count;
-    }
-    std::size_t Take() {
-        Skip(1);
-        return static_cast<unsigned char>(content[at - 1]);
-    }
-    std::size_t TakeBigEndian16() {
-        const std::size_t high = Take();
-        return high << 8 | Take();
-    }
-    std::size_t TakeLittleEndian(int bytes) {
-        std::size_t value = 0;
-        for (int i = 0; i < bytes; ++i)
-            value |= Take() << 8 * i;
-        return value;
-    }
-
-    [[noreturn]] void Refuse(const std::string& expected, const std::string& found) const {
-        throw RunTimeError(Fault::BadData, ShownName(name) + ": byte " + std::to_string(at) + ": expected " +
-                                               expected + ", found " + found);
-    }
-
-  private:
-    std::string_view content;
-    std::string_view name;
-    const char* kind;
-    std::size_t at = 0;
-};
 
 // The rows must be there; what a row means is the decoder's.
 void CheckBmp(ByteWalk bmp) {
@@ -99,64 +52,6 @@ void CheckGif(ByteWalk gif) {
             gif.Skip(length);
     }
     if (!pictured) gif.Refuse("a picture in the GIF", "none");
-}
-
-constexpr std::size_t MarkStart = 0xFF;
-
-enum JpegMark : std::size_t {
-    Stuffing = 0x00,  // after MarkStart: a byte of data that looks like it
-    FirstFrame = 0xC0,
-    LastBaseline = 0xC1,
-    Progressive = 0xC2,
-    HuffmanTables = 0xC4,
-    Reserved = 0xC8,
-    Conditioning = 0xCC,
-    LastFrame = 0xCF,
-    FirstRestart = 0xD0,
-    LastRestart = 0xD7,
-    StartOfImage = 0xD8,
-    EndOfImage = 0xD9,
-    StartOfScan = 0xDA
-};
-
-std::size_t TakeMark(ByteWalk& jpeg) {
-    std::size_t mark = jpeg.Take();
-    if (mark != MarkStart) jpeg.Refuse("a mark of a JPEG", "the code " + std::to_string(mark));
-    while (mark == MarkStart)
-        mark = jpeg.Take();
-    return mark;
-}
-
-// Gives the mark that ends the scan.
-std::size_t SkipScan(ByteWalk& jpeg) {
-    for (;;) {
-        while (jpeg.Take() != MarkStart) {
-        }
-        std::size_t mark = MarkStart;
-        while (mark == MarkStart)
-            mark = jpeg.Take();
-        const bool within = mark == Stuffing || (mark >= FirstRestart && mark <= LastRestart);
-        if (!within) return mark;
-    }
-}
-
-bool IsFrame(std::size_t mark) {
-    return mark >= FirstFrame && mark <= LastFrame && mark != HuffmanTables && mark != Reserved &&
-           mark != Conditioning;
-}
-
-void CheckJpeg(ByteWalk jpeg) {
-    if (TakeMark(jpeg) != StartOfImage || jpeg.At() != 2) jpeg.Refuse("the start of a JPEG", "another mark");
-    bool pictured = false;
-    for (std::size_t mark = TakeMark(jpeg); mark != EndOfImage;) {
-        if (IsFrame(mark) && mark > LastBaseline)
-            jpeg.Refuse("a baseline JPEG", mark == Progressive ? "a progressive one" : "another kind");
-        const std::size_t length = jpeg.TakeBigEndian16();
-        jpeg.Skip(length < 2 ? 0 : length - 2);
-        pictured = pictured || mark == StartOfScan;
-        mark = mark == StartOfScan ? SkipScan(jpeg) : TakeMark(jpeg);
-    }
-    if (!pictured) jpeg.Refuse("a picture in the JPEG", "none");
 }
 
 }  // namespace

@@ -90,11 +90,17 @@ std::string Bytes(const char (&text)[Size]) {
 const std::string TinyGif =
     Bytes("GIF89a\1\0\1\0\0\0\0!\xFE\2ab\1c\0,\0\0\0\0\1\0\1\0\x80\0\0\0\xFF\xFF\xFF\2\2\x44\1\0;");
 
-// The blocks of a JPEG with nothing in them: a comment, a frame after fill bytes, a scan whose data hold a
-// byte like a mark's start and a restart, tables between two scans.
-const std::string HollowJpeg = Bytes(
-    "\xFF\xD8\xFF\xFE\0\4ab\xFF\xFF\xC1\0\3x\xFF\xDA\0\2\1\xFF\0\2\xFF\xD7\3\xFF\xFF\xC4\0\2\xFF\xDA\0\2\4"
-    "\xFF\xD9");
+// A grey JPEG of two blocks. Each table has one code, a zero: a number of 15 bits follows that of brightness,
+// the block ends with that of details. So a block is a zero, fifteen ones, a zero and seven bits to spare;
+// the FF among them is followed by a zero, and a restart parts the blocks.
+const std::string JpegTables = Bytes(
+    "\xFF\xD8\xFF\xFE\0\4ab\xFF\xFF\xC1\0\x0B\x08\0\x08\0\x10\1\1\x11\0"
+    "\xFF\xC4\0\x26\0\1\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x0F\x10\1\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0");
+const std::string JpegRestart = Bytes("\xFF\xDD\0\4\0\1");
+const std::string JpegScan = Bytes("\xFF\xDA\0\x08\1\1\0\0\x3F\0");
+const std::string JpegBlock = Bytes("\x7F\xFF\0\x7F");
+const std::string TinyJpeg =
+    JpegTables + JpegRestart + JpegScan + JpegBlock + "\xFF\xD0" + JpegBlock + "\xFF\xD9";
 
 TEST(PictureFiles, AreRefusedWhereverTheyAreCut) {
     struct Case {
@@ -102,7 +108,7 @@ TEST(PictureFiles, AreRefusedWhereverTheyAreCut) {
         const char* format;
         std::size_t known;  // bytes that tell the format
     };
-    const Case cases[] = {{TinyBitmap(), "BMP", 2}, {TinyGif, "GIF", 3}, {HollowJpeg, "JPEG", 1}};
+    const Case cases[] = {{TinyBitmap(), "BMP", 2}, {TinyGif, "GIF", 3}, {TinyJpeg, "JPEG", 1}};
     for (const Case& c : cases) {
         const auto errorOf = [&](const std::string& content) {
             return ErrorOf([&] { CheckPictureBytes(content, "\\pic\\x"); });
@@ -115,6 +121,7 @@ TEST(PictureFiles, AreRefusedWhereverTheyAreCut) {
                                                             c.format + ", found the end of the file");
     }
     EXPECT_EQ(DecodePicture(TinyGif, "tiny.gif").Pixel(0, 0), Black);
+    EXPECT_EQ(DecodePicture(TinyJpeg, "tiny.jpg").Bounds(), (Rectangle{0, 0, 16, 8}));
 }
 
 TEST(PictureFiles, WhatTheGameCantShowIsNamed) {
@@ -136,11 +143,26 @@ TEST(PictureFiles, WhatTheGameCantShowIsNamed) {
         {gif, "expected up to 2048 pixels either way, found 2049 by 1"},
         {Bytes("GIF89a\1\0\1\0\0\0\0;"), "byte 14: expected a picture in the GIF, found none"},
         {Bytes("GIF89a\1\0\1\0\0\0\0?"), "byte 14: expected a block of a GIF, found the code 63"},
-        {jpeg + Bytes("\xC2\0\2\xFF\xDA\0\2\xFF\xD9"),
-         "byte 4: expected a baseline JPEG, found a progressive one"},
+        {jpeg + "\xC2", "byte 4: expected a baseline JPEG, found a progressive one"},
         {jpeg + "\xC9", "byte 4: expected a baseline JPEG, found another kind"},
         {jpeg + "\xD9", "byte 4: expected a picture in the JPEG, found none"},
         {jpeg + Bytes("\xDB\0\2\1"), "byte 7: expected a mark of a JPEG, found the code 1"},
+        {jpeg + Bytes("\xC4\0\x13\0") + std::string(16, '\x10'),
+         "byte 23: expected up to 255 Huffman codes, found 256"},
+        {jpeg + Bytes("\xC4\0\x13\0\1\1\3") + std::string(13, '\0'),
+         "byte 23: expected Huffman codes of which none begins another, found others"},
+        {jpeg + Bytes("\xC4\0\x13\4"), "byte 7: expected a place of a Huffman table, found another"},
+        {jpeg + Bytes("\xC0\0\x0B\x08\0\1\0\1\1\1\x15\0"),
+         "byte 14: expected 1 to 4 blocks either way, found others"},
+        {JpegTables + JpegRestart + JpegScan + JpegBlock + "\xFF\xD9",
+         "byte 84: expected a restart of the picture's data, found none"},
+        {JpegTables + JpegRestart + JpegScan + "\x7F\xFF\xD9",
+         "byte 81: expected more of the picture's data, found a mark"},
+        {JpegTables + JpegScan + JpegBlock + Bytes("\x7F\xFF\0"),
+         "byte 79: expected a Huffman code, found another"},
+        {JpegTables + JpegScan + Bytes("\x7F\xFF\0\x3F\xFF\0\xBF\xFF\xD9"),
+         "byte 79: expected a brightness of 16 bits, found 65534"},
+        {jpeg + Bytes("\xDA\0\x08\1\1\0\0\x3F\0"), "byte 9: expected a component of the JPEG, found another"},
         {"\xFF\xFF\xD8\xFF\xC2", "byte 3: expected the start of a JPEG, found another mark"},
     };
     for (const Case& c : cases)
