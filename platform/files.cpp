@@ -193,7 +193,10 @@ std::string TextReader::ReadLine() {
         ++column;
     }
     std::string text = content.substr(start, position - start);
-    if (!AtEnd()) ReadLineEnd("the end of the line");
+    if (!AtEnd())
+        ReadLineEnd("the end of the line");
+    else if (text.ends_with('\r'))  // half an end
+        text.pop_back();
     return text;
 }
 

@@ -35,9 +35,8 @@ std::string Shown(const std::string& text) {
 // What is shown of a line: some 200 bytes, those before the fault among them.
 void TakeText(const std::string& line, Finding& finding) {
     constexpr std::size_t Most = 200, Before = 100;
-    const auto column = static_cast<std::size_t>(finding.column);
-    const std::size_t start =
-        line.size() > Most && column > Before ? WholeCharacters(line, column - Before) : 0;
+    const auto at = static_cast<std::size_t>(finding.column) - 1;
+    const std::size_t start = line.size() > Most && at > Before ? WholeCharacters(line, at - Before) : 0;
     const std::string_view rest = std::string_view(line).substr(start);
     finding.text = rest.substr(0, WholeCharacters(rest, Most));
     finding.textColumn = static_cast<int>(start) + 1;
