@@ -9,6 +9,7 @@
 #include "data/weapons_file.h"
 #include "field/geometry.h"
 #include "platform/files.h"
+#include "platform/quoted.h"
 #include "state/state.h"
 
 namespace {
@@ -16,11 +17,10 @@ namespace {
 constexpr const char* RosterFile = "\\dat\\save.dat";
 constexpr const char* StoreFile = "\\dat\\apc.dat";
 constexpr int HeaderRecord = 1;
-constexpr std::size_t PileCountAt = PlaceItemsAt + 10;  // in the header of a map's things: the label's count
 constexpr int RosterDurab = 270;  // every thing of the roster is in this condition, whatever the file says
 
 void CheckKey(const Record& record, std::size_t offset, const std::string& key, bool known) {
-    if (!key.empty() && !known) record.Refuse(offset, "expected the key of a thing, found \"" + key + "\"");
+    if (!key.empty() && !known) record.Refuse(offset, "expected the key of a thing, found " + Quoted(key));
 }
 
 bool IsItemKind(const std::string& key) {
@@ -81,11 +81,7 @@ void LoadStore() {
 }
 
 void SaveStore() {
-    Record header(PlaceLength, "dat/apc.dat: record 1");
-    InvItem label;
-    label.name = "apc";
-    label.count = teamLast[PileList] + 1;
-    WriteFields(header, PlaceItemsAt, label);
+    Record header = PlaceHeader("apc", teamLast[PileList] + 1);
     Record things(PlaceLength, "dat/apc.dat: record 2");
     for (int place = 0; place < CellItemSlots; ++place)
         WriteFields(things, PlaceItemAt(place), storeItems[place]);
@@ -101,7 +97,7 @@ void LoadGroundItems(const std::string& name) {
     const Record header = file.ReadCounted(HeaderRecord, "the header");
     ReadFields(header, PlaceItemsAt, label);
     if (label.count > MaxPiles)
-        header.Refuse(PileCountAt,
+        header.Refuse(PlaceCountAt,
                       "expected up to " + std::to_string(MaxPiles) + " places with things, found " +
                           std::to_string(label.count),
                       Fault::Subscript);

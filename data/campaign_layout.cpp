@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "platform/code_page.h"
+#include "platform/quoted.h"
 #include "platform/run_time_error.h"
 
 namespace {
@@ -62,6 +63,14 @@ void WriteFields(Record& record, std::size_t base, const Unit& soldier) {
     WriteAll(std::span<const FieldLayout<Unit>>(SoldierFields), record, base, soldier);
 }
 
+Record PlaceHeader(const std::string& label, int count) {
+    const FieldLayout<InvItem>& name = ItemFields[0];
+    Record header(PlaceLength, "the header of \"" + label + "\"");
+    header.WriteText(PlaceItemsAt + name.offset, name.textLength, label);
+    header.WriteByte(PlaceCountAt, count);
+    return header;
+}
+
 std::string TrimBlanks(const std::string& text) {
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
@@ -70,7 +79,7 @@ std::string PadField(const std::string& text, const std::string& current) {
     constexpr std::size_t Margin = 2;
     const std::size_t length = ToCodePage(text).size();
     if (length > current.size() + Margin)
-        throw RunTimeError(Fault::Overflow, "\"" + text + "\" is longer than its field of " +
+        throw RunTimeError(Fault::Overflow, Quoted(text) + " is longer than its field of " +
                                                 std::to_string(current.size()) + " characters");
     return text + std::string(current.size() + Margin - length, ' ');
 }

@@ -10,10 +10,11 @@
 #include "platform/files.h"
 #include "state/state.h"
 
-constexpr std::size_t ItemLength = 37;     // bytes of one thing
-constexpr std::size_t RosterLength = 882;  // bytes of one soldier's record
-constexpr std::size_t PlaceLength = 1112;  // bytes of one place with its things
-constexpr std::size_t PlaceItemsAt = 2;    // after the place's column and row
+constexpr std::size_t ItemLength = 37;                   // bytes of one thing
+constexpr std::size_t RosterLength = 882;                // bytes of one soldier's record
+constexpr std::size_t PlaceLength = 1112;                // bytes of one place with its things
+constexpr std::size_t PlaceItemsAt = 2;                  // after the place's column and row
+constexpr std::size_t PlaceCountAt = PlaceItemsAt + 10;  // in the header of places: how many follow
 constexpr std::size_t RosterItemsAt = 66;
 constexpr int RosterItems = 22;          // slots 0 to 21 are in the roster
 constexpr std::size_t RosterLastAt = 2;  // in the header record: the last soldier's place
@@ -84,6 +85,10 @@ void ReadFields(const Record& record, std::size_t base, Unit& soldier);
 /// Fields into a record, beginning at `base`.
 void WriteFields(Record& record, std::size_t base, const InvItem& item);
 void WriteFields(Record& record, std::size_t base, const Unit& soldier);
+
+/// The header of a file of places: a label and how many places follow, as a thing's name and count. All else
+/// means nothing and is zero.
+Record PlaceHeader(const std::string& label, int count);
 
 /// Cuts trailing blanks; a text of blanks alone becomes empty.
 std::string TrimBlanks(const std::string& text);

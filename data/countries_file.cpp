@@ -3,15 +3,16 @@
 #include <cstddef>
 
 #include "platform/files.h"
+#include "platform/quoted.h"
 #include "state/state.h"
 
 namespace {
 
-// A code is also a picture's file name, so it holds letters alone.
+// A code is also a picture's file name.
 bool IsCode(const std::string& text) {
     for (const char c : text)
         if (!((c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'))) return false;
-    return text.size() >= 2;
+    return !text.empty();
 }
 
 }  // namespace
@@ -22,15 +23,16 @@ void LoadCountries() {
     while (!file.AtEnd()) {
         const int line = file.Line();
         const std::string code = file.ReadLine();
-        if (!IsCode(code)) file.RefuseAt(line, 1, "expected a country's code, found \"" + code + "\"");
+        if (!IsCode(code))
+            file.RefuseAt(line, 1, "expected a country's code, letters alone, found " + Quoted(code));
         const std::string name = file.AtEnd() ? "" : file.ReadLine();
         if (name.empty())
-            file.RefuseAt(line + 1, 1, "expected the name of the country \"" + code + "\", found none");
+            file.RefuseAt(line + 1, 1, "expected the name of the country " + Quoted(code) + ", found none");
         countryList.push_back(code);
         countryList.push_back(name);
     }
-    file.CheckLastLineEnd();
-    if (countryList.empty()) file.Refuse("expected a country's code, found the end of the file");
+    if (countryList.empty())
+        file.Refuse("expected a country's code, letters alone, found the end of the file");
 }
 
 std::vector<std::string> CountryCodes() {

@@ -1,11 +1,13 @@
-// The countries file: pairs of lines, a code and the country's name.
+// The countries file: pairs of lines, a code, which is letters alone (A to Z, a to z), and the country's
+// name.
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-/// Reads "\dat\countries.dat" into countryList. Throws RunTimeError with the line of an empty code or name.
+/// Reads "\dat\countries.dat" into countryList. The last line may lack its end. Throws RunTimeError with line
+/// and column of a code that isn't letters or has no name, and for a file without a country.
 void LoadCountries();
 
 /// All codes, in the file's order.

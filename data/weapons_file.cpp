@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "platform/quoted.h"
 
 namespace {
 
@@ -71,6 +72,8 @@ class Row {
         for (int pass = 0; pass < TabPasses; ++pass)
             placed = HalveTabs(placed);
         Split(placed);
+        // A column is never empty but where the file was cut within its last row.
+        if (!reader.LineEnded() && columns.back().text.empty()) columns.pop_back();
         if (columns.size() < ColumnCount)
             file.RefuseAt(line, static_cast<int>(text.size()) + 1,
                           "expected 20 columns, found " + std::to_string(columns.size()));
@@ -124,7 +127,7 @@ class Row {
     }
 
     [[noreturn]] void Refuse(std::size_t column, const std::string& expected) const {
-        file.RefuseAt(line, columns[column].start, expected + ", found \"" + Text(column) + "\"");
+        file.RefuseAt(line, columns[column].start, expected + ", found " + Quoted(Text(column)));
     }
 
     const TextReader& file;
@@ -148,7 +151,8 @@ WeaponInfo ReadRow(const Row& row) {
         weapon.*number.field = row.Number(number.column, number.name);
     weapon.country = row.TextOr(CountryColumn, "void");
     weapon.title = row.TextOr(TitleColumn, "");
-    weapon.fullName = row.TextOr(FullNameColumn, weapon.title);
+    weapon.fullName = row.TextOr(FullNameColumn, "");
+    if (weapon.fullName.empty()) weapon.fullName = weapon.title;
     return weapon;
 }
 
@@ -162,14 +166,12 @@ void ReadWeapons() {
         const std::string text = file.ReadLine();
         if (!text.empty() && text[0] != '#') weaponTable.push_back(ReadRow(Row(file, line, text)));
     }
-    file.CheckLastLineEnd();
     if (WeaponIndex("hand") < 0) file.Refuse("expected a row named \"hand\", found none");
 }
 
-const WeaponInfo& WeaponInfoByName(std::string_view key) {
-    static const WeaponInfo none;
+WeaponInfo WeaponInfoByName(std::string_view key) {
     const int index = WeaponIndex(key);
-    return index < 0 ? none : weaponTable[static_cast<std::size_t>(index)];
+    return index < 0 ? WeaponInfo() : weaponTable[static_cast<std::size_t>(index)];
 }
 
 std::string_view ItemClass(std::string_view key) {

@@ -73,7 +73,8 @@ struct Axis {
     }
 };
 
-// One fan: the steps of all its rays, and the rays as parts of them.
+// One fan: the steps of all its rays, and the rays as parts of them. A copy's rays would be parts of another
+// fan, so it can only be moved, which leaves the steps where they are.
 struct Fan {
     std::vector<FanStep> steps;
     std::vector<Ray> rays;
@@ -89,6 +90,11 @@ struct Fan {
         for (std::size_t ray = 0; ray + 1 < starts.size(); ++ray)
             rays.emplace_back(steps.data() + starts[ray], starts[ray + 1] - starts[ray]);
     }
+    Fan(const Fan&) = delete;
+    Fan& operator=(const Fan&) = delete;
+    Fan(Fan&&) = default;
+    Fan& operator=(Fan&&) = default;
+    ~Fan() = default;
 };
 
 // All fans of one facing: the trigonometry is worked out once.
@@ -111,7 +117,7 @@ class FacingFans {
     std::vector<Sample> samples;
     Axis<FieldWidth> columns;
     Axis<FieldHeight> rows;
-    std::vector<Fan> fans;  // moved as a whole, so that the rays stay where they point
+    std::vector<Fan> fans;
 };
 
 }  // namespace

@@ -55,9 +55,10 @@ class OpenFile {
     OpenFile& operator=(const OpenFile&) = delete;
 
     bool Good() const { return descriptor >= 0; }
-    bool Read(std::string& content) const {
+    // Stops once there are more than `most` bytes.
+    bool Read(std::string& content, std::size_t most) const {
         constexpr std::size_t Chunk = 1 << 14;
-        for (;;) {
+        while (content.size() <= most) {
             const std::size_t before = content.size();
             content.resize(before + Chunk);
             const ssize_t count = ::read(descriptor, content.data() + before, Chunk);
@@ -65,6 +66,7 @@ class OpenFile {
             if (count < 0 && errno == EINTR) continue;
             if (count <= 0) return count == 0;
         }
+        return true;
     }
     bool Write(std::string_view content) const {
         while (!content.empty()) {
@@ -177,14 +179,16 @@ bool FileExists(std::string_view name) {
     return IsFile(ProgramPath(name));
 }
 
-std::string ReadWholeFile(std::string_view name) {
+std::string ReadWholeFile(std::string_view name, std::size_t most) {
     const std::filesystem::path path = ProgramPath(name);
     if (!FileExists(name)) throw RunTimeError(Fault::FileMissing, ShownName(name) + Obstacle(path));
     std::string content;
     const OpenFile file(path, O_RDONLY);
-    if (!file.Good() || !file.Read(content))
+    if (!file.Good() || !file.Read(content, most))
         throw RunTimeError(Fault::FileMissing,
                            ShownName(name) + ": it can't be read: " + std::strerror(errno));
+    if (content.size() > most)
+        ThrowBadData(ShownName(name), "expected up to " + std::to_string(most) + " bytes, found more");
     return content;
 }
 
@@ -206,7 +210,7 @@ void ReplaceFile(std::string_view name, std::string_view content) {
 }
 
 TextReader::TextReader(std::string_view fileName)
-    : name(ShownName(fileName)), content(ReadWholeFile(fileName)) {}
+    : name(ShownName(fileName)), content(ReadWholeFile(fileName, MaxDataFile)) {}
 
 bool TextReader::AtLineEnd() const {
     return AtEnd() || content[position] == '\n' || content.compare(position, 2, "\r\n") == 0;
@@ -220,8 +224,8 @@ int TextReader::ReadCharacter(std::string_view expected) {
 }
 
 void TextReader::ReadLineEnd(std::string_view expected) {
-    if (AtEnd()) return;
-    if (!AtLineEnd()) Refuse("expected " + std::string(expected));
+    if (AtEnd() || !AtLineEnd())
+        Refuse("expected " + std::string(expected) + (AtEnd() ? ", found the end of the file" : ""));
     position += content[position] == '\r' ? 2 : 1;
     ++line;
     column = 1;
@@ -234,12 +238,11 @@ std::string TextReader::ReadLine() {
         ++column;
     }
     std::string text = content.substr(start, position - start);
-    ReadLineEnd("the end of the line");
+    if (!AtEnd())
+        ReadLineEnd("the end of the line");
+    else if (text.ends_with('\r'))  // half an end
+        text.pop_back();
     return text;
-}
-
-void TextReader::CheckLastLineEnd() const {
-    if (column > 1) Refuse("expected the end of the line, found the end of the file");
 }
 
 void TextReader::Refuse(const std::string& problem) const {
@@ -280,7 +283,7 @@ void Record::Refuse(std::size_t offset, const std::string& problem, Fault fault)
 }
 
 RecordReader::RecordReader(std::string_view fileName, std::size_t recordLength)
-    : name(ShownName(fileName)), content(ReadWholeFile(fileName)), length(recordLength) {}
+    : name(ShownName(fileName)), content(ReadWholeFile(fileName, MaxDataFile)), length(recordLength) {}
 
 Record RecordReader::Read(int number) const {
     const std::string place = name + ": record " + std::to_string(number);
@@ -314,7 +317,7 @@ std::string CommaReader::ReadValue(std::string_view expected) {
         else if (!ended)
             value.push_back(next);
     }
-    if (!ended) text.ReadLineEnd("the end of the line");
+    if (!ended && !text.AtEnd()) text.ReadLineEnd("the end of the line");
     value.erase(value.find_last_not_of(' ') + 1);
     value.erase(0, value.find_first_not_of(' '));
     return value;

@@ -33,8 +33,13 @@ std::string ShownName(std::string_view name);
 
 bool FileExists(std::string_view name);
 
-/// The whole content. Throws FileMissing.
-std::string ReadWholeFile(std::string_view name);
+// The most bytes that a file may have, far above those of the game's own: a file of gigabytes isn't read.
+constexpr std::size_t MaxDataFile = std::size_t{1} << 20;      // texts, records; the largest has 22,240
+constexpr std::size_t MaxPictureFile = std::size_t{20} << 20;  // 2048 by 2048 pixels of 32 bits have 16 MiB
+constexpr std::size_t MaxFile = std::size_t{64} << 20;         // sounds, and all else
+
+/// The whole content. Throws FileMissing, and BadData for more than `most` bytes, of which no more are read.
+std::string ReadWholeFile(std::string_view name, std::size_t most = MaxFile);
 
 /// Puts `content` in the place of the file's old content so that at any moment, a full disk, a power cut or a
 /// kill included, the file is either the old one or the new one, whole. The new one has the old one's
@@ -54,15 +59,15 @@ class TextReader {
     /// `expected` should stand there.
     int ReadCharacter(std::string_view expected);
 
-    /// Goes past the line's end that must stand here. At the end of the file it does nothing.
+    /// Goes past the line's end that must stand here. Throws BadData where there is none, saying that
+    /// `expected` should stand there.
     void ReadLineEnd(std::string_view expected);
 
-    /// The rest of the line, without its end, which is passed.
+    /// The rest of the line, without its end, which is passed. The file's last line may lack one.
     std::string ReadLine();
 
-    /// At the end of the file: throws BadData unless its last line was ended, so that a file cut short is
-    /// noticed.
-    void CheckLastLineEnd() const;
+    /// Whether the line that was read last had an end.
+    bool LineEnded() const { return column == 1; }
 
     /// 1 for the first line.
     int Line() const { return line; }

@@ -3,6 +3,7 @@
 #include <array>
 #include <sstream>
 
+#include "platform/quoted.h"
 #include "platform/run_time_error.h"
 
 namespace {
@@ -50,7 +51,7 @@ InputEvent EventFromText(std::string_view line) {
         event.kind = entry.kind;
         return event;
     }
-    throw RunTimeError(Fault::BadData,
-                       "expected an event as \"Click frmField.cmdNextTurn -1 0 0 0 0\", found \"" +
-                           std::string(line) + "\"");
+    throw RunTimeError(
+        Fault::BadData,
+        "expected an event as \"Click frmField.cmdNextTurn -1 0 0 0 0\", found " + Quoted(line));
 }

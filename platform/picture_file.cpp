@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/files.h"
+#include "platform/picture_bytes.h"
 #include "platform/run_time_error.h"
 
 #define STB_IMAGE_IMPLEMENTATION
@@ -33,7 +34,9 @@ constexpr int MaxSide = 2048;  // pixels; the largest of the game's pictures has
 }
 
 [[noreturn]] void RefuseFormat(std::string_view name) {
-    Refuse(name, std::string("expected a picture (BMP, GIF or JPEG), found: ") + stbi_failure_reason());
+    const char* const reason = stbi_failure_reason();  // none for a GIF that ends before its picture
+    Refuse(name, std::string("expected a picture (BMP, GIF or JPEG), found ") +
+                     (reason == nullptr ? "none" : reason));
 }
 
 // Before anything is decoded, so that a few bytes of a header can't ask for gigabytes.
@@ -48,38 +51,13 @@ void CheckSize(const stbi_uc* bytes, int length, std::string_view name) {
                          std::to_string(width) + " by " + std::to_string(height));
 }
 
-// A JPEG's table of Huffman codes tells how many codes there are of each length. The decoder has room for
-// 256, takes the last of them for a mark of its own, and doesn't count. Where it looks for tables depends on
-// how far it gets, so every place that could begin one is looked at.
-void CheckHuffmanTables(std::string_view content, std::string_view name) {
-    constexpr std::string_view TableMark = "\xFF\xC4";
-    constexpr std::size_t TableHead = 17;  // which table it is, then the numbers of codes
-    constexpr std::size_t MaxCodes = 255;
-    const auto byte = [content](std::size_t at) -> std::size_t {
-        return at < content.size() ? static_cast<unsigned char>(content[at]) : 0;
-    };
-    for (std::size_t mark = content.find(TableMark); mark != content.npos;
-         mark = content.find(TableMark, mark + 1)) {
-        const std::size_t end = mark + 2 + (byte(mark + 2) << 8 | byte(mark + 3));
-        for (std::size_t table = mark + 4; table < end;) {
-            std::size_t codes = 0;
-            for (std::size_t i = 1; i < TableHead; ++i)
-                codes += byte(table + i);
-            if (codes > MaxCodes)
-                Refuse(name, "byte " + std::to_string(table) + ": expected up to " +
-                                 std::to_string(MaxCodes) + " Huffman codes, found " + std::to_string(codes));
-            table += TableHead + codes;
-        }
-    }
-}
-
 }  // namespace
 
 Picture DecodePicture(std::string_view content, std::string_view name) {
     constexpr int Channels = 4;
     const auto* const bytes = reinterpret_cast<const stbi_uc*>(content.data());
     const int length = static_cast<int>(content.size());
-    if (content.starts_with('\xFF')) CheckHuffmanTables(content, name);
+    CheckPictureBytes(content, name);
     CheckSize(bytes, length, name);
     int width = 0;
     int height = 0;
@@ -105,5 +83,6 @@ PictureRef ReadPictureFile(std::string_view name) {
     }
     const auto known = read.find(name);
     if (known != read.end()) return known->second;
-    return read[std::string(name)] = std::make_shared<Picture>(DecodePicture(ReadWholeFile(name), name));
+    return read[std::string(name)] =
+               std::make_shared<Picture>(DecodePicture(ReadWholeFile(name, MaxPictureFile), name));
 }

@@ -1,6 +1,7 @@
 #include "blocks.h"
 
 #include "nearest.h"
+#include "platform/quoted.h"
 
 namespace {
 
@@ -24,14 +25,14 @@ std::vector<Block> ReadBlocks(const std::vector<std::string>& lines, const std::
         if (first.text == headWord) {
             blocks.push_back({line, {}});
         } else if (blocks.empty()) {
-            faults.Add({first.place, "\"" + first.text + "\" stands outside a block",
-                        "\"" + headWord + "\" first", Nearest(first.text, {headWord})});
+            faults.Add({first.place, Quoted(first.text) + " stands outside a block",
+                        Quoted(headWord) + " first", Nearest(first.text, {headWord})});
         } else {
             blocks.back().lines.push_back(line);
         }
     }
     if (blocks.empty())
-        faults.Add({{number, 1}, "the source has no block", "at least one \"" + headWord + "\""});
+        faults.Add({{number, 1}, "the source has no block", "at least one " + Quoted(headWord)});
     return blocks;
 }
 
@@ -42,5 +43,5 @@ const SourceWord& LineWords::Take(const std::string& expected) {
 
 void LineWords::Finish() const {
     if (!AtEnd())
-        throw SourceError(Place(), "\"" + line.words[next].text + "\" is too much", "the end of the line");
+        throw SourceError(Place(), Quoted(line.words[next].text) + " is too much", "the end of the line");
 }

@@ -5,11 +5,13 @@
 #include "data/tables.h"
 #include "data/weapons_file.h"
 #include "nearest.h"
+#include "platform/quoted.h"
 #include "source_text.h"
 
 namespace {
 
 constexpr int MaxAttribute = 100;
+constexpr int MinAgility = 2;  // a turn's time is twice the agility, and who has under 4 can't act
 constexpr int MaxDurab = 1000;
 constexpr int LastLongSlot = 3;  // long things fit the hand and the long places
 constexpr int HeadSlot = 4, BodySlot = 5, BackSlot = 6;
@@ -21,7 +23,7 @@ const SoldierNumber Numbers[] = {
     {"serial",        "serialNo",      &Unit::serialNo,        0, 32767},
     {"vitality",      "vitality",      &Unit::vitality,        1, MaxAttribute},
     {"strength",      "strength",      &Unit::strength,        1, MaxAttribute},
-    {"agility",       "agility",       &Unit::agility,         1, MaxAttribute},
+    {"agility",       "agility",       &Unit::agility,         MinAgility, MaxAttribute},
     {"perception",    "perception",    &Unit::perception,      1, MaxAttribute},
     {"intelligence",  "intelligence",  &Unit::intelligence,    1, MaxAttribute},
     {"mood",          "mood",          &Unit::mood,            1, MaxAttribute},
@@ -56,7 +58,7 @@ struct Feed {
 };
 
 std::string ShownKey(const std::string& key) {
-    return key.empty() ? "no kind" : "\"" + key + "\"";
+    return key.empty() ? "no kind" : Quoted(key);
 }
 
 void CheckFeed(const Feed& feed, const std::string& thing, std::vector<Flaw>& flaws) {
@@ -85,8 +87,7 @@ void CheckSize(const WeaponInfo& row, int capacity, std::vector<Flaw>& flaws) {
         if (size == capacity && size != 0) return;
         if (size != 0) sizes.push_back(std::to_string(size));
     }
-    flaws.push_back({"capMain",
-                     "\"" + row.weaponClass + "\" doesn't come in size " + std::to_string(capacity),
+    flaws.push_back({"capMain", Quoted(row.weaponClass) + " doesn't come in size " + std::to_string(capacity),
                      "one of " + JoinWords(sizes), ""});
 }
 
@@ -107,7 +108,7 @@ std::vector<Flaw> EmptySlotFlaws(const InvItem& item) {
     std::vector<Flaw> flaws;
     for (const FeedKey& feed : {FeedKey{"ammoMain", item.ammoMain}, FeedKey{"ammoSecond", item.ammoSecond}}) {
         if (!feed.key.empty() && ItemKindByName(feed.key).name.empty())
-            flaws.push_back({feed.field, "there is no feed \"" + feed.key + "\"", "a built-in kind", ""});
+            flaws.push_back({feed.field, "there is no feed " + Quoted(feed.key), "a built-in kind", ""});
     }
     return flaws;
 }
@@ -122,23 +123,24 @@ std::vector<Flaw> ThingFlaws(const InvItem& item) {
     if (item.name.empty()) return EmptySlotFlaws(item);
     const WeaponInfo& row = WeaponInfoByName(item.name);
     if (row.name.empty())
-        return {{"name", "there is no thing \"" + item.name + "\"", "a name of weapons.dat",
+        return {{"name", "there is no thing " + Quoted(item.name), "a name of weapons.dat",
                  Nearest(item.name, RowNames())}};
     if (row.kind == UnreadRow) return {};
     std::vector<Flaw> flaws;
+    const std::string thing = Shortened(item.name);
     if (item.count != row.unitCount)
-        flaws.push_back({"count", std::to_string(item.count) + " is no count of " + item.name,
+        flaws.push_back({"count", std::to_string(item.count) + " is no count of " + thing,
                          std::to_string(row.unitCount), ""});
     if (item.durab < 0 || item.durab > MaxDurab)
         flaws.push_back({"durab", std::to_string(item.durab) + " is no condition",
                          "a number from 0 to " + std::to_string(MaxDurab), ""});
     CheckFeed(
         {"ammoMain", "capMain", "roundsMain", item.ammoMain, row.weaponClass, item.capMain, item.roundsMain},
-        item.name, flaws);
+        thing, flaws);
     CheckSize(row, item.capMain, flaws);
     CheckFeed({"ammoSecond", "capSecond", "roundsSecond", item.ammoSecond, row.ammoSecond, item.capSecond,
                item.roundsSecond},
-              item.name, flaws);
+              thing, flaws);
     return flaws;
 }
 
@@ -146,11 +148,11 @@ std::vector<Flaw> SlotFlaws(int slot, const InvItem& item) {
     std::vector<Flaw> flaws;
     if (item.name.empty()) return flaws;
     if (WeaponInfoByName(item.name).unitCount == 1 && slot > LastLongSlot)
-        flaws.push_back({"name", item.name + " is too long for slot " + std::to_string(slot),
+        flaws.push_back({"name", Shortened(item.name) + " is too long for slot " + std::to_string(slot),
                          "one of the slots 0 to 3", ""});
     for (const WornPlace& worn : WornPlaces) {
         if (slot == worn.slot && item.ammoMain != worn.kind)
-            flaws.push_back({"name", item.name + " doesn't go to slot " + std::to_string(slot),
+            flaws.push_back({"name", Shortened(item.name) + " doesn't go to slot " + std::to_string(slot),
                              std::string("a ") + worn.kind, ""});
     }
     return flaws;
@@ -170,7 +172,7 @@ std::vector<Flaw> PocketFlaws(const Unit& soldier) {
 
 std::vector<Flaw> CountryFlaws(const std::string& code) {
     if (code.size() == CountryLength && !CountryName(code).empty()) return {};
-    return {{"country", "there is no country \"" + code + "\"", "a code of countries.dat",
+    return {{"country", "there is no country " + Quoted(code), "a code of countries.dat",
              Nearest(code, CountryCodes())}};
 }
 

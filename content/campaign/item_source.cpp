@@ -4,6 +4,7 @@
 
 #include "campaign_rules.h"
 #include "data/weapons_file.h"
+#include "platform/quoted.h"
 
 namespace {
 
@@ -27,7 +28,7 @@ void ReadFeed(LineWords& line, const std::string& fields, std::string& kind, u8&
     const SourceWord& word = line.Take("capacity/rounds");
     const std::size_t slash = word.text.find('/');
     if (slash == std::string::npos)
-        throw SourceError(word.place, "\"" + word.text + "\" is no feed", "capacity/rounds, as 31/29");
+        throw SourceError(word.place, Quoted(word.text) + " is no feed", "capacity/rounds, as 31/29");
     const SourcePlace after{word.place.line, word.place.column + static_cast<int>(slash) + 1};
     capacity = NumberOf({word.text.substr(0, slash), word.place}, 0, MaxByte, "capacity");
     rounds = NumberOf({word.text.substr(slash + 1), after}, 0, MaxByte, "number of rounds");

@@ -38,24 +38,20 @@ Record PlaceRecord(const ThingPlace& place) {
     return record;
 }
 
-// The header's first item carries a label and the number of records that follow.
-Record PlaceHeader(const std::string& label, std::size_t count) {
-    ThingPlace header;
-    InvItem item;
-    item.name = label;
-    item.count = count;
-    header.items.push_back(item);
-    return PlaceRecord(header);
+// A label in the place of the name; what means nothing is zero.
+Record RosterHeader(std::size_t soldiers) {
+    constexpr std::size_t NameAt = 3, NameLength = 30;
+    Record header(RosterLength, "the header of the roster");
+    header.WriteByte(RosterLastAt, static_cast<int>(soldiers) - 1);
+    header.WriteText(NameAt, NameLength, "roster");
+    return header;
 }
 
 }  // namespace
 
 std::string RosterBytes(const std::vector<Unit>& soldiers) {
-    Unit header;
-    header.name = "roster";
-    header.rank = soldiers.size() - 1;  // the game takes the place of the last soldier from here
     std::string bytes;
-    Append(bytes, SoldierRecord(header));
+    Append(bytes, RosterHeader(soldiers.size()));
     for (std::size_t place = 0; place < static_cast<std::size_t>(RosterSize); ++place) {
         Append(bytes, SoldierRecord(place < soldiers.size() ? soldiers[place] : Unit()));
     }
@@ -71,7 +67,7 @@ std::string StoreBytes(const ThingPlace& store) {
 
 std::string GroundBytes(const std::vector<ThingPlace>& places) {
     std::string bytes;
-    Append(bytes, PlaceHeader("ground", places.size()));
+    Append(bytes, PlaceHeader("ground", static_cast<int>(places.size())));
     for (const ThingPlace& place : places)
         Append(bytes, PlaceRecord(place));
     return bytes;

@@ -10,6 +10,7 @@
 #include "item_source.h"
 #include "nearest.h"
 #include "platform/code_page.h"
+#include "platform/quoted.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ const std::vector<std::string> StanceWords = {"prone", "crouch", "stand", "run"}
 constexpr std::size_t NameLength = 30;
 std::string TextOf(const SourceWord& word, std::size_t length, const std::string& name) {
     if (word.text.size() != length) {
-        throw SourceError(word.place, "\"" + word.text + "\" is no " + name,
+        throw SourceError(word.place, Quoted(word.text) + " is no " + name,
                           std::to_string(length) + " characters");
     }
     return word.text;
@@ -117,7 +118,7 @@ void ReadKey(const SourceWord& word, LineWords& line, Told& told) {
         told.keys.insert(Nearest(word.text, known));
     const auto key = static_cast<std::size_t>(IndexOf(word, known, "key of a soldier"));
     if (!told.keys.insert(word.text).second)
-        throw SourceError(word.place, "\"" + word.text + "\" comes twice", "each key once");
+        throw SourceError(word.place, Quoted(word.text) + " comes twice", "each key once");
     if (key < WordKeys.size())
         ReadWordKey(static_cast<int>(key), line, told.entry);
     else
@@ -154,7 +155,7 @@ RosterEntry ReadSoldier(const Block& block, SourceFaults& faults) {
     }
     for (const std::string& key : AllKeys()) {
         if (!told.keys.contains(key))
-            faults.Add({block.head.words.front().place, "this soldier lacks \"" + key + "\"", "all keys"});
+            faults.Add({block.head.words.front().place, "this soldier lacks " + Quoted(key), "all keys"});
     }
     for (const Flaw& flaw : PocketFlaws(told.entry.soldier))
         faults.Add({told.slots[flaw.field], flaw.wrong, flaw.expected, flaw.meant});

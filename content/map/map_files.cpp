@@ -56,6 +56,10 @@ Values ReadValues(const std::string& layer, SourceFaults& faults) {
             faults.Add({{number, 1}, "a line too many", std::to_string(MapHeight) + " lines"});
         else
             ReadLine(text, number, values[static_cast<std::size_t>(number) - 1], faults);
+        if (end == layer.size())
+            faults.Add({{number, static_cast<int>(text.size()) + 1},
+                        "the file ends within a line",
+                        "the end of the line"});
         begin = end + 1;
     }
     if (number <= MapHeight)

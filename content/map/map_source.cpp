@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "map_files.h"
+#include "platform/quoted.h"
 
 namespace {
 
@@ -132,11 +133,11 @@ void ReadLegendLine(const std::string& text, int number, MapSource& map) {
     const SourceWord& key = line.Take("a glyph");
     const char glyph = key.text.front();
     if (key.text.size() != 1 || glyph <= ' ' || glyph > '~') {
-        throw SourceError(key.place, "\"" + key.text + "\" is no glyph", "one printable ASCII character");
+        throw SourceError(key.place, Quoted(key.text) + " is no glyph", "one printable ASCII character");
     }
     Glyph& entry = map.legend[static_cast<unsigned char>(glyph)];
     if (entry.defined)
-        throw SourceError(key.place, "glyph \"" + key.text + "\" comes twice", "each glyph once");
+        throw SourceError(key.place, "glyph " + Quoted(key.text) + " comes twice", "each glyph once");
     entry.defined = true;  // also when the rest has a fault
     entry = ReadGlyph(line);
 }

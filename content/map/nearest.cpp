@@ -24,6 +24,8 @@ std::string Nearest(std::string_view word, const std::vector<std::string>& words
     std::size_t least = std::max<std::size_t>(word.size() / 3, 1) + 1;
     std::string nearest;
     for (const std::string& candidate : words) {
+        const std::size_t longer = std::max(word.size(), candidate.size());
+        if (longer - std::min(word.size(), candidate.size()) >= least) continue;  // so many edits at least
         const std::size_t distance = EditDistance(word, candidate);
         if (distance >= least || distance == 0) continue;
         least = distance;

@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <tuple>
 
 #include "nearest.h"
+#include "platform/files.h"
+#include "platform/quoted.h"
 
 namespace {
 
@@ -23,7 +26,7 @@ void RefuseControlCharacters(std::string_view text, int line) {
 }  // namespace
 
 std::string FaultMessage(const std::string& wrong, const std::string& expected, const std::string& meant) {
-    return wrong + ", expected " + expected + (meant.empty() ? "" : ", did you mean \"" + meant + "\"?");
+    return wrong + ", expected " + expected + (meant.empty() ? "" : ", did you mean " + Quoted(meant) + "?");
 }
 
 SourceError::SourceError(SourcePlace at, const std::string& what, const std::string& instead,
@@ -43,6 +46,9 @@ std::vector<SourceError> SourceFaults::Sorted() const {
 }
 
 std::vector<std::string> ReadSourceLines(const std::string& path) {
+    std::error_code error;
+    if (std::filesystem::file_size(path, error) > MaxDataFile && !error)
+        throw std::runtime_error("expected up to " + std::to_string(MaxDataFile) + " bytes");
     std::ifstream file(path, std::ios::binary);
     if (!file) throw std::runtime_error("can't open " + path);
     std::vector<std::string> lines;
@@ -73,7 +79,7 @@ int NumberOf(const SourceWord& word, int low, int high, const std::string& name)
     const char* const end = word.text.data() + word.text.size();
     const auto [last, error] = std::from_chars(word.text.data(), end, value);
     if (error != std::errc{} || last != end || value < low || value > high) {
-        throw SourceError(word.place, "\"" + word.text + "\" is no " + name,
+        throw SourceError(word.place, Quoted(word.text) + " is no " + name,
                           "a number from " + std::to_string(low) + " to " + std::to_string(high));
     }
     return value;
@@ -89,7 +95,7 @@ std::string JoinWords(const std::vector<std::string>& list) {
 int IndexOf(const SourceWord& word, const std::vector<std::string>& list, const std::string& name) {
     const auto found = std::find(list.begin(), list.end(), word.text);
     if (found == list.end()) {
-        throw SourceError(word.place, "\"" + word.text + "\" is no " + name, "one of " + JoinWords(list),
+        throw SourceError(word.place, Quoted(word.text) + " is no " + name, "one of " + JoinWords(list),
                           Nearest(word.text, list));
     }
     return static_cast<int>(found - list.begin());

@@ -55,13 +55,41 @@ TEST_F(CampaignFilesTest, ASoldiersFieldsLieWhereTheFormatSays) {
     EXPECT_EQ(UnitTable[62].name, "") << "records beyond the end stay empty";
 }
 
+TEST_F(CampaignFilesTest, ValuesThatNoSoldierHasAreNamedWithRecordAndByte) {
+    struct Case {
+        std::size_t offset;
+        int value;
+        const char* error;
+    };
+    constexpr Case Cases[] = {
+        {2, 20, "record 1, byte 2: expected the last soldier's place, 0 to 19, found 20"},
+        {2, 19, "record 3: expected soldier 2 of 20, found the end of the file"},
+        {882 + 2, 23, ""},  // the highest rank, facing and stance
+        {882 + 56, 7, ""},
+        {882 + 57, 3, ""},
+        {882 + 2, 24, "record 2, byte 2: expected a number up to 23, found 24"},
+        {882 + 56, 8, "record 2, byte 56: expected a number up to 7, found 8"},
+        {882 + 57, 4, "record 2, byte 57: expected a number up to 3, found 4"},
+        {882 + 66, 'x', "record 2, byte 66: expected the key of a thing, found \"x\""},
+        {882 + 66 + 21 * 37 + 25, 'y', "record 2, byte 843: expected the key of a thing, found \"y\""},
+    };
+    for (const Case& c : Cases) {
+        std::string file(882 * 2, '\0');
+        file[c.offset] = static_cast<char>(c.value);
+        folder.Write("dat/save.dat", file);
+        const std::string place = *c.error == '\0' ? "" : "Run-time error 4: Bad data: dat/save.dat: ";
+        EXPECT_EQ(ErrorOf(LoadRoster), place + c.error);
+    }
+}
+
 TEST_F(CampaignFilesTest, AStoreSavedAndLoadedIsTheSame) {
     LoadStore();
     const std::string original = folder.Read("dat/apc.dat");
     teamLast[PileList] = 6;
     SaveStore();
     const std::string saved = folder.Read("dat/apc.dat");
-    EXPECT_EQ(saved.substr(2, 11), "apc       \x07") << "seven piles lie on the field";
+    EXPECT_EQ(saved.substr(0, 1112), std::string("\0\0apc       \x07", 13) + std::string(1112 - 13, '\0'))
+        << "seven piles lie on the field, and all else means nothing";
     EXPECT_EQ(saved.substr(1112), original.substr(1112)) << "the things are the same, byte for byte";
     InvItem item;
     item.name = item.ammoMain = "7ak";

@@ -1,6 +1,8 @@
 // Map layers: what a character becomes, what its cell stops and bears, landing spots, broken layers.
 #include "data/map.h"
 
+#include <map>
+
 #include "data/terrain.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"
@@ -37,31 +39,53 @@ class MapTest : public GameTest {
     }
 };
 
+// The tiles of a class from column 0 on. What they stop: a digit, "." for nothing. How strong they are: 5 and
+// 1 stand for themselves (1 for 10), and the letters for 30, 40, 80, 100, 140, 200 and 220 in turn.
 TEST_F(MapTest, ATileGivesACellItsStrengthAndWhatItStops) {
     struct Case {
-        int tileX, tileY, durab, block;
+        const char* name;
+        const char* stops;
+        const char* durab;
     };
-    constexpr Case Cases[] = {
-        {31, Surface, 200, 0},  {0, Water, 0, 1},       {12, Water, 0, 0},      {0, Trees, 0, 2},
-        {12, Trees, 0, 0},      {13, Trees, 0, 2},      {18, Trees, 0, 0},      {10, Wooden, 80, 3},
-        {11, Wooden, 5, 1},     {13, Wooden, 0, 0},     {19, Wooden, 10, 1},    {20, Wooden, 0, 0},
-        {10, Concrete, 220, 3}, {12, Concrete, 100, 1}, {15, Concrete, 140, 0}, {17, Concrete, 220, 1},
-        {18, Concrete, 220, 3}, {24, Concrete, 0, 0},   {12, Stone, 220, 3},    {14, Stone, 100, 3},
-        {16, Stone, 100, 0},    {19, Stone, 220, 0},    {16, Roads, 100, 0},    {17, Roads, 0, 0},
-        {0, Trenches, 0, 0},    {14, Prickles, 40, 1},  {17, Ships, 10, 1},     {17, Various, 0, 0},
-        {18, Various, 140, 3},  {25, Various, 140, 3},  {10, Highways, 100, 0}, {10, Fence, 30, 3},
-        {11, Fence, 0, 0},      {-23, Surface, 200, 0},  // below the blank characters are taken as they stand
+    constexpr Case Cases[TerrainCount] = {
+        {"surface", "...........................", "fffffffffffffffffffffffffff"},
+        {"water", "1............1.............", "..........................."},
+        {"trees", "2............2222..222.....", "..........................."},
+        {"wooden", "3333333333311...1111.......", "ccccccccccc55...1111......."},
+        {"concrete", "3333333333311...1133.......", "gggggggggggddeeeggggeeee..."},
+        {"stone", "333333333333333..33........", "gggggggggggggddddgggggggggg"},
+        {"roads", "...........................", "................d..d......."},
+        {"trenches", "...........................", "..........................."},
+        {"prickles", "111111111111111............", "bbbbbbbbbbbbbbb............"},
+        {"ships", "3333333333311...1111.......", "ccccccccccc55...1111......."},
+        {"various", "..................33333333.", "..................eeeeeeee."},
+        {"highways", "...........................", "ddddddddddd................"},
+        {"fence", "33333333333................", "aaaaaaaaaaa................"},
     };
-    int x = 0;
-    for (const Case& c : Cases)
-        Put(x++, 7, c.tileX, c.tileY);
+    constexpr int Tiles = 27;
+    const std::map<char, int> strengths = {{'.', 0},  {'5', 5},   {'1', 10},  {'a', 30},  {'b', 40},
+                                           {'c', 80}, {'d', 100}, {'e', 140}, {'f', 200}, {'g', 220}};
+    for (int tileY = 0; tileY < TerrainCount; ++tileY) {
+        EXPECT_STREQ(TerrainName(tileY), Cases[tileY].name);
+        for (int x = 0; x < Tiles; ++x)
+            Put(x, tileY, x, tileY);
+    }
+    Put(Tiles, 0, -23, Surface);  // codes under the blank's are taken as they stand
     ASSERT_EQ(Load(), "");
-    x = 0;
-    for (const Case& c : Cases) {
-        const Cell& cell = cellGrid[7][x++];
-        EXPECT_EQ(cell.tileX, c.tileX);
-        EXPECT_EQ(cell.durab, c.durab) << "class " << c.tileY << " tile " << c.tileX;
-        EXPECT_EQ(cell.block, c.block) << "class " << c.tileY << " tile " << c.tileX;
+    EXPECT_EQ(cellGrid[0][Tiles].tileX, -23);
+    for (int tileY = 0; tileY < TerrainCount; ++tileY) {
+        for (int x = 0; x < Tiles; ++x) {
+            if (tileY == Various && x == LandingMark) continue;
+            const Cell& cell = cellGrid[tileY][x];
+            EXPECT_EQ(cell.durab, strengths.at(Cases[tileY].durab[x])) << Cases[tileY].name << " " << x;
+            EXPECT_EQ(cell.block, Cases[tileY].stops[x] == '.' ? 0 : Cases[tileY].stops[x] - '0')
+                << Cases[tileY].name << " " << x;
+        }
+    }
+    for (const int outside : {-1, TerrainCount}) {
+        EXPECT_EQ(CellDurab(0, outside) + TileBlock(0, outside), 0);
+        EXPECT_EQ(TerrainName(outside), nullptr);
+        EXPECT_EQ(CellDurab(outside == -1 ? -1 : 99, Stone), 220) << "whatever the tile";
     }
 }
 
@@ -85,10 +109,26 @@ TEST_F(MapTest, LandingMarksBecomePlainGroundAndAreRememberedUpTo41) {
 }
 
 TEST_F(MapTest, ABrokenLayerIsNamedWithItsPlace) {
-    rows.erase(78 * 4 + 10, 3);
-    EXPECT_EQ(Load(),
-              "Run-time error 4: Bad data: map/t2.map:5:74: expected a line of 76 cells, found the end of "
-              "the line");
+    struct Case {
+        std::string* layer;
+        std::size_t at, count;  // what is cut out
+        const char* error;
+    };
+    constexpr std::size_t Line = 78, Size = Line * 46;
+    const Case cases[] = {
+        {&rows, Line * 4 + 10, 3, "t2.map:5:74: expected a line of 76 cells, found the end of the line"},
+        {&columns, Size - 3, 3, "t1.map:46:76: expected a line of 76 cells, found the end of the file"},
+        {&third, Size - 2, 2,
+         "t3.map:46:77: expected the end of the line after 76 cells, found the end of the file"},
+        {&third, Line - 2, 2, "t3.map:1:77: expected the end of the line after 76 cells"},
+        {&third, 0, Size, "t3.map:1:1: expected a line of 76 cells, found the end of the file"},
+    };
+    for (const Case& c : cases) {
+        const std::string whole = *c.layer;
+        c.layer->erase(c.at, c.count);
+        EXPECT_EQ(Load(), std::string("Run-time error 4: Bad data: map/") + c.error);
+        *c.layer = whole;
+    }
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // Built-in tables, the weapons file and the countries file.
 #include "data/tables.h"
 
+#include <cstdint>
+
 #include "data/countries_file.h"
 #include "data/weapons_file.h"
 #include "state/state.h"
@@ -24,7 +26,7 @@ TEST_F(TablesTest, AWeaponRowFillsItsColumns) {
         "i\thelmet\tnoise\t9\tx\t9\t9\t9\t9\tx\thelmet\t_\t_\t_\t_\t_\t_\tHelmet\t_\n");
     ReadWeapons();
     ASSERT_EQ(weaponTable.size(), 3U);
-    const WeaponInfo& ak = WeaponInfoByName("ak");
+    const WeaponInfo ak = WeaponInfoByName("ak");
     EXPECT_EQ(ak.kind + ak.sound + ak.weaponClass + ak.ammoSecond + ak.country, "mak477ak40grenRU");
     EXPECT_EQ(ak.title, "AK0m") << "an underscore reads as a zero everywhere";
     EXPECT_EQ(ak.fullName, "Rifle");
@@ -66,16 +68,94 @@ TEST_F(TablesTest, AFaultyWeaponRowIsNamedWithLineAndColumn) {
     EXPECT_EQ(ErrorOf(ReadWeapons), place + "1: expected a row named \"hand\", found none");
 }
 
+// Nothing may stand in a file's last row that a cut could have left of it; a comment is whole anywhere.
+TEST_F(TablesTest, ALastRowWithoutAnEndIsTakenWhenItsLastColumnHoldsSomething) {
+    struct Case {
+        const char* end;
+        const char* name;  // of the hand, empty where the row is refused
+    };
+    constexpr Case Cases[] = {{"_\r\n", "Hands"}, {"_", "Hands"},        {"Bare", "Bare"}, {"\n", "Hands"},
+                              {"", ""},           {"_\n# end", "Hands"}, {"\t\t", ""}};
+    const std::string row(Hand, std::string(Hand).size() - 2);  // with the tab before its last column
+    for (const Case& c : Cases) {
+        WriteWeapons(row + c.end);
+        const std::string error = ErrorOf(ReadWeapons);
+        if (*c.name == '\0')
+            EXPECT_TRUE(error.ends_with("expected 20 columns, found 19")) << c.end << error;
+        else
+            EXPECT_EQ(error + WeaponInfoByName("hand").fullName, c.name) << c.end;
+    }
+}
+
 TEST_F(TablesTest, OneCalibreIsWrittenWithACyrillicLetter) {
     InitTables();
     EXPECT_EQ(ItemKindByName("5ak").title, "5.45\u044539mm Kalashnikov");
 }
 
-TEST_F(TablesTest, CountriesArePairsOfLines) {
-    folder.Write("dat/countries.dat", "GB\r\nUnited Kingdom\r\nCI\r\nC\xC3\xB4te d'Ivoire\r\n");
-    LoadCountries();
-    EXPECT_EQ(CountryName("CI"), "Côte d'Ivoire");
-    EXPECT_EQ(CountryName("United Kingdom"), "") << "names are no codes";
+std::uint32_t SumOf(const std::string& text) {
+    std::uint32_t sum = 2166136261U;
+    for (const char c : text)
+        sum = (sum ^ static_cast<unsigned char>(c)) * 16777619U;
+    return sum;
+}
+
+// Every cell counts. The sums were taken from the written tables, not from the program.
+TEST_F(TablesTest, KindsRanksAndAwardsAreTheWrittenOnes) {
+    InitTables();
+    std::string kinds, ranks, awards;
+    for (const ItemKind& kind : itemKinds) {
+        kinds += kind.name + "|" + kind.title + "|";
+        for (int i = 0; i < 6 && kind.sizes[i] != 0; ++i)
+            kinds += std::to_string(kind.sizes[i]) + ",";
+        kinds += "\n";
+    }
+    for (int rank = 0; rank < 24; ++rank)
+        ranks += rankNames[rank] + "|" + rankNames[rank + 24] + "\n";
+    for (int row = 0; row < 25; ++row)
+        awards += awardTable[row].name + "|" + awardTable[row].title + "|" +
+                  std::to_string(awardTable[row].repeatable) + "|" + std::to_string(awardTable[row].chained) +
+                  "\n";
+    EXPECT_EQ(SumOf(kinds), 0x684b908dU) << kinds;
+    EXPECT_EQ(SumOf(ranks), 0xbac0b178U) << ranks;
+    EXPECT_EQ(SumOf(awards), 0xe35b75cdU) << awards;
+    EXPECT_EQ(awardTable[25].name, "") << "an empty row comes last";
+    EXPECT_EQ(ItemKindByName("5AK").title, "") << "keys are exact";
+}
+
+TEST_F(TablesTest, CountriesArePairsOfACodeAndAName) {
+    struct Case {
+        const char* content;
+        const char* read;  // codes and names, or the place of the error and what stands there
+    };
+    constexpr Case Cases[] = {
+        {"GB\r\nUnited Kingdom\r\nci\nC\xC3\xB4te\n", "GB=United Kingdom;ci=C\xC3\xB4te;"},
+        {"AZ\nA\naz\nB", "AZ=A;az=B;"},  // the last line lacks its end
+        {"A\nOne letter\nvoid\nFour\n", "A=One letter;void=Four;"},
+        {"GB\nUnited Kingdom\nC1\nX\n", "3:1: expected a country's code, letters alone, found \"C1\""},
+        {"A B\nX\n", "1:1: expected a country's code, letters alone, found \"A B\""},
+        {"@\nX\n", "1:1: expected a country's code, letters alone, found \"@\""},  // beside A, Z, a, z
+        {"[\nX\n", "1:1: expected a country's code, letters alone, found \"[\""},
+        {"`\nX\n", "1:1: expected a country's code, letters alone, found \"`\""},
+        {"{\nX\n", "1:1: expected a country's code, letters alone, found \"{\""},
+        {"GB\nX\n\n", "3:1: expected a country's code, letters alone, found \"\""},
+        {"GB\n\nUS\nX\n", "2:1: expected the name of the country \"GB\", found none"},
+        {"GB\nX\nUS", "4:1: expected the name of the country \"US\", found none"},
+        {"", "1:1: expected a country's code, letters alone, found the end of the file"},
+    };
+    for (const Case& c : Cases) {
+        folder.Write("dat/countries.dat", c.content);
+        std::string read = ErrorOf(LoadCountries);
+        const std::string place = "Run-time error 4: Bad data: dat/countries.dat:";
+        if (read.starts_with(place)) {
+            read = read.substr(place.size());
+        } else {
+            for (const std::string& code : CountryCodes())
+                read += code + "=" + CountryName(code) + ";";
+        }
+        EXPECT_EQ(read, c.read);
+    }
+    countryList = {"GB", "FR", "DE", "Germany"};
+    EXPECT_EQ(CountryName("FR") + CountryName("gb"), "") << "a name is no code, and cases differ";
 }
 
 }  // namespace

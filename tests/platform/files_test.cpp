@@ -4,6 +4,8 @@
 #include <sys/stat.h>
 
 #include "platform/code_page.h"
+#include "platform/picture_file.h"
+#include "platform/quoted.h"
 #include "tests/support/game_test.h"
 
 namespace {
@@ -22,8 +24,53 @@ TEST_F(FilesTest, TheTextReaderEndsLinesAtEitherEndingAndNamesThePlace) {
               "Run-time error 4: Bad data: dat/t.txt:1:3: expected a letter, found the end of the line");
     reader.ReadLineEnd("the line's end");
     EXPECT_EQ(reader.ReadLine(), "d");
+    EXPECT_FALSE(reader.LineEnded());
     EXPECT_EQ(ErrorOf(next),
               "Run-time error 4: Bad data: dat/t.txt:2:2: expected a letter, found the end of the file");
+    EXPECT_EQ(
+        ErrorOf([&] { reader.ReadLineEnd("the line's end"); }),
+        "Run-time error 4: Bad data: dat/t.txt:2:2: expected the line's end, found the end of the file");
+    folder.Write("dat/t.txt", "a\rb\n\nc\r\nd\r");
+    TextReader lines("\\dat\\t.txt");
+    EXPECT_EQ(lines.ReadLine(), "a\rb") << "a carriage return alone ends no line";
+    EXPECT_TRUE(lines.LineEnded());
+    EXPECT_EQ(lines.ReadLine() + lines.ReadLine(), "c");
+    EXPECT_EQ(lines.Line(), 4);
+    EXPECT_EQ(lines.ReadLine(), "d") << "half an end isn't text";
+    EXPECT_TRUE(lines.AtEnd());
+}
+
+// Gigabytes are refused without being read: these take no room on the disk.
+TEST_F(FilesTest, AFileThatIsTooLargeIsNamed) {
+    struct Case {
+        void (*read)();
+        std::uintmax_t most;
+    };
+    constexpr Case Cases[] = {
+        {[] { TextReader("\\dat\\t.gif"); }, 1 << 20},
+        {[] { RecordReader("\\dat\\t.gif", 882); }, 1 << 20},
+        {[] { ReadPictureFile("\\dat\\t.gif"); }, 20 << 20},
+        {[] { ReadWholeFile("\\dat\\t.gif"); }, 64 << 20},
+    };
+    folder.Write("dat/t.gif", "");
+    const std::filesystem::path file = folder.Path() / "dat/t.gif";
+    for (const Case& c : Cases) {
+        const std::string error =
+            "Run-time error 4: Bad data: dat/t.gif: expected up to " + std::to_string(c.most) + " bytes";
+        for (const std::uintmax_t size : {c.most + 1, std::uintmax_t{3} << 30}) {
+            std::filesystem::resize_file(file, size);
+            EXPECT_EQ(ErrorOf(c.read), error + ", found more");
+        }
+        std::filesystem::resize_file(file, c.most);
+        EXPECT_FALSE(ErrorOf(c.read).starts_with(error));
+    }
+}
+
+TEST(Quotations, AreCutBetweenCharacters) {
+    const std::string sixty(60, 'x');
+    EXPECT_EQ(Quoted(sixty), "\"" + sixty + "\"");
+    EXPECT_EQ(Quoted(sixty + "y"), "\"" + sixty + "...\"");
+    EXPECT_EQ(Shortened(sixty.substr(1) + "\u00EB"), sixty.substr(1) + "...") << "a letter of two bytes";
 }
 
 TEST_F(FilesTest, RecordsAreCountedFromOneAndEmptyBeyondTheEnd) {
@@ -31,11 +78,16 @@ TEST_F(FilesTest, RecordsAreCountedFromOneAndEmptyBeyondTheEnd) {
     const RecordReader reader("\\dat\\t.dat", 6);
     EXPECT_EQ(reader.Read(2).ReadText(0, 1), "2");
     EXPECT_EQ(reader.Read(4).ReadText(0, 6), "");
-    EXPECT_EQ(ErrorOf([&] { reader.Read(3); }),
-              "Run-time error 4: Bad data: dat/t.dat: record 3: expected 6 bytes, found 1");
-    EXPECT_EQ(
-        ErrorOf([&] { reader.ReadCounted(4, "a soldier"); }),
-        "Run-time error 4: Bad data: dat/t.dat: record 4: expected a soldier, found the end of the file");
+    const std::string place = "Run-time error 4: Bad data: dat/t.dat: record ";
+    EXPECT_EQ(ErrorOf([&] { reader.Read(3); }), place + "3: expected 6 bytes, found 1");
+    EXPECT_EQ(ErrorOf([&] { reader.ReadCounted(3, "a soldier"); }), place + "3: expected 6 bytes, found 1");
+    EXPECT_EQ(ErrorOf([&] { reader.ReadCounted(4, "a soldier"); }),
+              place + "4: expected a soldier, found the end of the file");
+    folder.Write("dat/t.dat", "1     2     ");
+    const RecordReader whole("\\dat\\t.dat", 6);
+    EXPECT_EQ(whole.Read(3).ReadText(0, 6), "");
+    EXPECT_EQ(ErrorOf([&] { whole.ReadCounted(3, "a soldier"); }),
+              place + "3: expected a soldier, found the end of the file");
 }
 
 // A pipe has nobody at its other end, and the device never ends: neither is waited for.

@@ -2,6 +2,7 @@
 #include "platform/picture.h"
 
 #include "platform/blit.h"
+#include "platform/picture_bytes.h"
 #include "platform/picture_file.h"
 #include "tests/support/game_test.h"
 #include "view/stored_pictures.h"
@@ -79,15 +80,94 @@ TEST(PictureFiles, DecodeToTheirPixelsAndTransparentOnesHaveNoColour) {
     EXPECT_EQ(StoredImage("imgAwardBorder.gif")->Pixel(51, 17), 0U) << "the middle of the frame";
 }
 
-TEST(PictureFiles, WhatIsNoPictureIsNamedAndOneOfGigabytesRefused) {
-    std::string huge = TinyBitmap();
-    huge.replace(18, 8, std::string("\x20\x4E\x00\x00\x20\x4E\x00\x00", 8));
-    const auto errorOf = [](const std::string& content) {
-        return ErrorOf([&] { DecodePicture(content, "\\pic\\x.bmp"); });
+// A text with zeros in it.
+template <std::size_t Size>
+std::string Bytes(const char (&text)[Size]) {
+    return {text, Size - 1};
+}
+
+// One black pixel, in colours of the picture's own, after a comment of two parts.
+const std::string TinyGif =
+    Bytes("GIF89a\1\0\1\0\0\0\0!\xFE\2ab\1c\0,\0\0\0\0\1\0\1\0\x80\0\0\0\xFF\xFF\xFF\2\2\x44\1\0;");
+
+// A grey JPEG of two blocks. Each table has one code, a zero: a number of 15 bits follows that of brightness,
+// the block ends with that of details. So a block is a zero, fifteen ones, a zero and seven bits to spare;
+// the FF among them is followed by a zero, and a restart parts the blocks.
+const std::string JpegTables = Bytes(
+    "\xFF\xD8\xFF\xFE\0\4ab\xFF\xFF\xC1\0\x0B\x08\0\x08\0\x10\1\1\x11\0"
+    "\xFF\xC4\0\x26\0\1\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x0F\x10\1\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0");
+const std::string JpegRestart = Bytes("\xFF\xDD\0\4\0\1");
+const std::string JpegScan = Bytes("\xFF\xDA\0\x08\1\1\0\0\x3F\0");
+const std::string JpegBlock = Bytes("\x7F\xFF\0\x7F");
+const std::string TinyJpeg =
+    JpegTables + JpegRestart + JpegScan + JpegBlock + "\xFF\xD0" + JpegBlock + "\xFF\xD9";
+
+TEST(PictureFiles, AreRefusedWhereverTheyAreCut) {
+    struct Case {
+        std::string whole;
+        const char* format;
+        std::size_t known;  // bytes that tell the format
     };
-    EXPECT_TRUE(
-        errorOf("MZ, no picture").starts_with("Run-time error 4: Bad data: pic/x.bmp: expected a picture"));
-    EXPECT_TRUE(errorOf(huge).ends_with("expected up to 2048 pixels either way, found 20000 by 20000"));
+    const Case cases[] = {{TinyBitmap(), "BMP", 2}, {TinyGif, "GIF", 3}, {TinyJpeg, "JPEG", 1}};
+    for (const Case& c : cases) {
+        const auto errorOf = [&](const std::string& content) {
+            return ErrorOf([&] { CheckPictureBytes(content, "\\pic\\x"); });
+        };
+        EXPECT_EQ(errorOf(c.whole), "");
+        EXPECT_EQ(errorOf(c.whole + "more"), "");
+        for (std::size_t size = c.known; size < c.whole.size(); ++size)
+            EXPECT_EQ(errorOf(c.whole.substr(0, size)), "Run-time error 4: Bad data: pic/x: byte " +
+                                                            std::to_string(size) + ": expected a whole " +
+                                                            c.format + ", found the end of the file");
+    }
+    EXPECT_EQ(DecodePicture(TinyGif, "tiny.gif").Pixel(0, 0), Black);
+    EXPECT_EQ(DecodePicture(TinyJpeg, "tiny.jpg").Bounds(), (Rectangle{0, 0, 16, 8}));
+}
+
+TEST(PictureFiles, WhatTheGameCantShowIsNamed) {
+    struct Case {
+        std::string content;
+        const char* told;  // after "pic/x: "
+    };
+    std::string tall = TinyBitmap(), twoRows = tall, oldHeader = tall, gif = TinyGif;
+    tall.replace(22, 4, "\xFF\xFF\xFF\x7F");
+    twoRows.replace(22, 4, "\xFE\xFF\xFF\xFF");  // two rows, stored from the top
+    oldHeader.replace(14, 12, Bytes("\x0C\0\0\0\2\0\2\0\1\0\x18\0"));
+    gif.replace(6, 4, "\x01\x08\1\0", 4);
+    const std::string jpeg = Bytes("\xFF\xD8\xFF");
+    const Case cases[] = {
+        {"MZ, no picture", "expected a picture (BMP, GIF or JPEG), found unknown image type"},
+        {tall, "byte 62: expected a whole BMP, found the end of the file"},
+        {twoRows, "byte 62: expected a whole BMP, found the end of the file"},
+        {oldHeader, "byte 62: expected a whole BMP, found the end of the file"},
+        {gif, "expected up to 2048 pixels either way, found 2049 by 1"},
+        {Bytes("GIF89a\1\0\1\0\0\0\0;"), "byte 14: expected a picture in the GIF, found none"},
+        {Bytes("GIF89a\1\0\1\0\0\0\0?"), "byte 14: expected a block of a GIF, found the code 63"},
+        {jpeg + "\xC2", "byte 4: expected a baseline JPEG, found a progressive one"},
+        {jpeg + "\xC9", "byte 4: expected a baseline JPEG, found another kind"},
+        {jpeg + "\xD9", "byte 4: expected a picture in the JPEG, found none"},
+        {jpeg + Bytes("\xDB\0\2\1"), "byte 7: expected a mark of a JPEG, found the code 1"},
+        {jpeg + Bytes("\xC4\0\x13\0") + std::string(16, '\x10'),
+         "byte 23: expected up to 255 Huffman codes, found 256"},
+        {jpeg + Bytes("\xC4\0\x13\0\1\1\3") + std::string(13, '\0'),
+         "byte 23: expected Huffman codes of which none begins another, found others"},
+        {jpeg + Bytes("\xC4\0\x13\4"), "byte 7: expected a place of a Huffman table, found another"},
+        {jpeg + Bytes("\xC0\0\x0B\x08\0\1\0\1\1\1\x15\0"),
+         "byte 14: expected 1 to 4 blocks either way, found others"},
+        {JpegTables + JpegRestart + JpegScan + JpegBlock + "\xFF\xD9",
+         "byte 84: expected a restart of the picture's data, found none"},
+        {JpegTables + JpegRestart + JpegScan + "\x7F\xFF\xD9",
+         "byte 81: expected more of the picture's data, found a mark"},
+        {JpegTables + JpegScan + JpegBlock + Bytes("\x7F\xFF\0"),
+         "byte 79: expected a Huffman code, found another"},
+        {JpegTables + JpegScan + Bytes("\x7F\xFF\0\x3F\xFF\0\xBF\xFF\xD9"),
+         "byte 79: expected a brightness of 16 bits, found 65534"},
+        {jpeg + Bytes("\xDA\0\x08\1\1\0\0\x3F\0"), "byte 9: expected a component of the JPEG, found another"},
+        {"\xFF\xFF\xD8\xFF\xC2", "byte 3: expected the start of a JPEG, found another mark"},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(ErrorOf([&] { DecodePicture(c.content, "\\pic\\x"); }),
+                  std::string("Run-time error 4: Bad data: pic/x: ") + c.told);
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include "nearest.h"
 #include "platform/files.h"
 #include "tests/support/game_test.h"
+#include "tools/check/picture_checks.h"
 #include "view/stored_pictures.h"
 
 namespace fs = std::filesystem;
@@ -63,6 +64,7 @@ constexpr TextFault TextFaults[] = {
     {"content/campaign/roster.txt", 15, "CPT",     "CAP",       "15:17",  "no rank"},
     {"content/campaign/roster.txt", 17, "a 1 b",   "a 13 b",    "17:17",  "usa13.bmp"},
     {"content/campaign/roster.txt", 20, "43",      "101",       "20:17",  "1 to 100"},
+    {"content/campaign/roster.txt", 21, "48",      "1",         "21:17",  "2 to 100"},
     {"content/campaign/roster.txt", 24, "  mood          76\n", "", "13:1",   "lacks \"mood\""},
     {"content/campaign/roster.txt", 38, "30/30",   "30/31",     "38:59",  "31 rounds"},
     {"content/campaign/roster.txt", 38, "5nato",   "7nato",     "38:48",  "isn't fed"},
@@ -74,6 +76,7 @@ constexpr TextFault TextFaults[] = {
     {"content/map/49.txt",        124, "|......",  "|.\x60....", "124:3", "no such glyph"},
     {"content/map/49.txt",        124, "|......",  "|.!....",   "124:3",  "in sight of the squad"},
     {"content/map/49.txt",        123, "||||",     "||.|",      "123:3",  "row 0"},
+    {"content/map/49.txt",        124, "|......",  ".......",   "124:1",  "column 0"},
     {"map/491.map",                 7, "\r",       "   \r",     "7:77",   "79 cells"},
 };
 
@@ -86,6 +89,7 @@ constexpr ByteFault ByteFaults[] = {
     {"dat/save.dat", 2,            20,         "record 1, rank, byte 2",                    "last soldier's place"},
     {"dat/save.dat", 882 + 2,      24,         "record 2, rank, byte 884",                  "up to 23"},
     {"dat/save.dat", 882 + 41,     101,        "record 2, strength, byte 923",              "1 to 100"},
+    {"dat/save.dat", 882 + 42,     1,          "record 2, agility, byte 924",               "2 to 100"},
     {"dat/save.dat", 882 + 66,     'n',        "record 2, items[0].name, byte 948",         "no thing \"n4\""},
     {"map/49g.map",  1112,         76,         "record 2, cellX, byte 1112",                "outside the field"},
     {"map/49g.map",  12,           3,          "record 5, its end, byte 4448",              "4448 bytes"},
@@ -163,6 +167,45 @@ TEST_F(CheckTest, EmptyAndMissingFilesAreTold) {
     }
 }
 
+TEST_F(CheckTest, FilesThatWereCutAreFoundWhereTheyEnd) {
+    struct Case {
+        const char* file;
+        std::size_t cut;   // bytes
+        const char* told;  // empty for no finding
+    };
+    constexpr Case Cases[] = {
+        {"dat/weapons.dat", 1, ""},
+        {"dat/weapons.dat", 2, ""},
+        {"dat/weapons.dat", 2 + 15, "19 columns"},  // "Sheaf of papers"
+        {"dat/countries.dat", 2, ""},
+        {"dat/countries.dat", 10, "has no name"},  // "Zimbabwe"
+        {"map/491.map", 2, "46:77: the file ends within a line"},
+        {"map/493.map", 1, "46:77: the file ends within a line"},
+    };
+    for (const Case& c : Cases) {
+        const std::string whole = folder.Read(c.file);
+        folder.Write(c.file, whole.substr(0, whole.size() - c.cut));
+        const Findings findings = Check(c.file);
+        EXPECT_EQ(findings.size(), *c.told == '\0' ? 0U : 1U) << c.file << " " << c.cut;
+        EXPECT_NE(FindingsText(findings).find(c.told), std::string::npos) << FindingsText(findings);
+        folder.Write(c.file, whole);
+    }
+}
+
+TEST_F(CheckTest, PicturesAreDecodedAndLargeFilesRefused) {
+    const fs::path game = folder.Path() / "g";
+    fs::create_directories(game / "pic/inv");
+    folder.Write("g/pic/inv/cut.gif", "GIF89a");
+    folder.Write("g/pic/notes.txt", "GIF89a");
+    folder.Write("g/pic/large.bmp", "");
+    fs::resize_file(game / "pic/large.bmp", (20U << 20) + 1);
+    Findings findings;
+    CheckPictures(game, findings);
+    EXPECT_EQ(FindingsText(findings),
+              (game / "pic/inv/cut.gif").string() + ": byte 6: the end of the file, expected a whole GIF\n" +
+                  (game / "pic/large.bmp").string() + ": 20971521 bytes, expected 20971520 bytes at most\n");
+}
+
 // Whatever the game would stop at must be found here.
 TEST_F(CheckTest, NothingThatTheGameRefusesPasses) {
     constexpr std::array<const char*, 6> Files = {"dat/weapons.dat", "dat/countries.dat", "dat/ori.dat",
@@ -210,6 +253,25 @@ TEST(FindingsTest, TheCaretStandsUnderTheColumnAndJsonIsEscaped) {
     finding.meant.clear();
     finding.text = "\t\xC3\xA9\tx";
     EXPECT_EQ(FindingsText({finding}), "f:1:5: no \"w\", expected e\n    \t\xC3\xA9\tx\n    \t \t^\n");
+}
+
+// The letter "\u00EB" has two bytes, in columns 101 and 102: it is shown whole or not at all.
+TEST(FindingsTest, OfALongLineOnlyWhatLiesAroundTheFaultIsShown) {
+    CheckedText text;
+    text.path = "f";
+    text.lines = {std::string(100, 'a') + "\u00EB" + std::string(1000, 'b')};
+    for (const int column : {1, 202, 203, 1103})
+        text.faults.Add({{1, column}, "w", "e"});
+    Findings findings;
+    TakeFaults(text, findings);
+    const std::string expected[] = {
+        "f:1:1: w, expected e\n    " + std::string(100, 'a') + "\u00EB" + std::string(98, 'b') + "\n    ^\n",
+        "f:1:202: w, expected e\n    \u00EB" + std::string(198, 'b') + "\n    " + std::string(100, ' ') +
+            "^\n",
+        "f:1:203: w, expected e\n    " + std::string(200, 'b') + "\n    " + std::string(100, ' ') + "^\n",
+        "f:1:1103: w, expected e\n    " + std::string(100, 'b') + "\n    " + std::string(100, ' ') + "^\n"};
+    for (std::size_t i = 0; i < findings.size(); ++i)
+        EXPECT_EQ(FindingsText({findings[i]}), expected[i]);
 }
 
 TEST(NearestTest, CountsEditsAndStopsAtAThird) {

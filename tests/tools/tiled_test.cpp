@@ -39,6 +39,9 @@ struct Foreign {
 
 // Line 2 is the map, 3 the tileset; the terrain begins in line 1602 and its row 0 is line 1604. The first
 // thing is line 1653 with its properties from 1655 on, the second 1666; the landing spots are from 2201 on.
+#define SIXTY "sixty letters, or as many as anybody would want to read here"
+constexpr const char* Long = "value=\"" SIXTY SIXTY SIXTY "\"";
+constexpr const char* Cut = "1657:6: \"" SIXTY "...\" is no durab";
 // clang-format off
 constexpr Foreign Foreigners[] = {
     {"name=\"picMap\"",       "source=\"a.tsx\"",     "3:3: the tileset is a file of its own"},
@@ -49,6 +52,7 @@ constexpr Foreign Foreigners[] = {
     {"name=\"papers\"",       "",                     "1653:4: the thing has no name"},
     {"x=\"500\"",             "x=\"1520\"",           "1653:4: this object is outside the field"},
     {"value=\"270\"",         "value=\"many\"",       "1657:6: \"many\" is no durab"},
+    {"value=\"270\"",         Long,                   Cut},
     {"name=\"count\"",        "name=\"coutn\"",       "1656:6: \"coutn\" is no property of a thing"},
     {"name=\"place\" type=\"int\" value=\"1\"", "name=\"place\" value=\"0\"", "1668:6: place 0 of this cell is taken"},
     {"x=\"900\" y=\"60\"",    "x=\"800\" y=\"80\"",   "2202:4: a second landing spot here"},

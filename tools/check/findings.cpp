@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "platform/code_page.h"
+#include "platform/quoted.h"
 #include "tools/json_text.h"
 
 namespace {
@@ -31,6 +32,16 @@ std::string Shown(const std::string& text) {
     return shown;
 }
 
+// What is shown of a line: some 200 bytes, those before the fault among them.
+void TakeText(const std::string& line, Finding& finding) {
+    constexpr std::size_t Most = 200, Before = 100;
+    const auto at = static_cast<std::size_t>(finding.column) - 1;
+    const std::size_t start = line.size() > Most && at > Before ? WholeCharacters(line, at - Before) : 0;
+    const std::string_view rest = std::string_view(line).substr(start);
+    finding.text = rest.substr(0, WholeCharacters(rest, Most));
+    finding.textColumn = static_cast<int>(start) + 1;
+}
+
 // Blanks up to the column, tabs where the line has them; the bytes after the first of a character take no
 // room.
 std::string CaretLine(const std::string& text, int column) {
@@ -52,17 +63,19 @@ std::string Place(const Finding& finding) {
 
 }  // namespace
 
-std::string ReadChecked(const std::filesystem::path& path, Findings& findings) {
-    std::ifstream file(path, std::ios::binary);
-    std::string content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (!file.is_open()) {
-        Finding missing;
-        missing.file = path.string();
-        missing.wrong = "the file can't be opened";
-        missing.expected = "a file of the game";
-        findings.push_back(missing);
-    }
-    return content;
+std::string ReadChecked(const std::filesystem::path& path, Findings& findings, std::size_t most) {
+    std::error_code error;
+    const auto size = std::filesystem::file_size(path, error);
+    std::ifstream file;
+    if (!error && size <= most) file.open(path, std::ios::binary);
+    if (file.is_open()) return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    Finding finding;
+    finding.file = path.string();
+    const bool large = !error && size > most;
+    finding.wrong = large ? std::to_string(size) + " bytes" : "the file can't be opened";
+    finding.expected = large ? std::to_string(most) + " bytes at most" : "a file of the game";
+    findings.push_back(finding);
+    return "";
 }
 
 CheckedText OpenText(const std::filesystem::path& path, Findings& findings) {
@@ -76,10 +89,6 @@ CheckedText OpenText(const std::filesystem::path& path, Findings& findings) {
         if (line.ends_with('\r')) line.pop_back();
         text.lines.push_back(line);
         begin = end + 1;
-        if (end == text.content.size())
-            text.faults.Add({{static_cast<int>(text.lines.size()), static_cast<int>(line.size()) + 1},
-                             "the file ends within a line",
-                             "the end of the line"});
     }
     return text;
 }
@@ -94,7 +103,7 @@ void TakeFaults(const CheckedText& text, Findings& findings) {
         finding.expected = fault.expected;
         finding.meant = fault.meant;
         const auto index = static_cast<std::size_t>(fault.place.line) - 1;
-        if (index < text.lines.size()) finding.text = text.lines[index];
+        if (index < text.lines.size()) TakeText(text.lines[index], finding);
         findings.push_back(finding);
     }
 }
@@ -104,7 +113,8 @@ std::string FindingsText(const Findings& findings) {
     for (const Finding& finding : findings) {
         shown += Place(finding) + ": " + FaultMessage(finding.wrong, finding.expected, finding.meant) + "\n";
         if (!finding.text.empty())
-            shown += "    " + Shown(finding.text) + "\n    " + CaretLine(finding.text, finding.column) + "\n";
+            shown += "    " + Shown(finding.text) + "\n    " +
+                     CaretLine(finding.text, finding.column - finding.textColumn + 1) + "\n";
     }
     return shown;
 }

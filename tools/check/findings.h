@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/files.h"
 #include "source_text.h"
 
 struct Finding {
@@ -16,7 +17,8 @@ struct Finding {
     std::string field;
     std::size_t byte = 0;  // from the file's start
     std::string wrong, expected, meant;
-    std::string text;  // the line
+    std::string text;    // the line, or what is shown of a long one
+    int textColumn = 1;  // where in the line it begins
 };
 
 using Findings = std::vector<Finding>;
@@ -29,13 +31,15 @@ struct CheckedText {
     SourceFaults faults;
 };
 
-/// A file's bytes. A file that isn't there is a finding, and the content empty.
-std::string ReadChecked(const std::filesystem::path& path, Findings& findings);
+/// A file's bytes. A file that isn't there, or has more than `most` bytes, is a finding, and the content
+/// empty.
+std::string ReadChecked(const std::filesystem::path& path, Findings& findings,
+                        std::size_t most = MaxDataFile);
 
-/// The same as lines. A last line without an end, or a control character, is a fault already.
+/// The same as lines. The last one may lack its end.
 CheckedText OpenText(const std::filesystem::path& path, Findings& findings);
 
-/// Moves the faults of a text to the findings.
+/// Moves the faults of a text to the findings, of a long line what lies around its fault.
 void TakeFaults(const CheckedText& text, Findings& findings);
 
 /// For each finding "file:line:column: what", the line and a caret under the column; of a binary file record,

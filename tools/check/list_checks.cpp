@@ -4,6 +4,8 @@
 #include <array>
 #include <cctype>
 
+#include "platform/quoted.h"
+
 namespace {
 
 constexpr std::size_t FacingValues = 5;
@@ -39,8 +41,8 @@ void CheckFacing(const std::vector<SourceWord>& values, std::size_t facing, Sour
         faults.Try([&] { NumberOf(values[number], -1, 1, "step"); });
     const SourceWord& shown = values[ShownValue];
     if (shown.text != FacingLetters[facing])
-        faults.Add({shown.place, "\"" + shown.text + "\" for facing " + std::to_string(facing),
-                    std::string("\"") + FacingLetters[facing] + "\""});
+        faults.Add({shown.place, Quoted(shown.text) + " for facing " + std::to_string(facing),
+                    Quoted(FacingLetters[facing])});
     faults.Try([&] { NumberOf(values.back(), 0, 359, "number of degrees"); });
 }
 
@@ -56,16 +58,17 @@ std::vector<std::string> CheckCountries(CheckedText& text) {
         if (!IsCode(lines[i])) {
             const std::string meant = IsCode(UpperCase(lines[i])) ? UpperCase(lines[i]) : "";
             text.faults.Add(
-                {place, "\"" + lines[i] + "\" is no country's code", "two upper-case letters", meant});
+                {place, Quoted(lines[i]) + " is no country's code", "two upper-case letters", meant});
             i += codeFollows ? 1 : 2;
             continue;
         }
         const std::string& code = lines[i];
         for (std::size_t other = 0; other < list.size(); other += 2)
             if (list[other] == code)
-                text.faults.Add({place, "the country \"" + code + "\" comes twice", "each code once"});
+                text.faults.Add({place, "the country " + Quoted(code) + " comes twice", "each code once"});
         if (codeFollows || i + 1 == lines.size() || lines[i + 1].empty()) {
-            text.faults.Add({{place.line + 1, 1}, "the country \"" + code + "\" has no name", "its name"});
+            text.faults.Add(
+                {{place.line + 1, 1}, "the country " + Quoted(code) + " has no name", "its name"});
             i += codeFollows ? 1 : 2;
             continue;
         }

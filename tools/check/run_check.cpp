@@ -5,6 +5,7 @@
 
 #include "tools/arguments.h"
 #include "tools/check/checker.h"
+#include "tools/check/picture_checks.h"
 
 namespace {
 
@@ -30,6 +31,7 @@ Findings CheckAll(const Arguments& given, const CheckedFolders& built) {
     if (both || given.Has("--game")) {
         const Findings inGame = CheckGame(game);
         findings.insert(findings.end(), inGame.begin(), inGame.end());
+        CheckPictures(game, findings);
     }
     return findings;
 }

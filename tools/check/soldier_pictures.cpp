@@ -1,5 +1,7 @@
 #include "tools/check/soldier_pictures.h"
 
+#include "platform/quoted.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -14,7 +16,7 @@ std::vector<Flaw> SoldierPictureFlaws(const Unit& soldier, const fs::path& gameF
     std::vector<Flaw> flaws;
     const std::string face = FacePicture(soldier);
     if (face.empty())
-        flaws.push_back({"faceType", "\"" + soldier.faceType + "\" is no picture type", "b, j or g", ""});
+        flaws.push_back({"faceType", Quoted(soldier.faceType) + " is no picture type", "b, j or g", ""});
     else if (Lacks(gameFolder / "pic/faces", face))
         flaws.push_back({"faceNo", "there is no picture pic/faces/" + face, "the soldier's face", ""});
     const std::string flag = soldier.country + ".gif";

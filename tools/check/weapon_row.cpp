@@ -33,6 +33,8 @@ WeaponRow SplitWeaponRow(const std::string& line, int number, SourceFaults& faul
                         std::to_string(begin - end) + " tabs in a row",
                         std::to_string(MaxTabs) + " at most"});
     }
+    // A column can't be empty: the file was cut here, or nothing is written for nothing.
+    if (row.cells.back().text.empty()) row.cells.pop_back();
     if (row.cells.size() != WeaponColumns)
         faults.Add({row.cells.size() < WeaponColumns ? row.end : row.cells[WeaponColumns].place,
                     std::to_string(row.cells.size()) + " columns",

@@ -7,6 +7,7 @@
 #include "campaign_rules.h"
 #include "data/tables.h"
 #include "nearest.h"
+#include "platform/quoted.h"
 #include "tools/check/weapon_row.h"
 #include "tools/check/weapons_scale.h"
 
@@ -119,12 +120,12 @@ class WeaponsCheck {
         const SourceWord& key = row.Cell(KeyColumn);
         if (row.Text(KeyColumn).empty()) Add(key, "the row has no name", "a key");
         if (key.text.size() > MaxKey)
-            Add(key, "the name \"" + key.text + "\" is too long",
+            Add(key, "the name " + Quoted(key.text) + " is too long",
                 std::to_string(MaxKey) + " characters at most");
         const auto [first, isNew] = keys.insert({key.text, key.place});
         if (!isNew)
             Add(key,
-                "the name \"" + key.text + "\" comes twice, first in line " +
+                "the name " + Quoted(key.text) + " comes twice, first in line " +
                     std::to_string(first->second.line),
                 "each name once");
     }
@@ -134,29 +135,30 @@ class WeaponsCheck {
         bool good = true;
         const SourceWord& kind = row.Cell(KindColumn);
         if (!Contains(Kinds, kind.text)) {
-            Add(kind, "\"" + kind.text + "\" is no kind", "one of " + JoinWords(Kinds));
+            Add(kind, Quoted(kind.text) + " is no kind", "one of " + JoinWords(Kinds));
             good = false;
         }
         for (const std::size_t column : {ClassColumn, SecondColumn}) {
             const std::string feed = row.Text(column);
             if (feed.empty() || !ItemKindByName(feed).name.empty()) continue;
-            Add(row.Cell(column), "there is no feed \"" + feed + "\"", "a kind of ammunition or equipment",
+            Add(row.Cell(column), "there is no feed " + Quoted(feed), "a kind of ammunition or equipment",
                 Nearest(feed, KindNames()));
             good = false;
         }
         const SourceWord& unitCount = row.Cell(LongColumn);
         if (unitCount.text != "1" && !row.Text(LongColumn).empty()) {
-            Add(unitCount, "\"" + unitCount.text + "\" doesn't say whether it is long", "1 or _");
+            Add(unitCount, Quoted(unitCount.text) + " doesn't say whether it is long", "1 or _");
             good = false;
         }
         const bool needsFeed = kind.text == "m" || kind.text == "a" || kind.text == "i";
         if (needsFeed && row.Text(ClassColumn).empty()) {
-            Add(row.Cell(ClassColumn), row.Key() + " has no feed, and its kind is \"" + kind.text + "\"",
+            Add(row.Cell(ClassColumn),
+                Shortened(row.Key()) + " has no feed, and its kind is " + Quoted(kind.text),
                 "a kind of ammunition or equipment");
             good = false;
         }
         if (good && kind.text == "a" && row.Text(ClassColumn) != row.Key())
-            Add(row.Cell(ClassColumn), "ammunition of another name than its kind", "\"" + row.Key() + "\"");
+            Add(row.Cell(ClassColumn), "ammunition of another name than its kind", Quoted(row.Key()));
         return good;
     }
 
@@ -194,10 +196,11 @@ class WeaponsCheck {
             groups.reserve(GroupScales().size());
             for (const GroupScale& known : GroupScales())
                 groups.emplace_back(known.group);
-            Add(group, "there is no group \"" + group.text + "\"", "a group of the scale",
+            Add(group, "there is no group " + Quoted(group.text), "a group of the scale",
                 Nearest(group.text, groups));
         } else if (std::string_view(scale->kinds).find(row.Cell(KindColumn).text) == std::string_view::npos) {
-            Add(row.Cell(KindColumn), "kind \"" + row.Cell(KindColumn).text + "\" in the group " + group.text,
+            Add(row.Cell(KindColumn),
+                "kind " + Quoted(row.Cell(KindColumn).text) + " in the group " + group.text,
                 std::string("one of ") + scale->kinds);
         }
         if (!row.IsWeapon()) return;
@@ -214,7 +217,7 @@ class WeaponsCheck {
     void CheckModes(const WeaponRow& row) {
         const SourceWord& modes = row.Cell(ModesColumn);
         if (modes.text.size() != ModeCount) {
-            Add(modes, "\"" + modes.text + "\" has " + std::to_string(modes.text.size()) + " modes",
+            Add(modes, Quoted(modes.text) + " has " + std::to_string(modes.text.size()) + " modes",
                 "seven digits");
             return;
         }
@@ -226,7 +229,7 @@ class WeaponsCheck {
                 "mode " + std::to_string(place) + " is \"" + digit + "\"",
                 place == BurstPlace ? "0, or the rounds of a burst, 2 to 9" : "0 or 1");
         }
-        if (modes.text == "0000000") Add(modes, row.Key() + " offers no mode", "at least one");
+        if (modes.text == "0000000") Add(modes, Shortened(row.Key()) + " offers no mode", "at least one");
         if (modes.text[SecondaryPlace] == '1' && row.Text(SecondColumn).empty())
             Add(row.Cell(SecondColumn), "the mode \"Secondary\" without a second feed",
                 "a kind of ammunition");
@@ -235,12 +238,12 @@ class WeaponsCheck {
     void CheckFiles(const WeaponRow& row) {
         const std::string country = row.Text(CountryColumn);
         if (!country.empty() && !Contains(outside.countries, country))
-            Add(row.Cell(CountryColumn), "there is no country \"" + country + "\"", "a code of countries.dat",
+            Add(row.Cell(CountryColumn), "there is no country " + Quoted(country), "a code of countries.dat",
                 Nearest(country, outside.countries));
         else
             CheckFile(row.Cell(CountryColumn), "pic/flags", (country.empty() ? "void" : country) + ".gif");
         if (row.Text(TitleColumn).empty())
-            Add(row.Cell(TitleColumn), row.Key() + " has no title", "its name in the catalogue");
+            Add(row.Cell(TitleColumn), Shortened(row.Key()) + " has no title", "its name in the catalogue");
         if (row.IsWeapon()) CheckSound(row);
         for (const std::string& picture : PicturesOf(row))
             if (!CheckFile(row.Cell(KeyColumn), "pic/inv", picture)) strangers.push_back(row.Key());
@@ -254,13 +257,14 @@ class WeaponsCheck {
         for (const auto& entry : fs::directory_iterator(folder))
             sounds.push_back(entry.path().stem().string());
         std::sort(sounds.begin(), sounds.end());
-        Add(row.Cell(SoundColumn), "there is no sound \"" + sound + "\"", "a file of wav/weapons",
+        Add(row.Cell(SoundColumn), "there is no sound " + Quoted(sound), "a file of wav/weapons",
             Nearest(sound, sounds));
     }
 
     bool CheckFile(const SourceWord& cell, const std::string& folder, const std::string& file) {
         if (!fs::is_directory(outside.game / folder) || fs::exists(outside.game / folder / file)) return true;
-        Add(cell, "there is no picture " + folder + "/" + file, "a picture for each look of the thing");
+        Add(cell, "there is no picture " + folder + "/" + Shortened(file),
+            "a picture for each look of the thing");
         return false;
     }
 
@@ -278,7 +282,8 @@ class WeaponsCheck {
     void CheckNeed(const WeaponRow& row, const NamedKey& named) {
         const std::size_t column = named.feed == Need::Second ? SecondColumn : ClassColumn;
         if (named.feed != Need::Nothing && row.Text(column).empty())
-            Add(row.Cell(column), row.Key() + " has no feed here, and the game says that it " + named.why,
+            Add(row.Cell(column),
+                Shortened(row.Key()) + " has no feed here, and the game says that it " + named.why,
                 "a kind of ammunition");
     }
 
@@ -286,8 +291,7 @@ class WeaponsCheck {
     void ReportMissing(const NamedKey& named) {
         const std::string meant = Nearest(named.key, strangers);
         const SourcePlace end{static_cast<int>(text.lines.size()) + 1, 1};
-        text.faults.Add({meant.empty() ? end : keys.at(meant),
-                         std::string("no row is named \"") + named.key + "\"",
+        text.faults.Add({meant.empty() ? end : keys.at(meant), "no row is named " + Quoted(named.key),
                          std::string("the thing that ") + named.why, meant});
     }
 
@@ -297,7 +301,7 @@ class WeaponsCheck {
         for (const std::size_t column : {ClassColumn, SecondColumn}) {
             const std::string feed = row.Text(column);
             if (!feed.empty() && !Contains(OwnFeeds, feed) && !keys.contains(feed))
-                Add(row.Cell(column), "no row is named \"" + feed + "\"", "its ammunition");
+                Add(row.Cell(column), "no row is named " + Quoted(feed), "its ammunition");
         }
     }
 

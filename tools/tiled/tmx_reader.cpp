@@ -9,6 +9,7 @@
 #include "map_files.h"
 #include "nearest.h"
 #include "platform/code_page.h"
+#include "platform/quoted.h"
 #include "tools/tiled/tmx_format.h"
 
 namespace {
@@ -69,8 +70,8 @@ class TmxReader {
             const pugi::xml_attribute found = node.attribute(attribute.name);
             if (!found && attribute.mayLack) continue;
             if (std::strcmp(found.value(), attribute.value) != 0)
-                faults.Add({PlaceOf(node), std::string(attribute.name) + " is \"" + found.value() + "\"",
-                            std::string("\"") + attribute.value + "\""});
+                faults.Add({PlaceOf(node), std::string(attribute.name) + " is " + Quoted(found.value()),
+                            Quoted(attribute.value)});
         }
     }
 
@@ -80,13 +81,13 @@ class TmxReader {
         for (const pugi::xml_node child : root.children(element)) {
             if (std::strcmp(child.attribute("name").value(), name) != 0) continue;
             if (layer)
-                faults.Add({PlaceOf(child), std::string("a second layer \"") + name + "\"", "one"});
+                faults.Add({PlaceOf(child), "a second layer " + Quoted(name), "one"});
             else
                 layer = child;
         }
         if (!layer)
-            faults.Add({PlaceOf(root), std::string("there is no layer \"") + name + "\"",
-                        std::string(element) + " \"" + name + "\""});
+            faults.Add({PlaceOf(root), "there is no layer " + Quoted(name),
+                        std::string(element) + " " + Quoted(name)});
         return layer;
     }
 
@@ -122,7 +123,7 @@ class TmxReader {
             const bool layer = element == "layer" || element == "objectgroup" || element == "imagelayer" ||
                                element == "group";
             if (layer && !known)
-                faults.Add({PlaceOf(child), "a layer \"" + name + "\"",
+                faults.Add({PlaceOf(child), "a layer " + Quoted(name),
                             JoinWords({TerrainLayer, ThingsLayer, LandingLayer}) + " alone",
                             Nearest(name, {TerrainLayer, ThingsLayer, LandingLayer})});
         }
@@ -133,7 +134,7 @@ class TmxReader {
         const pugi::xml_node data = layer.child("data");
         const std::string encoding = data.attribute("encoding").value();
         if (encoding != "csv") {
-            faults.Add({PlaceOf(data ? data : layer), "the layer's encoding is \"" + encoding + "\"",
+            faults.Add({PlaceOf(data ? data : layer), "the layer's encoding is " + Quoted(encoding),
                         "\"csv\": Map, Map Properties, Tile Layer Format"});
             return;
         }
@@ -167,7 +168,7 @@ class TmxReader {
                 "a tile that is drawn");
         if (IsLandingSpot({column, static_cast<Terrain>(row)}))
             throw SourceError(number.place, "a landing spot as a tile",
-                              std::string("an object in the layer \"") + LandingLayer + "\"");
+                              "an object in the layer " + Quoted(LandingLayer));
         return {column, static_cast<Terrain>(row)};
     }
 
@@ -223,14 +224,13 @@ class TmxReader {
         const pugi::xml_node property =
             object.child("properties").find_child_by_attribute("property", "name", name);
         if (!property)
-            throw SourceError(PlaceOf(object), std::string("the thing has no property \"") + name + "\"",
-                              "all of them");
+            throw SourceError(PlaceOf(object), "the thing has no property " + Quoted(name), "all of them");
         return {property.attribute("value").value(), PlaceOf(property)};
     }
 
     static std::string KeyOf(const std::string& key, SourcePlace place, const std::string& name) {
         if (ToCodePage(key).size() > KeyLength)
-            throw SourceError(place, "\"" + key + "\" is too long for the " + name,
+            throw SourceError(place, Quoted(key) + " is too long for the " + name,
                               std::to_string(KeyLength) + " characters at most");
         return key;
     }
