@@ -40,9 +40,11 @@ std::string FightingName() {
     return ItemClass(name) == "Thing" && name != "med" ? "hand" : name;
 }
 
-void ShowMakersFlag(const std::string& country) {
-    LoadPicture(frmField.imgFlag, "\\pic\\flags\\" + country + ".gif");
-    frmField.imgFlag.ToolTipText = CountryName(country);
+// Bare hands are nobody's make.
+void ShowMakersFlag(const WeaponInfo& hand) {
+    const bool bare = hand.name == "hand";
+    LoadPicture(frmField.imgFlag, bare ? "" : "\\pic\\flags\\" + hand.country + ".gif");
+    frmField.imgFlag.ToolTipText = bare ? "" : CountryName(hand.country);
 }
 
 ImageControl& SlotImage(int slot, Form& form) {
@@ -131,7 +133,7 @@ void RefreshHand() {
         HandSync("real2fake");
     ShowSlot(0, frmField);
     ShowStatus("durab");
-    ShowMakersFlag(UnitTable[curUnit].hand.country);
+    ShowMakersFlag(UnitTable[curUnit].hand);
 }
 
 void ShowSlot(int slot, Form& form) {

@@ -1,6 +1,7 @@
 // Things on the ground and in the hand.
 #include "combat/things.h"
 
+#include "data/countries_file.h"
 #include "data/weapons_file.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
@@ -51,12 +52,17 @@ TEST_F(ThingsTest, ADyingUnitDropsWhatItsFirstTenSlotsHoldAsFarAsThereIsRoom) {
     EXPECT_EQ(unit.items[9].name, "med") << "the cell is full";
 }
 
-TEST_F(ThingsTest, TheHandIsBareWithoutAThingToFightWith) {
-    for (const auto& [held, hand] :
-         {std::pair{"", "hand"}, {"ak", "ak"}, {"helmet", "hand"}, {"med", "med"}}) {
+TEST_F(ThingsTest, TheHandIsBareAndFliesNoFlagWithoutAThingToFightWith) {
+    LoadCountries();
+    for (const auto& [held, hand, country] : {std::tuple{"", "hand", ""},
+                                              {"ak", "ak", "Russia"},
+                                              {"helmet", "hand", ""},
+                                              {"med", "med", "Switzerland"}}) {
         unit.items[0].name = held;
         RefreshHand();
         EXPECT_EQ(unit.hand.name, hand) << held;
+        EXPECT_EQ(frmField.imgFlag.ToolTipText, country) << held;
+        EXPECT_EQ(frmField.imgFlag.Picture != nullptr, *country != '\0') << "nobody makes bare hands";
     }
 }
 
