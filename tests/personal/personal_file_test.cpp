@@ -212,6 +212,28 @@ TEST_F(PersonalFileTest, AHeldKeyStepsFasterAndFaster) {
     EXPECT_FALSE(Dragging()) << "the press on the arrow isn't one on the hand behind it";
 }
 
+TEST_F(PersonalFileTest, TheBinWaitsOverTheWholePlaceOfTheHandAndThrowsWhatIsInIt) {
+    struct Case {
+        float x, y;
+        bool shown;
+    };
+    constexpr Case Cases[] = {{152, 218, true},  {269, 260, true},  {151, 240, false}, {270, 240, false},
+                              {200, 217, false}, {200, 261, false}, {260, 225, true}};
+    weaponPage = WeaponIndex("med") - 1;
+    LoadInfo();
+    At(EventKind::MouseMove, 260, 225, 0);
+    EXPECT_FALSE(frmInfo.imgDel.Visible) << "hidden before the catalogue is used";
+    Strike(DownKey);
+    ASSERT_EQ(frmInfo.imgInv[0].Width, 42) << "a small thing, in the middle of the place";
+    for (const Case& c : Cases) {
+        At(EventKind::MouseMove, c.x, c.y, 0);
+        EXPECT_EQ(frmInfo.imgDel.Visible, c.shown) << c.x << " " << c.y;
+    }
+    Click("frmInfo.imgDel");
+    EXPECT_EQ(In(0).name, "");
+    EXPECT_EQ(frmInfo.imgFlag.ToolTipText, "") << "nobody made nothing";
+}
+
 TEST_F(PersonalFileTest, NewThingsHaveTheFeedsOfTheirKind) {
     struct Case {
         const char* name;
