@@ -131,6 +131,7 @@ void RefreshHand() {
         ListActions();
     else
         HandSync("real2fake");
+    // ODDITY: also for the computer's units, so the panel shows the enemy's weapon in his turn.
     ShowSlot(0, frmField);
     ShowStatus("durab");
     ShowMakersFlag(UnitTable[curUnit].hand);

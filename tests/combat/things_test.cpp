@@ -66,6 +66,16 @@ TEST_F(ThingsTest, TheHandIsBareAndFliesNoFlagWithoutAThingToFightWith) {
     }
 }
 
+TEST_F(ThingsTest, ThePanelTakesUpTheEnemysWeaponInHisTurn) {
+    LoadCountries();
+    PutUnit(20, 60, 40);
+    curUnit = 20;
+    Hold("spas");
+    EXPECT_EQ(frmField.imgInv[0].PictureName, "\\pic\\inv\\spas.gif");
+    EXPECT_EQ(frmField.comboMode.List.size(), 3U);
+    EXPECT_EQ(frmField.imgFlag.ToolTipText, "Italy");
+}
+
 TEST_F(ThingsTest, TheHandIsAsNewAndItsModeKeptForTheSameWeapon) {
     Hold("ak", "Full auto");
     unit.hand.durab = 1;

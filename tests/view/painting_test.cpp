@@ -7,6 +7,7 @@
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 #include "view/depot_form.h"
+#include "view/events.h"
 #include "view/field_form.h"
 #include "view/overlays.h"
 #include "view/scrolling.h"
@@ -148,6 +149,20 @@ TEST_F(PaintingTest, AWalkerAwayFromTheMiddlePullsTheViewAlong) {
         PaintUnit(c.dx, 0);
         EXPECT_EQ(frmField.HScrollArea.Value, c.scrolledTo) << c.x << " " << c.dx;
     }
+}
+
+TEST_F(PaintingTest, TheMarksAtTheEdgesFollowTheSoldierAndNotAScrollByHand) {
+    Put(0);
+    PaintUnit(0, 0);
+    EXPECT_EQ(frmField.imgMarkH.Left, ViewLeft + 120);
+    EXPECT_EQ(frmField.imgMarkV.Top, ViewTop + 100);
+    Dispatch({EventKind::Change, "frmField.HScrollArea", -1, 40});
+    Dispatch({EventKind::Change, "frmField.VScrollArea", -1, 60});
+    EXPECT_EQ(frmField.imgMarkH.Left, ViewLeft + 120);
+    EXPECT_EQ(frmField.imgMarkV.Top, ViewTop + 100);
+    PaintUnit(0, 0);
+    EXPECT_EQ(frmField.imgMarkH.Left, ViewLeft + 80);
+    EXPECT_EQ(frmField.imgMarkV.Top, ViewTop + 40);
 }
 
 TEST_F(PaintingTest, ASoldierInTheWoodsStandsUnderTheTreeTops) {
