@@ -72,6 +72,7 @@ bool RollHit(int shooter, int target) {
 // ODDITY: a bullet that is worn to below nothing draws a negative damage, which heals, without a limit.
 void TakeDamage(int shooter, Unit& target) {
     const int damage = RandomInt(bulletPower, 0);
+    // ODDITY: a charge holds nothing, so its hit names no weapon.
     AddToLog(UnitTable[shooter].name + " hit " + target.name + " with " + UnitTable[shooter].hand.name +
                  " and bring " + std::to_string(damage) + " points of damage",
              1);

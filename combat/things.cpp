@@ -40,9 +40,11 @@ std::string FightingName() {
     return ItemClass(name) == "Thing" && name != "med" ? "hand" : name;
 }
 
-void ShowMakersFlag(const std::string& country) {
-    LoadPicture(frmField.imgFlag, "\\pic\\flags\\" + country + ".gif");
-    frmField.imgFlag.ToolTipText = CountryName(country);
+// Bare hands are nobody's make.
+void ShowMakersFlag(const WeaponInfo& hand) {
+    const bool bare = hand.name == "hand";
+    LoadPicture(frmField.imgFlag, bare ? "" : "\\pic\\flags\\" + hand.country + ".gif");
+    frmField.imgFlag.ToolTipText = bare ? "" : CountryName(hand.country);
 }
 
 ImageControl& SlotImage(int slot, Form& form) {
@@ -128,9 +130,10 @@ void RefreshHand() {
         ListActions();
     else
         HandSync("real2fake");
+    // ODDITY: also for the computer's units, so the panel shows the enemy's weapon in his turn.
     ShowSlot(0, frmField);
     ShowStatus("durab");
-    ShowMakersFlag(hand.country);
+    ShowMakersFlag(hand);
 }
 
 void ShowHand() {
@@ -138,7 +141,7 @@ void ShowHand() {
     ShowModes();
     ShowWeaponBox(unit.handRounds);
     ShowSlot(0, frmField);
-    ShowMakersFlag(unit.hand.country);
+    ShowMakersFlag(unit.hand);
     RedrawPanel();
 }
 

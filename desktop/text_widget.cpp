@@ -11,6 +11,7 @@ namespace {
 
 // In the records' pixels.
 constexpr int FontHeight = 11;
+constexpr int SmallestFont = 8;     // of a text that is too long for its box
 constexpr int LinePitch = 14;       // whatever the font: ten lines take 140 pixels
 constexpr int Margin = 3;           // left of a text
 constexpr int FrameDarkness = 160;  // hundredths
@@ -67,8 +68,13 @@ TextBoxWidget::TextBoxWidget(TextBox& shown, QWidget& parent, const EventSink& t
 
 void TextBoxWidget::SyncContent() {
     TextPlate::SyncContent();
-    const int height = std::clamp(Shown().Height - AroundText, 1, FontHeight);
-    if (font().pixelSize() != ToScreen(height)) setFont(FontOf(*this, height));
+    const int tallest = ToScreen(std::clamp(Shown().Height - AroundText, 1, FontHeight));
+    QFont fitting = font();
+    fitting.setPixelSize(tallest);
+    while (fitting.pixelSize() > ToScreen(SmallestFont) &&
+           QFontMetrics(fitting).horizontalAdvance(text()) > Inside().width())
+        fitting.setPixelSize(fitting.pixelSize() - 1);
+    if (font() != fitting) setFont(fitting);
 }
 
 QRect TextBoxWidget::Inside() const {

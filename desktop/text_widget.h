@@ -31,7 +31,8 @@ class LabelWidget : public TextPlate {
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// One line in a thin frame; what doesn't fit ends in dots, and the tip has the whole of it.
+/// One line in a thin frame. A long text gets a smaller font; what doesn't fit even so ends in dots, and the
+/// tip has the whole of it.
 class TextBoxWidget : public TextPlate {
   public:
     TextBoxWidget(TextBox& shown, QWidget& parent, const EventSink& to);

@@ -44,6 +44,16 @@ bool Feeds(const InvItem& carried, const InvItem& weapon) {
     return kind == weapon.ammoMain || kind == weapon.ammoSecond;
 }
 
+// The whole place of the hand in the window, whatever size the thing in it has, so that the bin at its edge
+// can be reached.
+bool IsOverHand(float x, float y) {
+    constexpr float Left = 152;
+    constexpr float Right = 269;
+    constexpr float Top = 218;
+    constexpr float Bottom = 260;
+    return x >= Left && x <= Right && y >= Top && y <= Bottom;
+}
+
 void TakeUp(int slot) {
     ImageControl& image = frmInfo.imgInv[slot];
     const PictureRef picture = image.Picture;
@@ -142,7 +152,7 @@ void personal::Form_MouseMove(float x, float y) {
     if (slot != NoSlot)
         frmInfo.txtFullname.ForeColor = Feeds(ItemIn(PointerSlot), ItemIn(slot)) ? HintColour : QuietColour;
     // The catalogue's bin lies over the maker's flag, so it shows only where it is needed.
-    frmInfo.imgDel.Visible = frmInfo.imgUpDn[1].Visible && slot == 0;
+    frmInfo.imgDel.Visible = frmInfo.imgUpDn[1].Visible && IsOverHand(x, y);
     if (frmInfo.dragSlot == NoSlot) return;
     const int half = ItemIn(PointerSlot).count == 1 ? LongHalf : SmallHalf;
     frmInfo.imgDrag.Left = WholePixel(x) - half;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "combat/shooting.h"
 #include "combat/things.h"
 #include "data/weapons_file.h"
 #include "platform/random.h"
@@ -46,6 +47,7 @@ TEST_F(ActionsTest, EachKindOfThingOffersItsModesAndMakesTheirFamilies) {
         {"ak", "Aimed shot:fire Snap shot:fire Burst [3]:fire Full auto:fire "},
         {"m4m203", "Aimed shot:fire Snap shot:fire Burst [3]:fire Full auto:fire Secondary:bloop "},
         {"xm8lss", "Aimed shot:fire Snap shot:fire Burst [3]:fire Full auto:fire Secondary:shot "},
+        {"mkey", "Aimed shot:fire Snap shot:fire Burst [3]:fire Full auto:fire Secondary:shot "},
         {"m203", "Aimed shot:bloop Snap shot:bloop "},
         {"spas", "Aimed shot:shot Snap shot:shot Burst [2]:shot "},
         {"crossbow", "Aimed shot:dart "},
@@ -75,16 +77,19 @@ TEST_F(ActionsTest, ABurstPaysForEachRoundAndStopsAtTheFirstRefusal) {
         int time, rounds, durab;
         int timeAfter, roundsAfter, durabAfter;
         const char* sound;
+        const char* mode = "Burst";
     };
-    // A burst of three rounds for 33 time each.
+    // Each round costs 33 time; a burst has three, full auto twenty.
     constexpr Case Cases[] = {
         {"whole", 400, 20, 100, 301, 17, 97, ""},
         {"out of time", 65, 20, 100, 32, 19, 99, "bump\\wound2"},
         {"out of rounds keeps what the empty click cost", 400, 1, 100, 334, 0, 98, "weapons\\empty"},
         {"worn out", 400, 20, 1, 367, 19, 0, "ric\\wood"},
+        {"single", 400, 20, 100, 367, 19, 99, "", "Aimed"},
+        {"full auto", 700, 30, 100, 40, 10, 80, "", "Full"},
     };
     for (const Case& c : Cases) {
-        Hold("ak", "Burst", c.rounds);
+        Hold("ak", c.mode, c.rounds);
         unit.time = c.time;
         unit.hand.durab = c.durab;
         host.sounds.clear();
@@ -116,6 +121,30 @@ TEST_F(ActionsTest, ASecondaryBarrelUsesTheSecondFeedAndHasALaunchOfItsOwn) {
     EXPECT_EQ(Heard("weapons\\bloop"), 1U);
     EXPECT_EQ(Heard("weapons\\gren40"), 1U);
     EXPECT_EQ(unit.items[0].name, "m4m203") << "the launcher stays in the hand";
+}
+
+TEST_F(ActionsTest, TheMuzzleIsWhereTheShooterFaces) {
+    struct Case {
+        int facing, x, y;  // from the corner of his cell
+    };
+    constexpr Case Cases[] = {{East, 20, 10},     {West, 0, 10},       {North, 10, 0},     {South, 10, 20},
+                              {NorthEast, 20, 0}, {SouthEast, 20, 20}, {SouthWest, 0, 20}, {NorthWest, 0, 0}};
+    Hold("ak", "Aimed");
+    for (const Case& c : Cases) {
+        unit.facing = c.facing;
+        ShootAt(900, 410, "fire");
+        EXPECT_EQ(muzzleX, 600 + c.x) << c.facing;
+        EXPECT_EQ(muzzleY, 400 + c.y) << c.facing;
+    }
+}
+
+TEST_F(ActionsTest, OfTwoKnivesOneIsThrownAndTheOtherStaysInTheHand) {
+    Hold("thronives", "Throw", 2);
+    ActOnTarget(30 * 20 + 90, 410);
+    EXPECT_EQ(groundItems[20][34][0].roundsMain, 1);
+    EXPECT_EQ(unit.items[0].name, "thronives");
+    EXPECT_EQ(unit.items[0].roundsMain, 1);
+    EXPECT_EQ(unit.hand.name, "thronives");
 }
 
 TEST_F(ActionsTest, WhatIsThrownLiesWhereItCameDownAndOutOfTheFieldIsLost) {

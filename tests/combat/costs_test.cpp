@@ -49,6 +49,22 @@ TEST_F(CostsTest, EachKindPaysFromItsPurseAndARefusalIsHeardForTimeAndEnergyAlon
     }
 }
 
+TEST_F(CostsTest, ShellsGrenadesAndDartsAreTheSecondFeed) {
+    for (const auto& [name, mode, second] : {std::tuple{"ak", "Burst", false},
+                                             {"crossbow", "Aimed", true},
+                                             {"airpipe", "Aimed", true},
+                                             {"m203", "Aimed", true},
+                                             {"spas", "Aimed", true},
+                                             {"mkey", "Aimed", false},
+                                             {"mkey", "Secondary", true},
+                                             {"knife", "Throw", false}}) {
+        Hold(name, mode, 5);
+        EXPECT_TRUE(Spend(2, "ammo"));
+        EXPECT_EQ(unit.items[0].roundsMain, second ? 5 : 3) << name << mode;
+        EXPECT_EQ(unit.items[0].roundsSecond, second ? 3 : 5) << name << mode;
+    }
+}
+
 TEST_F(CostsTest, ABlowInsideItsNarrowFieldSounds) {
     struct Case {
         const char* what;

@@ -100,6 +100,10 @@ TEST_F(HitsTest, DamageTakesHealthAndOneOfLessThanNothingHeals) {
     SeedFor(30, 0);
     UnitHit(0, 20);
     EXPECT_EQ(frmField.cmbLog.List.at(1), "Hale hit foe with ak and bring 0 points of damage");
+    UnitTable[0].hand.name = "";  // a charge's
+    SeedFor(30, 0);
+    UnitHit(0, 20);
+    EXPECT_NE(Log().find("Hale hit foe with  and bring 0 points of damage\n"), std::string::npos);
     bulletPower = -20;
     for (int i = 0; i < 10; ++i)
         UnitHit(0, 20);

@@ -1,6 +1,7 @@
 // Things on the ground and in the hand.
 #include "combat/things.h"
 
+#include "data/countries_file.h"
 #include "data/weapons_file.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
@@ -51,13 +52,28 @@ TEST_F(ThingsTest, ADyingUnitDropsWhatItsFirstTenSlotsHoldAsFarAsThereIsRoom) {
     EXPECT_EQ(unit.items[9].name, "med") << "the cell is full";
 }
 
-TEST_F(ThingsTest, TheHandIsBareWithoutAThingToFightWith) {
-    for (const auto& [held, hand] :
-         {std::pair{"", "hand"}, {"ak", "ak"}, {"helmet", "hand"}, {"med", "med"}}) {
+TEST_F(ThingsTest, TheHandIsBareAndFliesNoFlagWithoutAThingToFightWith) {
+    LoadCountries();
+    for (const auto& [held, hand, country] : {std::tuple{"", "hand", ""},
+                                              {"ak", "ak", "Russia"},
+                                              {"helmet", "hand", ""},
+                                              {"med", "med", "Switzerland"}}) {
         unit.items[0].name = held;
         RefreshHand();
         EXPECT_EQ(unit.hand.name, hand) << held;
+        EXPECT_EQ(frmField.imgFlag.ToolTipText, country) << held;
+        EXPECT_EQ(frmField.imgFlag.Picture != nullptr, *country != '\0') << "nobody makes bare hands";
     }
+}
+
+TEST_F(ThingsTest, ThePanelTakesUpTheEnemysWeaponInHisTurn) {
+    LoadCountries();
+    PutUnit(20, 60, 40);
+    curUnit = 20;
+    Hold("spas");
+    EXPECT_EQ(frmField.imgInv[0].PictureName, "\\pic\\inv\\spas.gif");
+    EXPECT_EQ(frmField.comboMode.List.size(), 3U);
+    EXPECT_EQ(frmField.imgFlag.ToolTipText, "Italy");
 }
 
 TEST_F(ThingsTest, TheHandIsAsNewAndItsModeKeptForTheSameWeapon) {

@@ -33,7 +33,7 @@ TEST_F(DesktopTest, ALabelShowsTenLinesInItsColoursAndCutsTheRest) {
     }
 }
 
-TEST_F(DesktopTest, ATextBoxShowsOneLineAndTellsTheRestInItsTip) {
+TEST_F(DesktopTest, ATextBoxFitsOneLineInAndTellsTheRestInItsTip) {
     struct Case {
         const char* text;
         const char* ownTip;
@@ -43,7 +43,10 @@ TEST_F(DesktopTest, ATextBoxShowsOneLineAndTellsTheRestInItsTip) {
     const QWidget& box = *window.WidgetOf(form.txtLine);
     form.txtLine.BackColor = Grey;
     form.txtLine.ForeColor = Sand;
-    for (const Case& row : {Case{"fits", "", ""}, {Long, "", Long}, {Long, "own", "own"}}) {
+    for (const Case& row : {Case{"fits", "", ""},
+                            {"fits when it is smaller", "", ""},
+                            {Long, "", Long},
+                            {Long, "own", "own"}}) {
         form.txtLine.Text = row.text;
         form.txtLine.ToolTipText = row.ownTip;
         host.PumpEvents();

@@ -1,12 +1,15 @@
 // The window of a soldier's file, driven through the door that its events come by.
 #include "personal/personal_file.h"
 
+#include <sstream>
+
 #include "combat/actions.h"
 #include "combat/explosions.h"
 #include "combat/things.h"
 #include "data/terrain.h"
 #include "data/weapons_file.h"
 #include "personal/catalogue.h"
+#include "personal/dossier.h"
 #include "personal/dragging.h"
 #include "personal/info_form.h"
 #include "personal/inventory.h"
@@ -14,6 +17,7 @@
 #include "tests/support/game_test.h"
 #include "tools/field_tile.h"
 #include "tools/player/orders.h"
+#include "view/depot_form.h"
 #include "view/events.h"
 #include "view/field_form.h"
 
@@ -184,6 +188,7 @@ TEST_F(PersonalFileTest, TheCatalogueStepsThroughItsRowsAndSizes) {
     EXPECT_EQ(weaponPage, WeaponIndex("m4") - 1);
     Strike(DownKey);
     EXPECT_EQ(In(0).capMain, 0) << "a weapon without a magazine";
+    EXPECT_TRUE(frmInfo.imgUpDn[1].Visible && frmInfo.imgUpDn[2].Visible && frmInfo.imgUpDn[3].Visible);
     for (const int size : {10, 20, 30, 120, 120}) {
         Strike(DownKey, 1);
         EXPECT_EQ(In(0).roundsMain, size);
@@ -191,6 +196,10 @@ TEST_F(PersonalFileTest, TheCatalogueStepsThroughItsRowsAndSizes) {
     In(0).name = "m16a2";
     Strike(UpKey, 1);
     EXPECT_EQ(In(0).capMain, 120) << "sizes are left alone while another thing is in the hand";
+    weaponPage = WeaponIndex("knife") - 1;
+    Strike(98);
+    EXPECT_EQ(In(0).name, "knife");
+    EXPECT_FALSE(frmInfo.imgUpDn[2].Visible || frmInfo.imgUpDn[3].Visible) << "it has no sizes";
     weaponPage = 2;
     Strike(104);
     Strike(104);
@@ -209,22 +218,164 @@ TEST_F(PersonalFileTest, AHeldKeyStepsFasterAndFaster) {
     }
     Key(EventKind::KeyUp, DownKey);
     Dispatch({EventKind::MouseDown, "frmInfo.imgUpDn", 1, 1});
+    Dispatch({EventKind::MouseUp, "frmInfo.imgUpDn", 1, 1});
+    EXPECT_EQ(frmInfo.timerArrow.Interval, 400) << "an arrow waits half as long as a key";
     EXPECT_FALSE(Dragging()) << "the press on the arrow isn't one on the hand behind it";
 }
 
-TEST_F(PersonalFileTest, NewThingsHaveTheFeedsOfTheirKind) {
+TEST_F(PersonalFileTest, TheBinWaitsOverTheWholePlaceOfTheHandAndThrowsWhatIsInIt) {
     struct Case {
-        const char* name;
-        int main, rounds, second;
+        float x, y;
+        bool shown;
     };
-    constexpr Case Cases[] = {{"m4", 0, 0, 0},      {"spas", 0, 0, 6},       {"thronives", 3, 3, 0},
-                              {"5nato", 10, 10, 0}, {"helmet", 100, 100, 0}, {"m67", 1, 1, 0}};
+    constexpr Case Cases[] = {{152, 218, true},  {269, 260, true},  {151, 240, false}, {270, 240, false},
+                              {200, 217, false}, {200, 261, false}, {260, 225, true}};
+    weaponPage = WeaponIndex("med") - 1;
+    LoadInfo();
+    At(EventKind::MouseMove, 260, 225, 0);
+    EXPECT_FALSE(frmInfo.imgDel.Visible) << "hidden before the catalogue is used";
+    Strike(DownKey);
+    ASSERT_EQ(frmInfo.imgInv[0].Width, 42) << "a small thing, in the middle of the place";
+    In(0).durab = 17;
     for (const Case& c : Cases) {
-        const InvItem item = MakeItem(WeaponInfoByName(c.name));
-        EXPECT_EQ(item.capMain, c.main) << c.name;
-        EXPECT_EQ(item.roundsMain, c.rounds) << c.name;
-        EXPECT_EQ(item.capSecond, c.second) << c.name;
+        At(EventKind::MouseMove, c.x, c.y, 0);
+        EXPECT_EQ(frmInfo.imgDel.Visible, c.shown) << c.x << " " << c.y;
     }
+    Click("frmInfo.imgDel");
+    EXPECT_EQ(In(0).name, "");
+    EXPECT_EQ(In(0).durab, 17) << "the condition stays";
+    EXPECT_EQ(frmInfo.imgFlag.PictureName + frmInfo.imgFlag.ToolTipText, "") << "nobody made nothing";
+}
+
+TEST_F(PersonalFileTest, NewThingsHaveTheFeedsOfTheirNameOrKind) {
+    struct Case {
+        const char* names;
+        int main, second;
+    };
+    constexpr Case Cases[] = {{"mm1 ", 0, 12},
+                              {"m203 m4m203 steyrm203 xm8xm320 famasm203 crossbow airpipe ", 0, 1},
+                              {"xm8lss nova spas ", 0, 6},
+                              {"mkey rem870s ", 0, 5},
+                              {"super90 rem870m ", 0, 7},
+                              {"jackham ", 0, 10},
+                              {"rem870l rem870gs ", 0, 8},
+                              {"thronives ", 3, 0},
+                              {"shuriken shaken ", 4, 0},
+                              {"anschutz ", 25, 0},
+                              {"anslgw anslgg anslgs m67 knife ", 1, 0},
+                              {"american ", 220, 0},
+                              {"luger lahti ", 8, 0},
+                              {"smle smlet 5nato ", 10, 0},
+                              {"helmet ", 100, 0},
+                              {"m4 map ", 0, 0}};
+    for (const Case& c : Cases) {
+        std::istringstream names(c.names);
+        for (std::string name; names >> name;) {
+            WeaponInfo row = WeaponInfoByName(name);
+            row.name = name;  // the file may lack it
+            const InvItem item = MakeItem(row);
+            EXPECT_EQ(item.capMain, c.main) << name;
+            EXPECT_EQ(item.capSecond, c.second) << name;
+        }
+    }
+    const InvItem knives = MakeItem(WeaponInfoByName("thronives"));
+    EXPECT_EQ(knives.roundsMain, 3);
+    EXPECT_EQ(knives.durab, 300);
+}
+
+TEST_F(PersonalFileTest, ThePackSaysHowManyPocketsThereAre) {
+    for (const auto& [capacity, pockets, board] :
+         {std::tuple{2, 0, ""}, {3, 3, "Pack3"}, {6, 6, "Pack6"}, {9, 9, "Pack9"}, {12, 12, "Pack12"}}) {
+        In(6).capMain = capacity;
+        LoadInfo();
+        int seen = 0;
+        for (int slot = 10; slot <= 21; ++slot)
+            seen += frmInfo.imgInv[slot].Visible ? 1 : 0;
+        EXPECT_EQ(seen, pockets) << capacity;
+        const std::string file = pockets == 0 ? "" : "\\pic\\inv\\info" + std::string(board) + ".bmp";
+        EXPECT_EQ(frmInfo.imgPack.PictureName, file);
+    }
+}
+
+TEST_F(PersonalFileTest, EachPageOfTheGroundShowsItsTenPlaces) {
+    LoadInfo();
+    for (const int page : {1, 2, 0}) {
+        In(30 + 10 * page + 9).name = "med";
+        Click("frmInfo.cmdGndPage", page);
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(frmInfo.cmdGndPage[i].Enabled, i != page);
+        for (int slot = 30; slot < 60; ++slot)
+            EXPECT_EQ(frmInfo.imgInv[slot].Visible, slot / 10 - 3 == page) << slot;
+        EXPECT_NE(frmInfo.imgInv[30 + 10 * page + 9].Picture, nullptr);
+    }
+}
+
+TEST_F(PersonalFileTest, TheSheetShowsWhoHeIs) {
+    LoadInfo();
+    EXPECT_EQ(frmInfo.imgFace.PictureName, "\\pic\\faces\\usa01.bmp");
+    EXPECT_EQ(frmInfo.imgChevron.PictureName, "\\pic\\chevrons\\cpt.gif");
+    EXPECT_EQ(frmInfo.imgChevron.ToolTipText, "Captain");
+    EXPECT_EQ(frmInfo.imgManFlag.PictureName, "\\pic\\flags\\US.gif");
+    EXPECT_EQ(frmInfo.imgManFlag.ToolTipText, "United States");
+    EXPECT_EQ(frmInfo.imgFlag.PictureName, "\\pic\\flags\\US.gif");
+    EXPECT_EQ(frmInfo.imgFlag.ToolTipText, "United States [M4A1]");
+    Self().time = 7;
+    for (const auto& [team, word] : {std::pair{0, "fighters"}, {1, "enemies"}, {2, "civilians"}, {3, ""}}) {
+        Self().team = team;
+        FillInfoPanel();
+        const std::string place =
+            "\rx: " + std::to_string(Self().cellX) + "\ry: " + std::to_string(Self().cellY);
+        EXPECT_EQ(frmInfo.lblInv.Caption, "name: Marcus Hale\rteam: " + std::string(word) +
+                                              "\rhealth: 51\rtime: 7" + place +
+                                              "\rori: E\rweapon: m4\rweapon power: 57\rweapon accur: 80");
+    }
+    for (const auto& [type, file] : {std::pair{"j", "usa01.jpg"}, {"g", "usa01.gif"}, {"x", "usa01"}}) {
+        Self().faceType = type;
+        const std::string error = ErrorOf(LoadInfo);
+        EXPECT_NE(error.find(file), std::string::npos) << error;
+    }
+}
+
+TEST_F(PersonalFileTest, TheButtonBringsTheInformationAndThenLeavesTheFile) {
+    groundPage = 1;
+    LoadInfo();
+    const auto face = [](int place) { return frmInfo.picB1.canvas.SameAs(*frmDepot.imgBut[place].Picture); };
+    EXPECT_TRUE(face(8) && !frmInfo.Picture2.Visible);
+    for (const auto& [pressed, released] : {std::pair{9, 6}, {7, 8}}) {
+        Dispatch({EventKind::MouseDown, "frmInfo.picB1", -1, 1});
+        EXPECT_TRUE(face(pressed)) << pressed;
+        EXPECT_EQ(host.sounds.back().fileName, "\\wav\\click.wav");
+        Dispatch({EventKind::MouseUp, "frmInfo.picB1", -1, 1});
+        EXPECT_TRUE(face(released)) << released;
+        EXPECT_EQ(frmInfo.Picture2.Visible, released == 6);
+    }
+    EXPECT_FALSE(frmInfo.Visible);
+    EXPECT_EQ(groundPage, 0);
+}
+
+TEST_F(PersonalFileTest, EachCountOfAnAwardHasItsPictureAndFromTheSecondItsNumber) {
+    LoadInfo();
+    for (const auto& [place, file, tip] : {std::tuple{0, "0001", "Medal of Honor"},
+                                           {1, "", "Distinguished Service Cross"},
+                                           {16, "1602", "Good Conduct Medal: 2"},
+                                           {21, "2101", "Special Operations Service Ribbon"}}) {
+        Dispatch({EventKind::MouseMove, "frmInfo.imgAward", place, 0, 0, 5, 5});
+        EXPECT_EQ(frmInfo.imgAward[place].ToolTipText, tip);
+        const std::string picture = *file == '\0' ? "" : "\\pic\\awards\\" + std::string(file) + ".bmp";
+        EXPECT_EQ(frmInfo.imgAward[place].PictureName, picture);
+    }
+}
+
+TEST_F(PersonalFileTest, AnotherWeaponComesWithItsFirstMode) {
+    RefreshHand();
+    ChooseMode(1);
+    LoadInfo();
+    Press(0);
+    Press(1);
+    Press(0);
+    CloseInfo();
+    EXPECT_EQ(Self().hand.name, "mp5sd");
+    EXPECT_EQ(Self().fireMode, 0);
 }
 
 TEST_F(PersonalFileTest, PagingGoesRoundTheFitOnesAndTheSelectionFollows) {

@@ -1,10 +1,12 @@
 // The typewriter's pen, and the bars of the sheet that it writes.
 #include "personal/typewriter.h"
 
+#include "personal/dossier.h"
 #include "personal/info_form.h"
 #include "personal/personal_file.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"
+#include "view/depot_form.h"
 #include "view/stored_pictures.h"
 
 namespace {
@@ -27,6 +29,76 @@ TEST_F(TypewriterTest, EachCharacterMovesThePen) {
     Typewriter("D\rE", false, paper, AtThePen, 50);
     EXPECT_EQ(penX, 4 + 10) << "one coordinate at the pen is enough to go on; the line start stays";
     EXPECT_EQ(penY, 6 + 10);
+}
+
+// The mask is laid on with AND, the colour below it with XOR, both 5 pixels below the pen.
+TEST_F(TypewriterTest, AGlyphStandsUnderThePenOnItsShadow) {
+    const Picture& strip = frmDepot.picScript.canvas;
+    const auto lay = [&](Picture& paper, int glyph, int row, int x, int y, bool invert) {
+        for (int j = 0; j < 8; ++j)
+            for (int i = 0; i < 8; ++i) {
+                const Colour ink = strip.Pixel(glyph * 9 + i, row + j) | ~Colour{0xFFFFFF};
+                const Colour was = paper.Pixel(x + i, y + j);
+                paper.SetPixel(x + i, y + j, invert ? was ^ (ink & 0xFFFFFF) : was & ink);
+            }
+    };
+    for (const auto& [text, glyph] : {std::pair{"a", 0}, {"Z", 25}, {".", 26}, {"%", 37}, {"9", 47}}) {
+        for (const bool shadow : {false, true}) {
+            Picture paper(30, 30, Rgb(200, 150, 250));
+            Picture expected = paper;
+            if (shadow) lay(expected, glyph, 0, 5, 12, false);
+            lay(expected, glyph, 0, 4, 11, false);
+            lay(expected, glyph, 8, 4, 11, true);
+            Typewriter(text, shadow, paper, 4, 6);
+            EXPECT_TRUE(paper.SameAs(expected)) << text << shadow;
+        }
+    }
+}
+
+TEST_F(TypewriterTest, NumbersStandRightAlignedInFivePlaces) {
+    for (const auto& [value, text] : {std::pair{0, "    0"},
+                                      {9, "    9"},
+                                      {10, "   10"},
+                                      {99, "   99"},
+                                      {100, "  100"},
+                                      {1000, " 1000"},
+                                      {65535, "65535"}})
+        EXPECT_EQ(PadNumber(value), text);
+}
+
+TEST_F(TypewriterTest, ABarFadesFromYellowToDark) {
+    Form form;
+    form.canvas = Picture(420, 20);
+    const Colour ground = form.canvas.Pixel(0, 0);
+    penX = 10;
+    StatBar(255, 5, form);  // 392.5 pixels, to the even neighbour
+    struct Case {
+        int x, y;
+        Colour colour;
+    };
+    const Case cases[] = {{11, 4, Rgb(255, 255, 100)},
+                          {11, 10, Rgb(255, 255, 100)},
+                          {11, 3, ground},
+                          {11, 11, ground},
+                          {10, 5, ground},
+                          {11 + 125, 5, Rgb(175, 175, 20)},     // 20 of 63 steps
+                          {11 + 392 / 2, 5, Rgb(131, 131, 0)},  // 31
+                          {11 + 391, 5, Rgb(7, 7, 0)},
+                          {11 + 392, 5, ground}};
+    for (const Case& c : cases)
+        EXPECT_EQ(form.canvas.Pixel(c.x, c.y), c.colour) << c.x << " " << c.y;
+}
+
+TEST_F(TypewriterTest, ANameIsCutToTwentySixLetters) {
+    StartGame();
+    const auto sheetOf = [](const char* name) {
+        UnitTable[curUnit].name = name;
+        LoadInfo();
+        return frmInfo.canvas;
+    };
+    const Picture whole = sheetOf("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    EXPECT_TRUE(whole.SameAs(sheetOf("ABCDEFGHIJKLMNOPQRSTUVWXYZ1234")));
+    EXPECT_FALSE(whole.SameAs(sheetOf("ABCDEFGHIJKLMNOPQRSTUVWXY")));
 }
 
 TEST_F(TypewriterTest, FourBarsOfTheSheetStandUnderOtherLabels) {

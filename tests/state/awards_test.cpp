@@ -1,6 +1,7 @@
 // Granting awards: chains, counts, ordinals, and what the log tells of them.
 #include "state/awards.h"
 
+#include "personal/info_form.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"
 #include "view/field_form.h"
@@ -46,6 +47,26 @@ TEST_F(AwardsTest, ChainsAndRepeats) {
         self.awards[8] = count;
         EXPECT_EQ(AwardOrdinal(8), text);
     }
+}
+
+TEST_F(AwardsTest, ANewAwardIsFramedInItsFileAsLongAsTheMessageStands) {
+    struct Watcher : HeadlessHost {
+        using HeadlessHost::HeadlessHost;
+        void ShowMessage(const std::string& /*text*/) override {
+            shown = frmInfo.Visible && frmInfo.imgAwardBorder.Visible && frmInfo.shownUnit == 3;
+            left = frmInfo.imgAwardBorder.Left;
+            top = frmInfo.imgAwardBorder.Top;
+        }
+        bool shown = false;
+        int left = 0, top = 0;
+    };
+    Watcher watcher(nullptr);
+    AwardGive("PH");
+    EXPECT_TRUE(watcher.shown);
+    EXPECT_EQ(watcher.left, 26 + 3 * 110);
+    EXPECT_EQ(watcher.top, 417 + 40);
+    EXPECT_FALSE(frmInfo.Visible || frmInfo.imgAwardBorder.Visible);
+    InstallHost(&host);
 }
 
 TEST_F(AwardsTest, AtTheMissionsEndEverybodyGetsHisAndTheWoundedAndDeadOneMore) {

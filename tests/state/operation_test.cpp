@@ -51,6 +51,17 @@ TEST_F(OperationTest, WhatEventsSelectInItsMiddleStaysSelectedAfterIt) {
     EXPECT_EQ(curUnit, 1) << "outside of one a pump may select";
 }
 
+TEST_F(OperationTest, WhoWasSelectedInItsMiddleAndSpentHisTimeThereHandsOverAtItsEnd) {
+    RunOperation([] {
+        PumpKeepingUnit([] {
+            SelectNextUnit();
+            RunOperation([] { Spend(78, "time"); });
+        });
+        EXPECT_EQ(UnitTable[0].time, 80);
+    });
+    EXPECT_EQ(curUnit, 2);
+}
+
 TEST_F(OperationTest, AnErrorLeavesNoOperationBehind) {
     EXPECT_THROW(RunOperation([] { throw RunTimeError(Fault::Overflow, "x"); }), RunTimeError);
     EXPECT_EQ(game.operationDepth, 0);

@@ -56,6 +56,28 @@ TEST_F(SetupTest, EachLandingSpotIsTakenOnceWhoeverStandsThereAndThenAnyFreeCell
     EXPECT_EQ(cellGrid[random.y][random.x].occupant, -1);
 }
 
+TEST_F(SetupTest, APlaceIsDrawnByItsColumnAndThenItsRowAndASpotByItsPlaceInTheList) {
+    ClearField();
+    for (unsigned seed = 1; seed <= 20; ++seed) {
+        SeedRandom(seed);
+        const int x = RandomInt(75, 0);
+        const int y = RandomInt(45, 0);
+        SeedRandom(seed);
+        const LandingCell random = FindLandingCell("random");
+        EXPECT_EQ(std::pair(random.x, random.y), std::pair(x, y));
+        teamLast[LandingSpotList] = 2;
+        for (int i = 0; i <= 2; ++i)
+            landingSpots[i] = {i, i + 10};
+        SeedRandom(seed);
+        const int taken = RandomInt(2, 0);
+        SeedRandom(seed);
+        EXPECT_EQ(FindLandingCell("xxx").x, taken);
+        EXPECT_EQ(landingSpots[0].x, taken == 0 ? 1 : 0) << "the others close up";
+        EXPECT_EQ(landingSpots[1].y, taken == 2 ? 11 : 12);
+        teamLast[LandingSpotList] = -1;
+    }
+}
+
 TEST_F(SetupTest, TheMenusExitEndsTheMissionAndSavesTheStore) {
     StartGame();
     storeItems[0].durab = 17;

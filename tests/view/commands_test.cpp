@@ -2,12 +2,14 @@
 #include "view/commands.h"
 
 #include "data/weapons_file.h"
+#include "platform/blit.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 #include "view/events.h"
 #include "view/field_form.h"
 #include "view/panel.h"
+#include "view/stored_pictures.h"
 
 namespace {
 
@@ -122,6 +124,26 @@ TEST_F(CommandsTest, ThePointerReadsOutCellsAndUnits) {
         Dispatch({EventKind::MouseMove, "frmField.area", -1, 0, 0, c.x, c.y});
         EXPECT_EQ(frmField.area.ToolTipText, c.tip);
         EXPECT_EQ(frmField.Caption, std::string("Sarnoth III :: Field ") + c.place);
+    }
+}
+
+TEST_F(CommandsTest, ThePanelWritesThreeDigitsToABarAndLightsTheStance) {
+    const Picture& strip = StoredPicture("picBarDigits.bmp");
+    for (const auto& [bar, value] : {std::pair{0, 147}, {1, 60}, {2, 8}, {3, 209}}) {
+        BarDigits(bar, value);
+        for (const auto& [place, digit] :
+             {std::pair{0, value / 100}, {1, value / 10 % 10}, {2, value % 10}}) {
+            Picture expected(5, 6);
+            BitBlt(expected, 0, 0, 5, 6, strip, digit * 5, bar * 6, RasterOp::SRCCOPY);
+            EXPECT_TRUE(frmField.imgBar[4 + 3 * bar + place].Picture->SameAs(expected))
+                << value << " " << place;
+        }
+    }
+    for (int stance = Prone; stance <= Stance::Run; ++stance) {
+        ShowStance(stance);
+        for (int i = 0; i < 4; ++i)
+            EXPECT_EQ(frmField.imgStance[i].PictureName,
+                      "\\pic\\stance" + std::to_string(i) + (i == stance ? "on" : "off") + ".gif");
     }
 }
 

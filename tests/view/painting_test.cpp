@@ -1,12 +1,15 @@
 // What is painted on the field: cells in layers, units, their moves, tree tops, and the view that follows.
 #include "view/painting.h"
 
+#include "combat/explosions.h"
+#include "combat/things.h"
 #include "data/terrain.h"
 #include "platform/blit.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 #include "view/depot_form.h"
+#include "view/events.h"
 #include "view/field_form.h"
 #include "view/overlays.h"
 #include "view/scrolling.h"
@@ -79,14 +82,28 @@ TEST_F(PaintingTest, ARepaintedCellIsItsUnitsNewBackgroundWhoeverIsCurrent) {
     EXPECT_TRUE(Shown().SameAs(Tile(0, 0))) << "while the map is painted units are left out";
 }
 
+TEST_F(PaintingTest, APileAndAChargeLieOnTheirCellInThatOrder) {
+    const Picture& sprites = frmDepot.picSprites.canvas;
+    PutTile(6, 5, 3, Wooden);
+    const Picture charge = WithSprite(Tile(3, Wooden), sprites, 12 * 20, 0, 160);
+    ChargeAdd(6, 5);
+    EXPECT_TRUE(Shown().SameAs(charge));
+    WeaponAdd(6, 5);
+    EXPECT_TRUE(Shown().SameAs(WithSprite(charge, sprites, 13 * 20, 0, 160)));
+    area.Fill(0);
+    PaintSprite(32 + 2, 120, 100);
+    EXPECT_TRUE(Shown().SameAs(WithSprite(Picture(20, 20, 0), sprites, 40, 20, 160))) << "32 stand in a row";
+}
+
 TEST_F(PaintingTest, WhoIsVisibleFollowsFromTeamAndSightings) {
     PutUnit(1, 1, 1);
-    for (int i : {20, 21, 40})
+    for (int i : {20, 21, 22, 40})
         PutUnit(i, i, 2);
-    UnitTable[1].seen[1] = UnitTable[2].seen[0] = 1;
+    UnitTable[1].seen[1] = UnitTable[2].seen[0] = UnitTable[0].seen[2] = 1;
     EXPECT_TRUE(ThisVisible(1, 1));
     EXPECT_FALSE(ThisVisible(20, 2)) << "only members of the squad count";
     EXPECT_TRUE(ThisVisible(21, 2));
+    EXPECT_TRUE(ThisVisible(22, 2)) << "the captain as well as any other";
     EXPECT_FALSE(ThisVisible(40, 2)) << "civilians are never drawn";
     area.Fill(0);
     for (int x : {20, 21})
@@ -127,6 +144,44 @@ TEST_F(PaintingTest, StepsAndDelaysTakeTheirTime) {
     }
 }
 
+// Which pictures an overlay shows at its pumps, where it lies then, and how long all of it takes.
+TEST_F(PaintingTest, ExplosionsAndTargetsPlayTheirFiveFrames) {
+    struct Watcher : HeadlessHost {
+        using HeadlessHost::HeadlessHost;
+        void PumpEvents() override {
+            const ImageControl& image = frmField.imgBlowup.Visible ? frmField.imgBlowup : frmField.imgCover;
+            seen +=
+                image.PictureName + " " + std::to_string(image.Left) + "," + std::to_string(image.Top) + "\n";
+        }
+        std::string seen;
+    };
+    Watcher watcher(nullptr);
+    struct Case {
+        void (*show)(int, int, int);
+        ImageControl& image;
+        const char* folder;
+        int rounds;
+        int microseconds;
+    };
+    // A pass lasts 23.077 us: five frames of 1000, or three rounds of five frames of 100, 400 and 900.
+    for (const Case& c : {Case{ShowBlowup, frmField.imgBlowup, "blowup", 1, 115'385},
+                          {ShowTarget, frmField.imgCover, "target", 3, 161'539}}) {
+        watcher.seen.clear();
+        watcher.waited = {};
+        c.show(1, -1, 3);
+        std::string expected;
+        for (int frame = 0; frame < 5 * c.rounds; ++frame)
+            expected +=
+                "\\pic\\" + std::string(c.folder) + "\\0" + std::to_string(frame % 5 + 1) + ".gif -20,60\n";
+        EXPECT_EQ(watcher.seen, expected);
+        EXPECT_EQ(watcher.waited, std::chrono::microseconds(c.microseconds));
+        EXPECT_EQ(c.image.Picture, nullptr);
+        EXPECT_FALSE(c.image.Visible);
+        EXPECT_EQ(std::pair(c.image.Left, c.image.Top), std::pair(660, 20)) << "its place of rest";
+    }
+    InstallHost(&host);
+}
+
 TEST_F(PaintingTest, AnUnseenMoveIsSilentAndLeavesNoTrace) {
     Put(20);
     const Picture before = area;
@@ -148,6 +203,20 @@ TEST_F(PaintingTest, AWalkerAwayFromTheMiddlePullsTheViewAlong) {
         PaintUnit(c.dx, 0);
         EXPECT_EQ(frmField.HScrollArea.Value, c.scrolledTo) << c.x << " " << c.dx;
     }
+}
+
+TEST_F(PaintingTest, TheMarksAtTheEdgesFollowTheSoldierAndNotAScrollByHand) {
+    Put(0);
+    PaintUnit(0, 0);
+    EXPECT_EQ(frmField.imgMarkH.Left, ViewLeft + 120);
+    EXPECT_EQ(frmField.imgMarkV.Top, ViewTop + 100);
+    Dispatch({EventKind::Change, "frmField.HScrollArea", -1, 40});
+    Dispatch({EventKind::Change, "frmField.VScrollArea", -1, 60});
+    EXPECT_EQ(frmField.imgMarkH.Left, ViewLeft + 120);
+    EXPECT_EQ(frmField.imgMarkV.Top, ViewTop + 100);
+    PaintUnit(0, 0);
+    EXPECT_EQ(frmField.imgMarkH.Left, ViewLeft + 80);
+    EXPECT_EQ(frmField.imgMarkV.Top, ViewTop + 40);
 }
 
 TEST_F(PaintingTest, ASoldierInTheWoodsStandsUnderTheTreeTops) {
