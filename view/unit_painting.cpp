@@ -150,8 +150,9 @@ bool ThisVisible(int x, int y) {
     const auto standsHere = [x, y](int index) {
         return UnitTable[index].cellX == x && UnitTable[index].cellY == y;
     };
-    for (int i = 0; i < TeamStride; ++i) {
+    for (int i = 0; i < TeamStride; ++i)
         if (standsHere(i)) return true;
+    for (int i = 0; i < TeamStride; ++i) {
         if (!standsHere(FirstOf(EnemyTeam) + i)) continue;
         for (int j = 0; j <= teamLast[SquadTeam]; ++j)
             if (UnitTable[j].seen[i] == 1) return true;

@@ -53,7 +53,7 @@ TEST_F(OperationTest, WhatEventsSelectInItsMiddleStaysSelectedAfterIt) {
 
 TEST_F(OperationTest, WhoWasSelectedInItsMiddleAndSpentHisTimeThereHandsOverAtItsEnd) {
     RunOperation([] {
-        PumpKeepingUnit([] {
+        PumpKeepingOrder([] {
             SelectNextUnit();
             RunOperation([] { Spend(78, "time"); });
         });

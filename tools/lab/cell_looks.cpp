@@ -8,7 +8,6 @@
 #include "view/depot_form.h"
 #include "view/field_form.h"
 #include "view/painting.h"
-#include "view/unit_painting.h"
 
 namespace {
 
@@ -57,6 +56,14 @@ bool HasDead(int x, int y) {
     return false;
 }
 
+// Whether the unit must be drawn: a soldier, or an enemy that one of them has in his record.
+bool MustShow(int index) {
+    if (index < FirstOf(EnemyTeam)) return true;
+    for (int soldier = 0; soldier <= teamLast[SquadTeam]; ++soldier)
+        if (UnitTable[soldier].seen[index - FirstOf(EnemyTeam)] == 1) return true;
+    return false;
+}
+
 Looks Grounds(int x, int y) {
     const Cell& cell = cellGrid[y][x];
     const bool broken = cell.tileX == BrokenTile;
@@ -100,7 +107,7 @@ Looks CellLooks(int x, int y) {
     const int occupant = cellGrid[y][x].occupant;
     if (occupant < 0) return bare;
     const Unit& unit = UnitTable[occupant];
-    const bool visible = ThisVisible(x, y);
+    const bool visible = MustShow(occupant);
     Looks looks;
     for (const Picture& look : bare) {
         // Who bled to death stands until his cell is repainted.

@@ -53,9 +53,9 @@ bool IsOneOf(const Picture& square, const std::vector<Picture>& looks) {
 
 std::string LookAt(int x, int y) {
     const std::string cell = "the cell " + std::to_string(x) + "," + std::to_string(y);
-    if (!IsOneOf(SquareOf(frmField.area.canvas, x, y), CellLooks(x, y)))
-        return cell + " doesn't show what is there";
     const int occupant = cellGrid[y][x].occupant;
+    if (!IsOneOf(SquareOf(frmField.area.canvas, x, y), CellLooks(x, y)))
+        return cell + (occupant < 0 ? " doesn't show what is there" : " doesn't show " + LogName(occupant));
     const bool keepsGround = occupant >= 0 && occupant < UnitPlaces;
     if (keepsGround && !IsOneOf(frmField.picBuffer[occupant], BareLooks(x, y)))
         return cell + " has another ground under " + LogName(occupant);

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 #include "data/weapons_file.h"
 #include "personal/info_form.h"
@@ -137,25 +138,51 @@ class SoakHost : public HeadlessHost {
         constexpr int EventsInside = 40;
         const Pumping pumping(*this);
         for (int i = player.Draw(EventsInside); i > 0 && form.Visible; --i)
-            recorder.Dispatch(player.Next());
-        for (int slot = 0; slot <= LastBoardSlot && form.Visible; ++slot) {
-            recorder.Dispatch({EventKind::CloseRequest, form.name});
-            if (form.Visible) LayDown(slot);
-        }
+            Give(player.Next());
+        TryToClose(form);
+        if (form.Visible) EmptyHand(form);
         if (form.Visible) throw std::logic_error("the file can't be closed any more");
     }
 
+    // Whether the catalogue has made or taken things since the last call.
+    bool TakeUsedCatalogue() { return std::exchange(usedCatalogue, false); }
+
   private:
+    // Paging makes the window anew, and with it the catalogue's arrow that was up.
+    void Give(const InputEvent& event) {
+        usedCatalogue = usedCatalogue || frmInfo.imgUpDn[1].Visible;
+        recorder.Dispatch(event);
+        usedCatalogue = usedCatalogue || frmInfo.imgUpDn[1].Visible;
+    }
+
     // What is carried finds a place in the first slot that takes it.
-    void LayDown(int slot) {
+    void TryToClose(const Form& form) {
+        for (int slot = 0; slot <= LastBoardSlot && form.Visible; ++slot) {
+            Give({EventKind::CloseRequest, form.name});
+            const ImageControl& image = frmInfo.imgInv[slot];
+            if (form.Visible && image.Visible && image.Picture == nullptr) AtSlot(EventKind::MouseDown, slot);
+        }
+    }
+
+    // Where every place is taken, the catalogue's bin makes room in the hand.
+    void EmptyHand(const Form& form) {
+        constexpr int DownKey = 40;
+        Give({EventKind::KeyDown, form.name, -1, DownKey});
+        Give({EventKind::KeyUp, form.name, -1, DownKey});
+        AtSlot(EventKind::MouseMove, 0);
+        Give({EventKind::Click, "frmInfo.imgDel", -1, 1});
+        AtSlot(EventKind::MouseDown, 0);
+        Give({EventKind::CloseRequest, form.name});
+    }
+
+    void AtSlot(EventKind kind, int slot) {
         const ImageControl& image = frmInfo.imgInv[slot];
-        if (image.Visible && image.Picture == nullptr)
-            recorder.Dispatch({EventKind::MouseDown, "frmInfo", -1, 1, 0, static_cast<float>(image.Left + 3),
-                               static_cast<float>(image.Top + 3)});
+        Give({kind, "frmInfo", -1, 1, 0, static_cast<float>(image.Left + 3), static_cast<float>(image.Top + 3)});
     }
 
     Recorder& recorder;
     RandomPlayer& player;
+    bool usedCatalogue = false;
 };
 
 // One mission in the making: turns played to win it, with anything that comes to a player's mind between and
@@ -242,7 +269,7 @@ class Mission {
         if (result.fault.empty()) result.fault = referee.Look(changed);
         if (result.fault.empty() && frmInfo.Visible) return;  // things are on their way
         const int now = CountGuns();
-        const bool catalogue = frmInfo.imgUpDn[1].Visible;
+        const bool catalogue = host.TakeUsedCatalogue();
         if (result.fault.empty() && now != guns && !catalogue)
             result.fault = std::to_string(guns) + " guns have become " + std::to_string(now);
         guns = now;
