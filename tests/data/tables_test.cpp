@@ -45,6 +45,21 @@ TEST_F(TablesTest, AWeaponRowFillsItsColumns) {
     EXPECT_EQ(WeaponInfoByName("AK").name, "") << "keys are exact";
 }
 
+TEST_F(TablesTest, AnUnderscoreIsNothingAndNumbersFitSixteenBits) {
+    WriteWeapons(
+        Hand + std::string("-\tm\tgun\t_\t32767\t-32768\t_\t_\t_\t_\t0000000\t_\t_\t_\t_\t_\t_\t_\t_\t_\n") +
+        "-\ta\tfeed\t_\t_\t_\t_\t_\t_\t_\t_\t_\t_\t_\t_\t_\t_\t_\tFeed\t_\n");
+    ReadWeapons();
+    const WeaponInfo gun = WeaponInfoByName("gun");
+    EXPECT_EQ(gun.sound + gun.weaponClass + gun.ammoSecond + gun.title + gun.fullName, "");
+    EXPECT_EQ(gun.power, 32767);
+    EXPECT_EQ(gun.accur, -32768);
+    EXPECT_EQ(gun.time, 0);
+    for (const auto& [key, itemClass] :
+         {std::pair{"hand", "Weapon"}, {"gun", "Weapon"}, {"feed", "Thing"}, {"x", ""}})
+        EXPECT_EQ(ItemClass(key), itemClass);
+}
+
 TEST_F(TablesTest, AFaultyWeaponRowIsNamedWithLineAndColumn) {
     struct Case {
         const char* from;
@@ -53,7 +68,8 @@ TEST_F(TablesTest, AFaultyWeaponRowIsNamedWithLineAndColumn) {
     };
     constexpr Case Cases[] = {
         {"\t9\t", "\t\t\tnine\t", "18: expected a whole number in the column \"power\", found \"nine\""},
-        {"\t9\t", "\t40000\t", "16: expected a whole number in the column \"power\", found \"40000\""},
+        {"\t9\t", "\t32768\t", "16: expected a whole number in the column \"power\", found \"32768\""},
+        {"\t9\t", "\t-32769\t", "16: expected a whole number in the column \"power\", found \"-32769\""},
         {"0000010", "00000x0", "33: expected seven digits in the column \"modes\", found \"00000x0\""},
         {"\tHands", "", "60: expected 20 columns, found 19"},
     };

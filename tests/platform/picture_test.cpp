@@ -1,6 +1,10 @@
 // Pictures: block copies clipped at both ends, scaling, the changed rectangle, decoding.
 #include "platform/picture.h"
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
 #include "platform/blit.h"
 #include "platform/picture_bytes.h"
 #include "platform/picture_file.h"
@@ -124,15 +128,32 @@ TEST(PictureFiles, AreRefusedWhereverTheyAreCut) {
     EXPECT_EQ(DecodePicture(TinyJpeg, "tiny.jpg").Bounds(), (Rectangle{0, 0, 16, 8}));
 }
 
+// Those of other programs: with one, three and four colours, fewer blocks for some, restarts, long runs of
+// zeros.
+TEST(PictureFiles, TheDataOfAJpegAreCountedToTheLastCode) {
+    const std::filesystem::path corpus =
+        std::filesystem::path(SOURCES_FOLDER) / "../tests/fuzz/corpus/picture";
+    for (const char* name : {"baseline.jpg", "gray.jpg", "cmyk.jpg", "restarts.jpg", "subsampled.jpg"}) {
+        std::ifstream file(corpus / name, std::ios::binary);
+        std::string whole{std::istreambuf_iterator<char>(file), {}};
+        EXPECT_EQ(ErrorOf([&] { DecodePicture(whole, name); }), "");
+        whole.erase(whole.size() - 4, 2);  // before the mark of the end
+        EXPECT_NE(ErrorOf([&] { DecodePicture(whole, name); }), "") << name;
+    }
+    const std::string upAndDown = JpegTables + JpegScan + Bytes("\x7F\xFF\0\0\0\x3F\xFF\xD9");
+    EXPECT_EQ(ErrorOf([&] { DecodePicture(upAndDown, ""); }), "") << "32767 and as much less";
+}
+
 TEST(PictureFiles, WhatTheGameCantShowIsNamed) {
     struct Case {
         std::string content;
         const char* told;  // after "pic/x: "
     };
-    std::string tall = TinyBitmap(), twoRows = tall, oldHeader = tall, gif = TinyGif;
+    std::string tall = TinyBitmap(), twoRows = tall, oldHeader = tall, oldWhole = tall, gif = TinyGif;
     tall.replace(22, 4, "\xFF\xFF\xFF\x7F");
     twoRows.replace(22, 4, "\xFE\xFF\xFF\xFF");  // two rows, stored from the top
     oldHeader.replace(14, 12, Bytes("\x0C\0\0\0\2\0\2\0\1\0\x18\0"));
+    oldWhole.replace(14, 12, Bytes("\x0C\0\0\0\2\0\1\0\1\0\x07\0"));  // of bits that the decoder doesn't know
     gif.replace(6, 4, "\x01\x08\1\0", 4);
     const std::string jpeg = Bytes("\xFF\xD8\xFF");
     const Case cases[] = {
@@ -140,6 +161,7 @@ TEST(PictureFiles, WhatTheGameCantShowIsNamed) {
         {tall, "byte 62: expected a whole BMP, found the end of the file"},
         {twoRows, "byte 62: expected a whole BMP, found the end of the file"},
         {oldHeader, "byte 62: expected a whole BMP, found the end of the file"},
+        {oldWhole, "expected a picture (BMP, GIF or JPEG), found bad bpp"},
         {gif, "expected up to 2048 pixels either way, found 2049 by 1"},
         {Bytes("GIF89a\1\0\1\0\0\0\0;"), "byte 14: expected a picture in the GIF, found none"},
         {Bytes("GIF89a\1\0\1\0\0\0\0?"), "byte 14: expected a block of a GIF, found the code 63"},

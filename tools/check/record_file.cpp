@@ -47,11 +47,11 @@ std::size_t BadCharacter(const Record& record, std::size_t at, std::size_t textL
 }  // namespace
 
 RecordFile::RecordFile(const std::filesystem::path& path, std::size_t recordLength, Findings& collected)
-    : name(path.string()),
-      there(std::filesystem::exists(path)),
-      content(ReadChecked(path, collected)),
-      length(recordLength),
-      findings(collected) {}
+    : name(path.string()), length(recordLength), findings(collected) {
+    const std::size_t before = findings.size();
+    content = ReadChecked(path, findings);
+    there = findings.size() == before;
+}
 
 void RecordFile::CheckCount(int records, const std::string& why) {
     const std::size_t bytes = static_cast<std::size_t>(records) * length;

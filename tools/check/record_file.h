@@ -36,7 +36,7 @@ class RecordFile {
                        const std::string& owner);
 
     std::string name;
-    bool there;  // otherwise the fault is told
+    bool there = false;  // otherwise the fault is told
     std::string content;
     std::size_t length;
     Findings& findings;
