@@ -122,7 +122,7 @@ TEST_F(ExplosionsTest, ACureWorksForSixtyOfAHundredAndOneDraws) {
         SeedRandom(seed);
         frmField.cmbLog.List.clear();
         CureUnit(0, 1);
-        if (Log().find("cured") != std::string::npos) working.insert(drawn);
+        if (Log().find("u0 cured u1 for -") != std::string::npos) working.insert(drawn);
     }
     EXPECT_EQ(working.size(), 60U);
     EXPECT_EQ(*working.rbegin(), 59);
@@ -141,17 +141,13 @@ TEST_F(ExplosionsTest, AKitHealsUpToTheVitalityInItsNarrowField) {
         UnitTable[1].health = 20;
         UnitTable[1].vitality = 40;
         Hold("med", "Cure", 60);
-        int told = 0;
         for (int use = 0; use < 60; ++use) {
             unit.time = 100;
-            frmField.cmbLog.List.clear();
             ActOnTarget(c.x * 20 + 5, c.y * 20 + 5);
             EXPECT_EQ(unit.time, 90);
-            told += Log().find("u0 cured u1 for -") != std::string::npos ? 1 : 0;
         }
         EXPECT_EQ(UnitTable[1].health, c.heals ? 40 : 20);
         EXPECT_EQ(unit.items[0].roundsMain, 0) << "each use costs";
-        EXPECT_EQ(told > 0, c.heals);
         ActOnTarget(c.x * 20 + 5, c.y * 20 + 5);
         EXPECT_EQ(host.sounds.back().fileName, "\\wav\\weapons\\empty.wav");
     }

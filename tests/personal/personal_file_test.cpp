@@ -9,7 +9,6 @@
 #include "data/terrain.h"
 #include "data/weapons_file.h"
 #include "personal/catalogue.h"
-#include "personal/dossier.h"
 #include "personal/dragging.h"
 #include "personal/info_form.h"
 #include "personal/inventory.h"
@@ -17,7 +16,6 @@
 #include "tests/support/game_test.h"
 #include "tools/field_tile.h"
 #include "tools/player/orders.h"
-#include "view/depot_form.h"
 #include "view/events.h"
 #include "view/field_form.h"
 
@@ -92,16 +90,58 @@ TEST_F(PersonalFileTest, TheRightButtonTakesTheMagazineOut) {
     EXPECT_EQ(In(0).capMain, 0);
     EXPECT_EQ(In(PointerSlot).name, "5nato");
     EXPECT_EQ(In(PointerSlot).roundsMain, 30);
+    EXPECT_EQ(host.sounds.back().fileName, "\\wav\\weapons\\reload.wav");
+    EXPECT_EQ(frmInfo.imgDrag.Top, 218) << "it comes up where the weapon lies";
+    At(EventKind::MouseMove, 300, 100, 0);
+    EXPECT_EQ(std::pair(frmInfo.imgDrag.Left, frmInfo.imgDrag.Top), std::pair(300 - 21, 100 - 21));
     Press(1, 2);
     EXPECT_EQ(In(1).capMain, 31) << "one thing at a time";
-    for (const auto& [slot, fits] : {std::pair{1, false}, {0, true}}) {
-        On(EventKind::MouseMove, slot, 0);
-        EXPECT_EQ(frmInfo.txtFullname.ForeColor == Rgb(255, 255, 153), fits) << "what it feeds lights up";
-    }
     Press(0);
     EXPECT_EQ(In(0).roundsMain, 30);
+    EXPECT_EQ(std::tuple(frmInfo.imgDrag.Left, frmInfo.imgDrag.Top, frmInfo.imgDrag.Width),
+              std::tuple(328, 168, 42));
     Press(4, 2);
     EXPECT_FALSE(Dragging()) << "a helmet has no magazine";
+    Press(4, 4);
+    EXPECT_TRUE(Dragging()) << "any other button takes up";
+}
+
+TEST_F(PersonalFileTest, ThePointerReadsOutAThingAndLightsUpWhatTheCarriedOneFeeds) {
+    struct Case {
+        const char* thing;
+        const char* text;
+        const char* carried;
+        bool lit;
+    };
+    constexpr Case Cases[] = {{"m4", "m4 (2 of 3) 5nato [7] 720", "5nato", true},
+                              {"m4", "m4 (2 of 3) 5nato [7] 720", "9para", false},
+                              {"xm8lss", "xm8lss (2 of 3) 5nato, (4 of 5) 12gauge [7] 760", "12gauge", true},
+                              {"m203", "m203 (4 of 5) 40gren [7] 600", "40gren", true},
+                              {"m203", "m203 (4 of 5) 40gren [7] 600", "m203", false},
+                              {"5nato", "5nato (2 of 3) 5nato [7] 0", "5nato", false},
+                              {"map", "map  [7] 0", "map", false}};
+    LoadInfo();
+    for (const Case& c : Cases) {
+        In(7) = MakeItem(WeaponInfoByName(c.thing));
+        In(7).roundsMain = 2;
+        In(7).capMain = 3;
+        In(7).roundsSecond = 4;
+        In(7).capSecond = 5;
+        In(PointerSlot) = MakeItem(WeaponInfoByName(c.carried));
+        On(EventKind::MouseMove, 7, 0);
+        EXPECT_EQ(frmInfo.txtFullname.Text, c.text);
+        EXPECT_EQ(frmInfo.txtFullname.ForeColor, c.lit ? Rgb(255, 255, 153) : Rgb(55, 89, 140)) << c.carried;
+    }
+    At(EventKind::MouseMove, 600, 300, 0);
+    EXPECT_EQ(frmInfo.txtFullname.Text, "") << "beside all slots";
+    for (const auto& [x, y, slot] : {std::tuple{152.0F, 218.0F, 0},
+                                     {269, 260, 0},
+                                     {269.5F, 230, -1},
+                                     {230, 260.5F, -1},
+                                     {319, 210, 6},
+                                     {419, 410, -1},
+                                     {622, 560, 39}})
+        EXPECT_EQ(SlotAt(x, y), slot) << x << " " << y;
 }
 
 TEST_F(PersonalFileTest, ASmallerPackHidesThingsThatComeBackWithTheOldOne) {
@@ -152,6 +192,8 @@ TEST_F(PersonalFileTest, WhatIsLaidDownLiesOnTheFieldAndIsPickedUpAgain) {
 }
 
 TEST_F(PersonalFileTest, AtTheVehicleTheStoreStandsInTheGroundsPlace) {
+    LoadInfo();
+    EXPECT_FALSE(frmInfo.txtAPC.Visible);
     StandAtStore();
     storeItems[0] = In(8);
     LoadInfo();
@@ -196,6 +238,20 @@ TEST_F(PersonalFileTest, TheCatalogueStepsThroughItsRowsAndSizes) {
     In(0).name = "m16a2";
     Strike(UpKey, 1);
     EXPECT_EQ(In(0).capMain, 120) << "sizes are left alone while another thing is in the hand";
+    Strike(DownKey);
+    Strike(DownKey);
+    EXPECT_EQ(In(0).name + frmInfo.imgFlag.ToolTipText, "g36Germany [G36]");
+    Strike(DownKey, 1);
+    EXPECT_EQ(In(0).roundsMain, 10) << "from the first size again";
+    Strike(UpKey, 1);
+    EXPECT_EQ(In(0).roundsMain, 0);
+    weaponPage = WeaponIndex("5nato") - 1;
+    Strike(DownKey);
+    EXPECT_TRUE(frmInfo.imgUpDn[2].Visible) << "a magazine has sizes";
+    weaponPage = static_cast<int>(weaponTable.size()) - 2;
+    Strike(DownKey);
+    Strike(DownKey);
+    EXPECT_EQ(In(0).name, weaponTable.back().name) << "the last one stays";
     weaponPage = WeaponIndex("knife") - 1;
     Strike(98);
     EXPECT_EQ(In(0).name, "knife");
@@ -216,9 +272,13 @@ TEST_F(PersonalFileTest, AHeldKeyStepsFasterAndFaster) {
         Dispatch({EventKind::Timer, "frmInfo.timerArrow"});
         EXPECT_EQ(frmInfo.timerArrow.Interval, interval);
     }
+    EXPECT_TRUE(frmInfo.timerArrow.Enabled);
     Key(EventKind::KeyUp, DownKey);
+    EXPECT_FALSE(frmInfo.timerArrow.Enabled);
+    const int page = weaponPage;
     Dispatch({EventKind::MouseDown, "frmInfo.imgUpDn", 1, 1});
     Dispatch({EventKind::MouseUp, "frmInfo.imgUpDn", 1, 1});
+    EXPECT_EQ(weaponPage, page + 1);
     EXPECT_EQ(frmInfo.timerArrow.Interval, 400) << "an arrow waits half as long as a key";
     EXPECT_FALSE(Dragging()) << "the press on the arrow isn't one on the hand behind it";
 }
@@ -250,132 +310,48 @@ TEST_F(PersonalFileTest, TheBinWaitsOverTheWholePlaceOfTheHandAndThrowsWhatIsInI
 TEST_F(PersonalFileTest, NewThingsHaveTheFeedsOfTheirNameOrKind) {
     struct Case {
         const char* names;
-        int main, second;
+        int main, rounds, second;
     };
-    constexpr Case Cases[] = {{"mm1 ", 0, 12},
-                              {"m203 m4m203 steyrm203 xm8xm320 famasm203 crossbow airpipe ", 0, 1},
-                              {"xm8lss nova spas ", 0, 6},
-                              {"mkey rem870s ", 0, 5},
-                              {"super90 rem870m ", 0, 7},
-                              {"jackham ", 0, 10},
-                              {"rem870l rem870gs ", 0, 8},
-                              {"thronives ", 3, 0},
-                              {"shuriken shaken ", 4, 0},
-                              {"anschutz ", 25, 0},
-                              {"anslgw anslgg anslgs m67 knife ", 1, 0},
-                              {"american ", 220, 0},
-                              {"luger lahti ", 8, 0},
-                              {"smle smlet 5nato ", 10, 0},
-                              {"helmet ", 100, 0},
-                              {"m4 map ", 0, 0}};
+    // clang-format off
+    constexpr Case Cases[] = {
+        {"mm1", 0, 0, 12}, {"m203 m4m203 steyrm203 xm8xm320 famasm203 crossbow airpipe", 0, 0, 1}, {"xm8lss nova spas", 0, 0, 6},
+        {"mkey rem870s", 0, 0, 5}, {"super90 rem870m", 0, 0, 7}, {"jackham", 0, 0, 10}, {"rem870l rem870gs", 0, 0, 8},
+        {"thronives", 3, 3, 0}, {"shuriken shaken", 4, 4, 0}, {"anschutz", 25, 0, 0}, {"anslgw anslgg anslgs", 1, 0, 0},
+        {"american", 220, 0, 0}, {"luger lahti", 8, 0, 0}, {"smle smlet", 10, 0, 0}, {"5nato", 10, 10, 0}, {"helmet", 100, 100, 0},
+        {"m67 knife", 1, 1, 0}, {"m4 map", 0, 0, 0}};
+    // clang-format on
     for (const Case& c : Cases) {
         std::istringstream names(c.names);
         for (std::string name; names >> name;) {
-            WeaponInfo row = WeaponInfoByName(name);
-            row.name = name;  // the file may lack it
-            const InvItem item = MakeItem(row);
+            const InvItem item = MakeItem(WeaponInfoByName(name));
             EXPECT_EQ(item.capMain, c.main) << name;
             EXPECT_EQ(item.capSecond, c.second) << name;
+            EXPECT_EQ(item.roundsMain, c.rounds) << name;
         }
     }
-    const InvItem knives = MakeItem(WeaponInfoByName("thronives"));
-    EXPECT_EQ(knives.roundsMain, 3);
-    EXPECT_EQ(knives.durab, 300);
+    EXPECT_EQ(MakeItem(WeaponInfoByName("thronives")).durab, 300);
 }
 
 TEST_F(PersonalFileTest, ThePackSaysHowManyPocketsThereAre) {
-    for (const auto& [capacity, pockets, board] :
-         {std::tuple{2, 0, ""}, {3, 3, "Pack3"}, {6, 6, "Pack6"}, {9, 9, "Pack9"}, {12, 12, "Pack12"}}) {
+    for (const auto& [capacity, board] :
+         {std::pair{2, ""}, {3, "\\pic\\inv\\infoPack3.bmp"}, {12, "\\pic\\inv\\infoPack12.bmp"}}) {
         In(6).capMain = capacity;
         LoadInfo();
-        int seen = 0;
-        for (int slot = 10; slot <= 21; ++slot)
-            seen += frmInfo.imgInv[slot].Visible ? 1 : 0;
-        EXPECT_EQ(seen, pockets) << capacity;
-        const std::string file = pockets == 0 ? "" : "\\pic\\inv\\info" + std::string(board) + ".bmp";
-        EXPECT_EQ(frmInfo.imgPack.PictureName, file);
+        EXPECT_EQ(frmInfo.imgPack.PictureName, board);
+        for (int i = 0; i < 12; ++i)
+            EXPECT_EQ(frmInfo.imgInv[10 + i].Visible, capacity > 2 && i < capacity) << capacity;
     }
 }
 
 TEST_F(PersonalFileTest, EachPageOfTheGroundShowsItsTenPlaces) {
     LoadInfo();
     for (const int page : {1, 2, 0}) {
-        In(30 + 10 * page + 9).name = "med";
         Click("frmInfo.cmdGndPage", page);
-        for (int i = 0; i < 3; ++i)
-            EXPECT_EQ(frmInfo.cmdGndPage[i].Enabled, i != page);
-        for (int slot = 30; slot < 60; ++slot)
-            EXPECT_EQ(frmInfo.imgInv[slot].Visible, slot / 10 - 3 == page) << slot;
-        EXPECT_NE(frmInfo.imgInv[30 + 10 * page + 9].Picture, nullptr);
+        for (int i = 0; i < 30; ++i) {
+            EXPECT_EQ(frmInfo.cmdGndPage[i / 10].Enabled, i / 10 != page);
+            EXPECT_EQ(frmInfo.imgInv[30 + i].Visible, i / 10 == page) << i;
+        }
     }
-}
-
-TEST_F(PersonalFileTest, TheSheetShowsWhoHeIs) {
-    LoadInfo();
-    EXPECT_EQ(frmInfo.imgFace.PictureName, "\\pic\\faces\\usa01.bmp");
-    EXPECT_EQ(frmInfo.imgChevron.PictureName, "\\pic\\chevrons\\cpt.gif");
-    EXPECT_EQ(frmInfo.imgChevron.ToolTipText, "Captain");
-    EXPECT_EQ(frmInfo.imgManFlag.PictureName, "\\pic\\flags\\US.gif");
-    EXPECT_EQ(frmInfo.imgManFlag.ToolTipText, "United States");
-    EXPECT_EQ(frmInfo.imgFlag.PictureName, "\\pic\\flags\\US.gif");
-    EXPECT_EQ(frmInfo.imgFlag.ToolTipText, "United States [M4A1]");
-    Self().time = 7;
-    for (const auto& [team, word] : {std::pair{0, "fighters"}, {1, "enemies"}, {2, "civilians"}, {3, ""}}) {
-        Self().team = team;
-        FillInfoPanel();
-        const std::string place =
-            "\rx: " + std::to_string(Self().cellX) + "\ry: " + std::to_string(Self().cellY);
-        EXPECT_EQ(frmInfo.lblInv.Caption, "name: Marcus Hale\rteam: " + std::string(word) +
-                                              "\rhealth: 51\rtime: 7" + place +
-                                              "\rori: E\rweapon: m4\rweapon power: 57\rweapon accur: 80");
-    }
-    for (const auto& [type, file] : {std::pair{"j", "usa01.jpg"}, {"g", "usa01.gif"}, {"x", "usa01"}}) {
-        Self().faceType = type;
-        const std::string error = ErrorOf(LoadInfo);
-        EXPECT_NE(error.find(file), std::string::npos) << error;
-    }
-}
-
-TEST_F(PersonalFileTest, TheButtonBringsTheInformationAndThenLeavesTheFile) {
-    groundPage = 1;
-    LoadInfo();
-    const auto face = [](int place) { return frmInfo.picB1.canvas.SameAs(*frmDepot.imgBut[place].Picture); };
-    EXPECT_TRUE(face(8) && !frmInfo.Picture2.Visible);
-    for (const auto& [pressed, released] : {std::pair{9, 6}, {7, 8}}) {
-        Dispatch({EventKind::MouseDown, "frmInfo.picB1", -1, 1});
-        EXPECT_TRUE(face(pressed)) << pressed;
-        EXPECT_EQ(host.sounds.back().fileName, "\\wav\\click.wav");
-        Dispatch({EventKind::MouseUp, "frmInfo.picB1", -1, 1});
-        EXPECT_TRUE(face(released)) << released;
-        EXPECT_EQ(frmInfo.Picture2.Visible, released == 6);
-    }
-    EXPECT_FALSE(frmInfo.Visible);
-    EXPECT_EQ(groundPage, 0);
-}
-
-TEST_F(PersonalFileTest, EachCountOfAnAwardHasItsPictureAndFromTheSecondItsNumber) {
-    LoadInfo();
-    for (const auto& [place, file, tip] : {std::tuple{0, "0001", "Medal of Honor"},
-                                           {1, "", "Distinguished Service Cross"},
-                                           {16, "1602", "Good Conduct Medal: 2"},
-                                           {21, "2101", "Special Operations Service Ribbon"}}) {
-        Dispatch({EventKind::MouseMove, "frmInfo.imgAward", place, 0, 0, 5, 5});
-        EXPECT_EQ(frmInfo.imgAward[place].ToolTipText, tip);
-        const std::string picture = *file == '\0' ? "" : "\\pic\\awards\\" + std::string(file) + ".bmp";
-        EXPECT_EQ(frmInfo.imgAward[place].PictureName, picture);
-    }
-}
-
-TEST_F(PersonalFileTest, AnotherWeaponComesWithItsFirstMode) {
-    RefreshHand();
-    ChooseMode(1);
-    LoadInfo();
-    Press(0);
-    Press(1);
-    Press(0);
-    CloseInfo();
-    EXPECT_EQ(Self().hand.name, "mp5sd");
-    EXPECT_EQ(Self().fireMode, 0);
 }
 
 TEST_F(PersonalFileTest, PagingGoesRoundTheFitOnesAndTheSelectionFollows) {
@@ -388,12 +364,17 @@ TEST_F(PersonalFileTest, PagingGoesRoundTheFitOnesAndTheSelectionFollows) {
         ChooseMode(1);
     }
     host.Queue({EventKind::KeyDown, "frmField", -1, 32});  // the field stands still meanwhile
-    for (const char* way : {"frmInfo.cmdPrev", "frmInfo.cmdNext", "frmInfo.cmdNext"})
-        host.Queue({EventKind::Click, way});
+    for (const int step : {-1, -1, 1, 1, 1, -1, 1})
+        host.Queue({EventKind::Click, step < 0 ? "frmInfo.cmdPrev" : "frmInfo.cmdNext"});
     OpenInfo();
     EXPECT_EQ(curUnit, 3) << "over the end, back, and past the dead and the immobile";
     EXPECT_EQ(UnitTable[3].fireMode, 1) << "kept by a weapon that was not changed";
     EXPECT_EQ(frmField.shpSelect.Top, UnitTable[3].pixelY) << "the view shows the one last paged to";
+    const std::size_t lines = frmField.cmbLog.List.size();
+    std::swap(In(0), In(1));
+    OpenInfo();
+    EXPECT_EQ(frmField.cmbLog.List.size(), lines) << "who wasn't paged away isn't selected again";
+    EXPECT_EQ(UnitTable[3].fireMode, 0) << "another weapon begins with its first mode";
 }
 
 TEST_F(PersonalFileTest, ASpentSoldiersFileIsKeptWholeWhenItCloses) {

@@ -2,7 +2,9 @@
 #include "view/commands.h"
 
 #include "data/weapons_file.h"
+#include "personal/typewriter.h"
 #include "platform/blit.h"
+#include "platform/picture_file.h"
 #include "state/state.h"
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
@@ -139,6 +141,12 @@ TEST_F(CommandsTest, ThePanelWritesThreeDigitsToABarAndLightsTheStance) {
                 << value << " " << place;
         }
     }
+    for (const int rounds : {0, 1}) {
+        ShowWeaponBox(rounds);
+        Picture expected = *ReadPictureFile("\\pic\\weapon.gif");
+        if (rounds == 1) Typewriter("1", true, expected, 90, 24);
+        EXPECT_TRUE(frmField.picBarWeapon.canvas.SameAs(expected)) << rounds;
+    }
     for (int stance = Prone; stance <= Stance::Run; ++stance) {
         ShowStance(stance);
         for (int i = 0; i < 4; ++i)
@@ -153,17 +161,19 @@ TEST_F(CommandsTest, TheDurabilityColumnHasFourBands) {
         const char* band;
         const char* percent;
     };
-    constexpr Case Cases[] = {{1000, 1000, 40, "75", " 100% of durability"},
-                              {1000, 749, 29, "50", " 74% of durability"},
-                              {500, 250, 10, "25", " 25% of durability"},
-                              {500, 900, 20, "50", " 50% of durability"},
-                              {500, 0, 0, "0", " 0% of durability"}};
+    constexpr Case Cases[] = {
+        {1000, 1000, 40, "75", " 100% of durability"}, {1000, 749, 29, "50", " 74% of durability"},
+        {500, 250, 10, "25", " 25% of durability"},    {500, 900, 20, "50", " 50% of durability"},
+        {500, 1, 0, "0", " 0% of durability"},         {500, 0, 0, "0", " 0% of durability"}};
     unit.hand = WeaponInfoByName("ak");
     for (const Case& c : Cases) {
         weaponTable[static_cast<std::size_t>(WeaponIndex("ak"))].durab = c.max;
         unit.hand.durab = c.current;
         ShowStatus("durab");
         EXPECT_EQ(frmField.imgBarWcolor.Height, c.fill);
+        EXPECT_EQ(frmField.imgBarWcolor.Top, 72 - c.fill);
+        EXPECT_EQ(frmField.imgBarWcolor.Visible, c.current != 0);
+        EXPECT_EQ(frmField.imgBarWcover.Height, 40 - c.max / 25);
         EXPECT_EQ(frmField.imgBarWcolor.PictureName, "\\pic\\wea_" + std::string(c.band) + ".gif");
         EXPECT_EQ(frmField.imgBarWunder.ToolTipText, c.percent);
     }

@@ -1,0 +1,130 @@
+// The sheet of a soldier's file: who he is, his bars, his ribbons, and the button for the rest.
+#include "personal/dossier.h"
+
+#include "personal/info_form.h"
+#include "personal/personal_file.h"
+#include "state/state.h"
+#include "tests/support/game_test.h"
+#include "view/depot_form.h"
+#include "view/events.h"
+#include "view/stored_pictures.h"
+
+namespace {
+
+class DossierTest : public GameTest {
+  protected:
+    DossierTest() { StartGame(); }
+
+    Unit& unit = UnitTable[0];
+};
+
+TEST_F(DossierTest, TheSheetShowsWhoHeIs) {
+    LoadInfo();
+    EXPECT_EQ(frmInfo.imgFace.PictureName, "\\pic\\faces\\usa01.bmp");
+    EXPECT_EQ(frmInfo.imgChevron.PictureName, "\\pic\\chevrons\\cpt.gif");
+    EXPECT_EQ(frmInfo.imgChevron.ToolTipText, "Captain");
+    EXPECT_EQ(frmInfo.imgManFlag.PictureName, "\\pic\\flags\\US.gif");
+    EXPECT_EQ(frmInfo.imgManFlag.ToolTipText, "United States");
+    EXPECT_EQ(frmInfo.imgFlag.ToolTipText, "United States [M4A1]");
+    unit.time = 7;
+    for (const auto& [team, word] : {std::pair{0, "fighters"}, {1, "enemies"}, {2, "civilians"}, {3, ""}}) {
+        unit.team = team;
+        FillInfoPanel();
+        EXPECT_EQ(frmInfo.lblInv.Caption,
+                  "name: Marcus Hale\rteam: " + std::string(word) +
+                      "\rhealth: 51\rtime: 7\rx: 1\ry: " + std::to_string(unit.cellY) +
+                      "\rori: E\rweapon: m4\rweapon power: 57\rweapon accur: 80");
+    }
+    for (const auto& [type, file] : {std::pair{"j", "usa01.jpg"}, {"g", "usa01.gif"}}) {
+        unit.faceType = type;
+        EXPECT_NE(ErrorOf(LoadInfo).find(file), std::string::npos) << "no such face";
+    }
+}
+
+TEST_F(DossierTest, ANameIsCutToTwentySixLetters) {
+    const auto sheetOf = [this](const char* name) {
+        unit.name = name;
+        LoadInfo();
+        return frmInfo.canvas;
+    };
+    const Picture whole = sheetOf("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    EXPECT_TRUE(whole.SameAs(sheetOf("ABCDEFGHIJKLMNOPQRSTUVWXYZ1234")));
+    EXPECT_FALSE(whole.SameAs(sheetOf("ABCDEFGHIJKLMNOPQRSTUVWXY")));
+}
+
+// Each attribute has a value of its own, so that its bar has a length of its own: half as much again and ten.
+TEST_F(DossierTest, FourBarsOfTheSheetStandUnderOtherLabels) {
+    struct Case {
+        u8 Unit::*attribute;
+        int value, y, length;
+    };
+    constexpr Case Cases[] = {
+        {&Unit::vitality, 1, 135, 12},      {&Unit::strength, 3, 155, 14},  // 11.5 and 14.5 to the even
+        {&Unit::agility, 10, 175, 25},      {&Unit::perception, 14, 195, 31},
+        {&Unit::intelligence, 20, 235, 40}, {&Unit::marksmanship, 80, 255, 130},
+        {&Unit::mood, 40, 275, 70},         {&Unit::stealth, 60, 215, 100},
+        {&Unit::melee, 22, 295, 43},        {&Unit::sidearms, 24, 315, 46},
+        {&Unit::smgs, 26, 335, 49},         {&Unit::rifles, 28, 355, 52},
+        {&Unit::machineguns, 30, 375, 55},  {&Unit::explosives, 32, 395, 58}};
+    for (const Case& c : Cases)
+        unit.*c.attribute = c.value;
+    LoadInfo();
+    const Picture& blank = StoredPicture("frmInfo.bmp");
+    for (const Case& c : Cases) {
+        const int last = 440 + c.length;
+        EXPECT_NE(frmInfo.canvas.Pixel(last, c.y), blank.Pixel(last, c.y)) << c.y;
+        EXPECT_EQ(frmInfo.canvas.Pixel(last + 1, c.y), blank.Pixel(last + 1, c.y)) << c.y;
+    }
+}
+
+TEST_F(DossierTest, ABarFadesFromYellowToDark) {
+    Form form;
+    form.canvas = Picture(420, 20);
+    const Colour ground = form.canvas.Pixel(0, 0);
+    penX = 10;
+    StatBar(255, 5, form);  // 392.5 pixels, to the even neighbour
+    struct Case {
+        int x, y;
+        Colour colour;
+    };
+    const Case cases[] = {{11, 4, Rgb(255, 255, 100)},
+                          {11, 10, Rgb(255, 255, 100)},
+                          {11, 3, ground},
+                          {11, 11, ground},
+                          {10, 5, ground},
+                          {136, 5, Rgb(175, 175, 20)},
+                          {11 + 391, 5, Rgb(7, 7, 0)},
+                          {11 + 392, 5, ground}};  // the 20th and the last of 63 steps
+    for (const Case& c : cases)
+        EXPECT_EQ(form.canvas.Pixel(c.x, c.y), c.colour) << c.x << " " << c.y;
+}
+
+TEST_F(DossierTest, TheButtonBringsTheInformationAndThenLeavesTheFile) {
+    groundPage = 1;
+    LoadInfo();
+    const auto face = [](int place) { return frmInfo.picB1.canvas.SameAs(*frmDepot.imgBut[place].Picture); };
+    EXPECT_TRUE(face(8) && !frmInfo.Picture2.Visible);
+    for (const auto& [pressed, released] : {std::pair{9, 6}, {7, 8}}) {
+        Dispatch({EventKind::MouseDown, "frmInfo.picB1", -1, 1});
+        EXPECT_TRUE(face(pressed)) << pressed;
+        EXPECT_EQ(host.sounds.back().fileName, "\\wav\\click.wav");
+        Dispatch({EventKind::MouseUp, "frmInfo.picB1", -1, 1});
+        EXPECT_TRUE(face(released)) << released;
+        EXPECT_EQ(frmInfo.Picture2.Visible, released == 6);
+    }
+    EXPECT_FALSE(frmInfo.Visible);
+    EXPECT_EQ(groundPage, 0);
+}
+
+TEST_F(DossierTest, EachCountOfAnAwardHasItsPictureAndFromTheSecondItsNumber) {
+    LoadInfo();
+    for (const auto& [place, file, tip] : {std::tuple{0, "\\pic\\awards\\0001.bmp", "Medal of Honor"},
+                                           {1, "", "Distinguished Service Cross"},
+                                           {16, "\\pic\\awards\\1602.bmp", "Good Conduct Medal: 2"}}) {
+        Dispatch({EventKind::MouseMove, "frmInfo.imgAward", place, 0, 0, 5, 5});
+        EXPECT_EQ(frmInfo.imgAward[place].ToolTipText, tip);
+        EXPECT_EQ(frmInfo.imgAward[place].PictureName, file);
+    }
+}
+
+}  // namespace
