@@ -95,4 +95,11 @@ TEST_F(ThingsTest, ASmallThingStandsInTheMiddleOfALongPlace) {
     }
 }
 
+TEST_F(ThingsTest, APileBeyondTheTableIsRefusedWithALine) {
+    teamLast[PileList] = MaxPiles - 1;
+    WeaponAdd(50, 40);
+    EXPECT_EQ(teamLast[PileList], MaxPiles - 1);
+    EXPECT_EQ(Log(), "no room for another pile of things\n");
+}
+
 }  // namespace

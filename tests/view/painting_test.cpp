@@ -215,4 +215,21 @@ TEST_F(PaintingTest, ASoldierInTheWoodsStandsUnderTheTreeTops) {
     EXPECT_FALSE(frmField.imgCover.Visible);
 }
 
+TEST_F(PaintingTest, BrokenWoodIsShownAsItsRemainsUnderWhoStandsThere) {
+    cellGrid[5][6].tileX = BrokenTile;
+    cellGrid[5][6].tileY = Wooden;
+    Unit& soldier = Put(0);
+    area.Fill(0);  // what was there last
+    PaintCell(6, 5, area);
+    EXPECT_TRUE(Shown().SameAs(WithSoldier(Tile(15, Wooden), soldier)));
+    EXPECT_TRUE(frmField.picBuffer[0].SameAs(Tile(15, Wooden)));
+}
+
+TEST_F(PaintingTest, ASoldierOnAnEnemysBodyIsSeen) {
+    PutUnit(20, 6, 5);
+    UnitTable[20].status = Dead;
+    Put(3);
+    EXPECT_TRUE(ThisVisible(6, 5));
+}
+
 }  // namespace

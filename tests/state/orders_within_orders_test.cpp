@@ -1,0 +1,195 @@
+// What events do in the middle of an order, and what the order goes on with.
+#include "combat/actions.h"
+#include "combat/explosions.h"
+#include "combat/things.h"
+#include "data/weapons_file.h"
+#include "field/sightings.h"
+#include "field/walking.h"
+#include "personal/info_form.h"
+#include "state/operation.h"
+#include "state/state.h"
+#include "state/turns.h"
+#include "tests/support/drawn_field.h"
+#include "tests/support/game_test.h"
+#include "view/events.h"
+#include "view/field_form.h"
+
+namespace {
+
+constexpr int SpaceKey = 32;
+constexpr int FlashPumps = 10;  // five passes, two waits each
+
+class OrdersWithinOrders : public GameTest {
+  protected:
+    OrdersWithinOrders() {
+        ClearField();
+        for (int i : {0, 1, 2}) {
+            PutUnit(i, 10, 10 + 2 * i);
+            UnitTable[i].time = 200;
+        }
+    }
+
+    // The current unit and its weapon are those of soldier `index`.
+    static Unit& Arm(int index, const std::string& weapon, const std::string& mode) {
+        curUnit = index;
+        Hold(weapon, mode);
+        return UnitTable[index];
+    }
+
+    void AtPump(int pump, const InputEvent& event) { host.Queue(event, host.pumps + pump); }
+
+    static InputEvent RightClick(int cellX, int cellY) {
+        return {EventKind::MouseDown,
+                "frmField.area",
+                -1,
+                2,
+                0,
+                static_cast<float>(cellX * CellSize + 10),
+                static_cast<float>(cellY * CellSize + 10)};
+    }
+    static InputEvent Key(int code) { return {EventKind::KeyDown, "frmField", -1, code}; }
+};
+
+TEST_F(OrdersWithinOrders, WhoShootsAComradeGoesOnWithHisOwnModesAndFeed) {
+    Arm(1, "ak", "Burst");
+    Unit& shooter = Arm(0, "xm8lss", "Secondary");
+    UnitTable[1].cellX = 11;
+    UnitTable[1].cellY = 10;
+    cellGrid[10][11].occupant = 1;
+    UnitTable[1].health = 1;
+    UnitTable[1].stance = Stand;
+    ActOnTarget(230, 210);
+    ASSERT_EQ(UnitTable[1].status, Dead) << "thirty pellets at arm's length";
+    EXPECT_EQ(game.modes.Text(), "Secondary");
+    EXPECT_EQ(frmField.comboMode.Text, "Secondary");
+    EXPECT_EQ(frmField.imgInv[0].PictureName, "\\pic\\inv\\xm8lss0.gif") << "the panel shows his own weapon";
+    EXPECT_EQ(shooter.items[0].roundsMain, 20);
+    EXPECT_EQ(shooter.items[0].roundsSecond, 19);
+    EXPECT_EQ(shooter.fireMode, 4);
+}
+
+// Fire, next soldier, fire.
+TEST_F(OrdersWithinOrders, TheSoldierWhoIsSelectedMeanwhileFiresWithHisOwnAndStaysSelected) {
+    Unit& second = Arm(1, "xm8lss", "Secondary");
+    Unit& first = Arm(0, "ak", "Burst");
+    AtPump(1, Key(SpaceKey));
+    AtPump(2 + FlashPumps, RightClick(10, 30));
+    ActOnTarget(900, 210);
+    EXPECT_EQ(first.items[0].roundsMain, 17) << "all three rounds";
+    EXPECT_EQ(first.facing, East);
+    EXPECT_EQ(second.items[0].roundsMain, 20);
+    EXPECT_EQ(second.items[0].roundsSecond, 19);
+    EXPECT_EQ(second.facing, South) << "the click was for him";
+    EXPECT_EQ(curUnit, 1);
+    EXPECT_EQ(game.modes.weapon, "xm8lss");
+    EXPECT_EQ(frmField.comboMode.Text, "Secondary");
+    EXPECT_EQ(frmField.imgBar[0].Width, second.time);
+}
+
+TEST_F(OrdersWithinOrders, AModeChosenInTheMiddleOfABurstIsForTheNextOrder) {
+    Unit& unit = Arm(0, "m4m203", "Burst");
+    AtPump(1, {EventKind::Choose, "frmField.comboMode", -1, 4});
+    ActOnTarget(900, 210);
+    EXPECT_EQ(unit.items[0].roundsMain, 17);
+    EXPECT_EQ(unit.items[0].roundsSecond, 20);
+    EXPECT_EQ(frmField.comboMode.Text, "Secondary");
+    EXPECT_EQ(unit.handRounds, 20) << "the second feed's";
+    EXPECT_EQ(unit.fireMode, 4);
+}
+
+TEST_F(OrdersWithinOrders, ABurstEndsWithTheWeaponThatWasTakenFromTheHand) {
+    StartGame();
+    Unit& unit = Arm(0, "ak", "Full auto");
+    unit.time = 200;
+    AtPump(2, {EventKind::Click, "frmField.picBarWeapon"});
+    AtPump(2, {EventKind::KeyDown, "frmInfo", -1, 40});  // the catalogue puts something else there
+    ActOnTarget(900, 210);
+    EXPECT_NE(unit.items[0].name, "ak");
+    EXPECT_EQ(unit.time, 200 - 2 * WeaponInfoByName("ak").time) << "two rounds were fired before";
+    EXPECT_EQ(game.modes.weapon, unit.hand.name);
+}
+
+TEST_F(OrdersWithinOrders, OrdersAreDroppedWhileAChargeBlows) {
+    curUnit = 0;
+    ChargeAdd(30, 30);
+    UnitTable[ChargeBase].time = 10;
+    for (const InputEvent& order :
+         {Key(SpaceKey), RightClick(40, 40), InputEvent{EventKind::Click, "frmField.picBarWeapon"},
+          InputEvent{EventKind::Click, "frmField.cmdNextTurn"}})
+        AtPump(1, order);
+    NewTurn();
+    const std::string log = Log();
+    EXPECT_EQ(log.find("New turn"), log.rfind("New turn"));
+    EXPECT_FALSE(frmInfo.Visible);
+    EXPECT_EQ(curUnit, 0);
+}
+
+TEST_F(OrdersWithinOrders, OnlyOrdersEndAWalk) {
+    struct Case {
+        InputEvent event;
+        bool ends;
+    };
+    const InputEvent middle{EventKind::MouseDown, "frmField.area", -1, 4, 0, 30, 30};
+    const Case cases[] = {
+        {Key(16), false},   // Shift
+        {Key(101), false},  // 5 of the number pad
+        {Key(87), false},   // W
+        {Key(77), false},   // M, the map
+        {middle, false},   {Key(SpaceKey), true},      {Key(38), true},
+        {Key(221), true},  {RightClick(60, 10), true}, {{EventKind::Click, "frmField.cmdNextTurn"}, true}};
+    for (const Case& c : cases) {
+        PutUnit(0, 10, 10);
+        curUnit = 0;
+        RefreshHand();
+        AtPump(8, c.event);  // after six waves of the search, between two steps
+        walkOn = 1;
+        WalkTo(16, 10, 100);
+        EXPECT_EQ(UnitTable[0].cellX == 16, !c.ends) << EventText(c.event);
+        cellGrid[10][UnitTable[0].cellX].occupant = -1;
+        frmField.bigMapShown = false;
+    }
+}
+
+TEST_F(OrdersWithinOrders, ANewSelectionEndsTheFlashBeforeIt) {
+    host.pumps = 0;
+    AtPump(1, Key(SpaceKey));
+    ScrollToUnit(0);
+    EXPECT_EQ(host.pumps, 1 + FlashPumps);
+    EXPECT_FALSE(frmField.shpSelect.Visible);
+}
+
+TEST_F(OrdersWithinOrders, TheFrameIsHiddenWhereTheSoldierHasLeft) {
+    struct Watcher : HeadlessHost {
+        using HeadlessHost::HeadlessHost;
+        void PumpEvents() override {
+            HeadlessHost::PumpEvents();
+            shown += frmField.shpSelect.Visible ? 1 : 0;
+        }
+        int shown = 0;
+    } watcher(Dispatch);
+    curUnit = 0;
+    RefreshHand();
+    watcher.Queue(Key(39), 4);  // one step east in the second pass, while it is shown
+    ScrollToUnit(0);
+    EXPECT_EQ(watcher.shown, 1);
+    EXPECT_EQ(watcher.pumps, FlashPumps) << "the passes stay";
+    InstallHost(&host);
+}
+
+TEST_F(OrdersWithinOrders, AFoldedToolIsRememberedByItsNewName) {
+    Arm(1, "etool", "Dig");
+    Arm(0, "etool", "Fold");
+    ActOnTarget(210, 210);
+    EXPECT_EQ(game.modes.weapon, "etoolfold");
+    SelectNextUnit();
+    ASSERT_EQ(curUnit, 1);
+    EXPECT_EQ(game.modes.offered, (std::vector<std::string>{"Hit", "Dig", "Fill", "Fold"}));
+}
+
+TEST_F(OrdersWithinOrders, ASquadInWhichNobodyCanEverActEndsWithAMessage) {
+    for (int i : {0, 1, 2})
+        UnitTable[i].agility = 1;
+    EXPECT_NE(ErrorOf(NewTurn).find("agility 2"), std::string::npos);
+}
+
+}  // namespace
