@@ -4,11 +4,15 @@
 #include <fstream>
 #include <sstream>
 
+#include "state/state.h"
 #include "tests/support/game_test.h"
+#include "tools/lab/field_referee.h"
 #include "tools/lab/recording.h"
 #include "tools/lab/remake.h"
 #include "tools/lab/replay.h"
 #include "tools/lab/soak.h"
+#include "view/field_form.h"
+#include "view/painting.h"
 
 namespace {
 
@@ -45,6 +49,38 @@ TEST_F(LabTest, WhatWasRecordedReplaysAndIsRemadeToTheSameStates) {
         EXPECT_EQ(ReplayHeadless(recording).difference, "");
         EXPECT_EQ(RemakeLines(recording), recording.lines) << "seed " << seed;
     }
+}
+
+TEST_F(LabTest, ASquareOfTheFieldThatLooksOtherwiseIsNamedAndPainted) {
+    Recording recording = Record(5, 40);
+    const auto square = std::ranges::find_if(
+        recording.lines, [](const std::string& line) { return line.starts_with("  area "); });
+    ASSERT_NE(square, recording.lines.end());
+    const std::string place = square->substr(7, square->find("20x20") - 7) + "20x20";
+    square->back() = square->back() == '0' ? '1' : '0';
+    const std::filesystem::path pictures = folder.Path() / "pictures";
+    const std::string difference = ReplayHeadless(recording, pictures).difference;
+    EXPECT_NE(difference.find("first picture rectangle that differs: " + place), std::string::npos)
+        << difference;
+    for (const char* name : {"recorded.png", "replayed.png"})
+        EXPECT_TRUE(std::filesystem::exists(pictures / name)) << name;
+}
+
+TEST_F(LabTest, TheRefereeOfTheFieldFindsWhatWasNotRepainted) {
+    StartGame();
+    FieldReferee referee;
+    const Rectangle nothing;
+    EXPECT_EQ(referee.Look(nothing), "");
+    const Unit& soldier = UnitTable[curUnit];
+    cellGrid[40][40].tileX = 1;
+    EXPECT_EQ(referee.Look(nothing), "the cell 40,40 doesn't show what is there");
+    PaintCell(40, 40, frmField.area.canvas);
+    frmField.area.canvas.SetPixel(soldier.pixelX + 10, soldier.pixelY + 10, Rgb(1, 2, 3));
+    EXPECT_NE(referee.Look({soldier.pixelX, soldier.pixelY, 20, 20}), "");
+    PaintUnitAtCell(soldier.cellX, soldier.cellY);
+    frmField.picBuffer[curUnit].SetPixel(3, 3, Rgb(1, 2, 3));
+    EXPECT_NE(referee.Look({soldier.pixelX, soldier.pixelY, 20, 20}).find("another ground under"),
+              std::string::npos);
 }
 
 TEST_F(LabTest, ABareListOfEventsIsMadeARecording) {

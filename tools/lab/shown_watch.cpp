@@ -26,9 +26,10 @@ std::uint64_t Share(int x, int y, std::uint64_t look) {
     return hash.Sum();
 }
 
-bool SameSquare(const Picture& a, const Picture& b, int left, int top) {
+// Whether two pictures of the field agree in so many columns of one row of cells.
+bool Same(const Picture& a, const Picture& b, int left, int width, int top) {
     for (int row = top; row < top + CellSize; ++row)
-        if (!std::equal(a.Row(row) + left, a.Row(row) + left + CellSize, b.Row(row) + left)) return false;
+        if (!std::equal(a.Row(row) + left, a.Row(row) + left + width, b.Row(row) + left)) return false;
     return true;
 }
 
@@ -144,10 +145,12 @@ ShownWatch::ShownWatch()
 
 std::vector<std::string> ShownWatch::Look() {
     std::vector<std::string> lines;
-    for (int y = 0; y < Rows; ++y)
+    const Picture& now = frmField.area.canvas;
+    for (int y = 0; y < Rows; ++y) {
+        if (Same(before, now, 0, now.Width(), y * CellSize)) continue;
         for (int x = 0; x < Columns; ++x)
-            if (!SameSquare(before, frmField.area.canvas, x * CellSize, y * CellSize))
-                LookAtCell(x, y, lines);
+            if (!Same(before, now, x * CellSize, CellSize, y * CellSize)) LookAtCell(x, y, lines);
+    }
     lines.insert(lines.end(), heard->begin(), heard->end());
     heard->clear();
     return lines;
