@@ -10,9 +10,14 @@ void Wheel(QWidget& widget, int turn) {
     QApplication::sendEvent(&widget, &event);
 }
 
-void Key(QWidget& widget, QEvent::Type type, bool repeated, int key = Qt::Key_Left) {
+// A tenth of a second after the one before, or at the same time. Whether the widget took it.
+bool Key(QWidget& widget, QEvent::Type type, bool repeated, int key = Qt::Key_Left, int later = 100) {
+    static quint64 time = 0;
     QKeyEvent event(type, key, Qt::ShiftModifier, QString(), repeated);
+    event.setTimestamp(time += static_cast<quint64>(later));
+    event.ignore();
     QApplication::sendEvent(&widget, &event);
+    return event.isAccepted();
 }
 
 void Mouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held) {
@@ -61,13 +66,18 @@ TEST_F(DesktopTest, ARepeatWaitsForItsKeysPressToEndAndStaysInItsWindow) {
         Key(window, QEvent::KeyPress, true);
         Key(window, QEvent::KeyPress, false, Qt::Key_Up);  // another key is pressed meanwhile
         Key(window, QEvent::KeyPress, true);
+        Key(window, QEvent::KeyRelease, false);
+        EXPECT_TRUE(Key(window, QEvent::ShortcutOverride, false, Qt::Key_Left, 0)) << "nor is it a shortcut";
+        Key(window, QEvent::KeyPress, false, Qt::Key_Left, 0);  // a repeat, too
     };
     Key(window, QEvent::KeyPress, true);
     EXPECT_EQ(EventsOf("frmTest"), "") << "it was pressed in another window";
+    EXPECT_FALSE(Key(window, QEvent::ShortcutOverride, false));
     Key(window, QEvent::KeyPress, false);
     Key(window, QEvent::KeyPress, true);
     EXPECT_EQ(EventsOf("frmTest"),
-              "KeyDown frmTest -1 37 1 0 0\nKeyDown frmTest -1 38 1 0 0\nKeyDown frmTest -1 37 1 0 0\n");
+              "KeyDown frmTest -1 37 1 0 0\nKeyDown frmTest -1 38 1 0 0\nKeyUp frmTest -1 37 1 0 0\n"
+              "KeyDown frmTest -1 37 1 0 0\n");
 }
 
 TEST_F(DesktopTest, AWindowThatLosesTheFocusLetsGoOfItsKeys) {
