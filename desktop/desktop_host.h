@@ -64,7 +64,8 @@ class DesktopHost : public Host {
     SoundDevice soundDevice;
     TurnPause turnPause;
     bool refreshing = false;
-    std::vector<InputEvent> late;  // came from the windows while one was refreshed; they wait for the next pump
+    std::vector<InputEvent>
+        late;  // came from the windows while one was refreshed; they wait for the next pump
     std::function<void(int pump)> playBack;  // empty: a person plays
     QTimer playBackPace;
     std::function<int(int exitCode)> atEnd;

@@ -46,6 +46,20 @@ bool WithCommand(const QKeyEvent& key) {
     return (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
 }
 
+// A window system may tell a repeat as a release and a press at one time, where no finger is so quick.
+constexpr quint64 Instant = 2;  // milliseconds
+
+// The last key that was let go, on any window.
+struct LastRelease {
+    const Keyboard* heldOn;
+    int code;
+    quint64 time;
+} lastRelease = {};
+
+bool Resumes(const QKeyEvent& press) {
+    return KeyCode(press) == lastRelease.code && press.timestamp() - lastRelease.time <= Instant;
+}
+
 const PointerKey* PointerKeyOf(const QKeyEvent& key) {
     const int code = KeyCode(key);
     for (const PointerKey& row : PointerKeys)
@@ -89,6 +103,10 @@ void Keyboard::Sync() {
 
 bool Keyboard::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
+        case QEvent::ShortcutOverride:
+            // Nor does it repeat a shortcut.
+            event->setAccepted(Resumes(static_cast<const QKeyEvent&>(*event)));
+            return event->isAccepted();
         case QEvent::KeyPress:
             Press(static_cast<const QKeyEvent&>(*event));
             return true;
@@ -117,11 +135,15 @@ void Keyboard::Send(EventKind kind, int code, int shift) const {
     sink(event);
 }
 
-// A press may let in events and so come back here before it has ended; those of a key that is merely held
-// would nest without end.
+// A press may let in events and so come back here before it has ended; the repeats of a key that is merely
+// held would nest without end.
 void Keyboard::Press(const QKeyEvent& key) {
     const int code = KeyCode(key);
-    if (key.isAutoRepeat() && (!held.contains(code) || working.contains(code))) return;
+    const bool holds = Resumes(key) ? lastRelease.heldOn == this : held.contains(code);
+    if ((Resumes(key) || key.isAutoRepeat()) && (!holds || working.contains(code))) {
+        if (holds) held.insert(code);
+        return;
+    }
     held.insert(code);
     const auto press = working.insert(code);
     Work(key);
@@ -131,7 +153,8 @@ void Keyboard::Press(const QKeyEvent& key) {
 // A held key only repeats its press.
 void Keyboard::Release(const QKeyEvent& key) {
     if (key.isAutoRepeat()) return;
-    held.erase(KeyCode(key));
+    const bool wasHeld = held.erase(KeyCode(key)) > 0;
+    lastRelease = {wasHeld ? this : nullptr, KeyCode(key), key.timestamp()};
     Send(EventKind::KeyUp, KeyCode(key), ShiftState(key.modifiers()));
 }
 

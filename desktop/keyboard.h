@@ -1,7 +1,7 @@
 // The keyboard on a window. Every key is the game's; besides, Tab moves the focus from stop to stop, and keys
 // that mean nothing to the game move a pointer of their own and press there: on the field from cell to cell,
-// on a small map in steps, elsewhere from stop to stop. The press goes the mouse's way. A held key repeats only
-// in the window in which it was pressed, and each time only when what it did before has ended.
+// on a small map in steps, elsewhere from stop to stop. The press goes the mouse's way. A held key repeats
+// only in the window in which it was pressed, and each time only when what it did before has ended.
 #pragma once
 
 #include <set>

@@ -30,7 +30,10 @@ no_display="Sarnoth III: Run-time error 6: No display: start the game from a des
 refuses "$no_display" env -i "$program"
 refuses "$no_display" env -i DISPLAY=:4711 "$program"
 refuses "$no_display" env -i WAYLAND_DISPLAY=nowhere XDG_RUNTIME_DIR="$work" "$program"
-refuses "$no_display" env -i QT_QPA_PLATFORM=nowhere "$program"
+for platform in nowhere linuxfb:fb=/dev/null; do
+    refuses "$no_display" env -i QT_QPA_PLATFORM=$platform "$program"
+    [ "$(wc -l <err)" -eq 1 ] || complain "more than a line: $platform: $(cat err)"
+done
 
 mkdir bare whole
 cp "$program" bare/sarnoth

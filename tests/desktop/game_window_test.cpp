@@ -1,5 +1,6 @@
 // The game played through its widgets by the mouse, and whole missions by the same script as without a
 // window.
+#include <algorithm>
 #include <cstdlib>
 
 #include "platform/headless_host.h"
@@ -24,8 +25,30 @@ TEST_F(GameWindowTest, IsPlayedByTheMouse) {
     EXPECT_EQ(soldier.stance, Crouch);
     click(frmField.HScrollArea, {200, 8});
     EXPECT_GT(frmField.HScrollArea.Value, 0);
+    const auto turns = [] {
+        const auto& log = frmField.cmbLog.List;
+        return std::count(log.begin(), log.end(), "New turn for team #1");
+    };
     click(frmField.cmdNextTurn);
     EXPECT_EQ(curUnit, 0) << "the turn is the squad's again";
+    EXPECT_EQ(turns(), 1);
+    host.now += std::chrono::milliseconds(299);
+    click(frmField.cmdNextTurn);
+    EXPECT_EQ(turns(), 1) << "the second press of a double click";
+    host.now += std::chrono::milliseconds(1);
+    click(frmField.cmdNextTurn);
+    EXPECT_EQ(turns(), 2);
+}
+
+TEST(TurnPauseTest, AComputersTurnNeedNotBeSeen) {
+    const InputEvent endTurn = {EventKind::Click, "frmField.cmdNextTurn"};
+    const TurnPause::Moment back{std::chrono::hours(1)};
+    TurnPause pause;
+    pause.Note(SquadTeam, back - std::chrono::hours(1));
+    EXPECT_FALSE(pause.Swallows(endTurn, back));
+    pause.Note(SquadTeam, back);
+    EXPECT_FALSE(pause.Swallows({EventKind::Click, "frmField.imgStop"}, back));
+    EXPECT_TRUE(pause.Swallows(endTurn, back + std::chrono::milliseconds(299)));
 }
 
 class MissionHost : public HastyHost {

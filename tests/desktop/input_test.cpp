@@ -10,8 +10,18 @@ void Wheel(QWidget& widget, int turn) {
     QApplication::sendEvent(&widget, &event);
 }
 
-void Key(QWidget& widget, QEvent::Type type, bool repeated) {
-    QKeyEvent event(type, Qt::Key_Left, Qt::ShiftModifier, QString(), repeated);
+// A tenth of a second after the one before, or at the same time. Whether the widget took it.
+bool Key(QWidget& widget, QEvent::Type type, bool repeated, int key = Qt::Key_Left, int later = 100) {
+    static quint64 time = 0;
+    QKeyEvent event(type, key, Qt::ShiftModifier, QString(), repeated);
+    event.setTimestamp(time += static_cast<quint64>(later));
+    event.ignore();
+    QApplication::sendEvent(&widget, &event);
+    return event.isAccepted();
+}
+
+void Mouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held) {
+    QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, Qt::NoModifier);
     QApplication::sendEvent(&widget, &event);
 }
 
@@ -47,6 +57,77 @@ TEST_F(DesktopTest, AHeldKeyRepeatsAndIsReleasedOnce) {
               "KeyDown frmTest -1 37 1 0 0\n"
               "KeyDown frmTest -1 37 1 0 0\n"
               "KeyUp frmTest -1 37 1 0 0\n");
+}
+
+TEST_F(DesktopTest, ARepeatWaitsForItsKeysPressToEndAndStaysInItsWindow) {
+    int depth = 0;
+    answer = [&](const InputEvent& event) {
+        if (event.kind != EventKind::KeyDown || ++depth > 1) return;
+        Key(window, QEvent::KeyPress, true);
+        Key(window, QEvent::KeyPress, false, Qt::Key_Up);  // another key is pressed meanwhile
+        Key(window, QEvent::KeyPress, true);
+        Key(window, QEvent::KeyRelease, false);
+        EXPECT_TRUE(Key(window, QEvent::ShortcutOverride, false, Qt::Key_Left, 0)) << "nor is it a shortcut";
+        Key(window, QEvent::KeyPress, false, Qt::Key_Left, 0);  // a repeat, too
+    };
+    Key(window, QEvent::KeyPress, true);
+    EXPECT_EQ(EventsOf("frmTest"), "") << "it was pressed in another window";
+    EXPECT_FALSE(Key(window, QEvent::ShortcutOverride, false));
+    Key(window, QEvent::KeyPress, false);
+    Key(window, QEvent::KeyPress, true);
+    EXPECT_EQ(EventsOf("frmTest"),
+              "KeyDown frmTest -1 37 1 0 0\nKeyDown frmTest -1 38 1 0 0\nKeyUp frmTest -1 37 1 0 0\n"
+              "KeyDown frmTest -1 37 1 0 0\n");
+}
+
+TEST_F(DesktopTest, AWindowThatLosesTheFocusLetsGoOfItsKeys) {
+    Key(window, QEvent::KeyPress, false);
+    Key(window, QEvent::KeyPress, false, Qt::Key_Up);
+    Key(window, QEvent::KeyRelease, false, Qt::Key_Up);
+    events.clear();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    EXPECT_EQ(EventsOf("frmTest"), "KeyUp frmTest -1 37 0 0 0\n");
+    Key(window, QEvent::KeyPress, true);
+    EXPECT_EQ(events.size(), 1U) << "it is no more held here";
+}
+
+TEST_F(DesktopTest, ADragBeyondAControlGoesAlongItsEdge) {
+    form.picBoard.Top = 0;  // its lower part lies behind the slate
+    host.PumpEvents();
+    QWidget& board = *window.WidgetOf(form.picBoard);
+    Mouse(board, QEvent::MouseButtonPress, {60, 50}, Qt::LeftButton, Qt::LeftButton);
+    for (const QPointF at : {QPointF(-30, 50), {60, -1}, {299.7, 100}, {310, 500}})
+        Mouse(board, QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton);
+    Mouse(board, QEvent::MouseButtonPress, {310, 500}, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    Mouse(board, QEvent::MouseButtonPress, {60, 239}, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    Mouse(board, QEvent::MouseButtonRelease, {60, 239}, Qt::RightButton, Qt::LeftButton);
+    Mouse(board, QEvent::MouseButtonPress, {60, 51}, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    Mouse(board, QEvent::MouseButtonRelease, {310, 20}, Qt::LeftButton, Qt::RightButton);
+    EXPECT_EQ(EventsOf("frmTest.picBoard"),
+              "MouseDown frmTest.picBoard -1 1 0 60 50\n"
+              "MouseMove frmTest.picBoard -1 1 0 0 50\n"
+              "MouseMove frmTest.picBoard -1 1 0 60 0\n"
+              "MouseMove frmTest.picBoard -1 1 0 299 100\n"
+              "MouseMove frmTest.picBoard -1 1 0 299 239\n"
+              "MouseDown frmTest.picBoard -1 2 0 60 51\n"
+              "MouseUp frmTest.picBoard -1 1 0 299 20\n")
+        << "the other button is pressed on what covers the board, too";
+}
+
+TEST_F(DesktopTest, WhatAPressBringsUpDoesntTakeTheSecondOneOfADoubleClick) {
+    QWidget& board = *window.WidgetOf(form.picBoard);
+    QWidget& slate = *window.WidgetOf(form.picSlate);
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        Mouse(board, QEvent::MouseButtonPress, {60, 50}, button, button);
+        Mouse(slate, QEvent::MouseButtonDblClick, {5, 5}, button, button);
+        Mouse(slate, QEvent::MouseButtonRelease, {5, 5}, button, Qt::NoButton);
+        Mouse(*window.WidgetOf(form.cmdGo), QEvent::MouseButtonDblClick, {5, 5}, button, button);
+        Mouse(*window.WidgetOf(form.cmdGo), QEvent::MouseButtonRelease, {5, 5}, button, Qt::NoButton);
+    }
+    EXPECT_EQ(events.size(), 2U) << "the board's presses";
 }
 
 TEST_F(DesktopTest, KeysReachTheWindowAfterClicksOnControls) {

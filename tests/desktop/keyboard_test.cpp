@@ -3,6 +3,7 @@
 #include <set>
 #include <utility>
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QComboBox>
 #include <QFocusFrame>
@@ -201,7 +202,11 @@ TEST_F(KeyboardDeathTest, AWholeTurnIsPlayedByKeysAlone) {
     EXPECT_EQ(soldier.items[0].name, "");
 
     const int left = soldier.time;
+    auto& button = dynamic_cast<QAbstractButton&>(*field.WidgetOf(frmField.cmdNextTurn));
+    QTest::simulateEvent(&field, true, Qt::Key_E, Qt::AltModifier, QString(), true);
+    EXPECT_FALSE(button.isDown()) << "a held key ends one turn, not many";
     Press(Qt::Key_E, Qt::AltModifier);
+    EXPECT_TRUE(button.isDown());
     EXPECT_TRUE(QTest::qWaitFor([&] { return soldier.time > left; }))
         << "the button is seen going down first";
     EXPECT_EQ(curTeam, SquadTeam);

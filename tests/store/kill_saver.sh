@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Kills a program that saves the vehicle store, at 200 random moments; the store must be whole after each.
+# Lets two programs save the vehicle store at once, then kills one at 200 random moments; the store must be whole after each.
 # Usage: kill_saver.sh SAVER GAME_FOLDER
 set -eu
 saver=$1
@@ -7,7 +7,9 @@ folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 cp -r "$2/dat" "$folder/dat"
 RANDOM=7
-timeout -s KILL 0.3 "$saver" "$folder" save || true
+for game in 1 2; do timeout -s KILL 0.5 "$saver" "$folder" save 2>>"$folder/errors" & done
+wait
+[ ! -s "$folder/errors" ] || { echo "two games at once are in each other's way: $(cat "$folder/errors")"; exit 1; }
 for round in $(seq 200); do
     "$saver" "$folder" save &
     pid=$!
