@@ -1,8 +1,11 @@
 // The sheet of a soldier's file: who he is, his bars, his ribbons, and the button for the rest.
 #include "personal/dossier.h"
 
+#include <algorithm>
+
 #include "personal/info_form.h"
 #include "personal/personal_file.h"
+#include "personal/typewriter.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"
 #include "view/depot_form.h"
@@ -19,7 +22,13 @@ class DossierTest : public GameTest {
 };
 
 TEST_F(DossierTest, TheSheetShowsWhoHeIs) {
+    unit.country = "USX";
     LoadInfo();
+    Picture typed = StoredPicture("frmInfo.bmp");
+    Typewriter("  CPT", true, typed, 240, 80);
+    Typewriter("MARCUS HALE", true, typed, 240, 110);
+    for (int y = 80; y < 124; ++y)
+        EXPECT_TRUE(std::equal(typed.Row(y) + 240, typed.Row(y) + 440, frmInfo.canvas.Row(y) + 240)) << y;
     EXPECT_EQ(frmInfo.imgFace.PictureName, "\\pic\\faces\\usa01.bmp");
     EXPECT_EQ(frmInfo.imgChevron.PictureName, "\\pic\\chevrons\\cpt.gif");
     EXPECT_EQ(frmInfo.imgChevron.ToolTipText, "Captain");

@@ -63,7 +63,7 @@ TEST_F(PersonalFileTest, AThingIsTakenUpFollowsThePointerAndGoesHome) {
     LoadInfo();
     Press(0);
     EXPECT_EQ(In(PointerSlot).name, "m4");
-    EXPECT_EQ(In(0).name, "");
+    EXPECT_EQ(In(0).name + frmInfo.imgFlag.ToolTipText, "") << "its maker's flag goes along";
     At(EventKind::MouseMove, 300.5F, 100.4F, 0);
     EXPECT_EQ(frmInfo.imgDrag.Left, 300 - 58);
     Dispatch({EventKind::MouseMove, "frmInfo.cmdNext", -1, 0, 0, 10, 12});
@@ -74,6 +74,7 @@ TEST_F(PersonalFileTest, AThingIsTakenUpFollowsThePointerAndGoesHome) {
     EXPECT_EQ(frmInfo.shownUnit, 0);
     Dispatch({EventKind::MouseDown, "frmInfo.imgAward", 12, 1, 0, 30, 20});
     EXPECT_EQ(In(0).name, "m4");
+    EXPECT_EQ(frmInfo.imgDrag.Width, 42);
     Press(0);
     Press(1);  // laid on the submachine gun, which comes up
     EXPECT_EQ(In(1).name, "m4");
@@ -371,7 +372,7 @@ TEST_F(PersonalFileTest, PagingGoesRoundTheFitOnesAndTheSelectionFollows) {
     EXPECT_EQ(UnitTable[3].fireMode, 1) << "kept by a weapon that was not changed";
     EXPECT_EQ(frmField.shpSelect.Top, UnitTable[3].pixelY) << "the view shows the one last paged to";
     const std::size_t lines = frmField.cmbLog.List.size();
-    std::swap(In(0), In(1));
+    In(0) = MakeItem(WeaponInfoByName("ak"));
     OpenInfo();
     EXPECT_EQ(frmField.cmbLog.List.size(), lines) << "who wasn't paged away isn't selected again";
     EXPECT_EQ(UnitTable[3].fireMode, 0) << "another weapon begins with its first mode";
