@@ -24,14 +24,17 @@ TEST_F(CampaignFilesTest, ASoldiersFieldsLieWhereTheFormatSays) {
     const std::size_t second = 882 * 2;
     Place(file, second, std::string("\x34\x12\x07", 3));
     Place(file, second + 3, "Zo\xEB Brandt                     ");
-    Place(file, second + 33, "FRf b");
+    Place(file, second + 33, "F f b");
     Place(file, second + 38, "\x0Cj");
     for (std::size_t i = 0; i < 14; ++i)
         file[second + 40 + i] = static_cast<char>(100 + i);
     Place(file, second + 54, std::string("\x05\x06\x07\x03\xFF\xFF\x50\x00\x2C\x01\x01\x00", 12));
     const std::size_t slot21 = second + 66 + 21 * 37;
     Place(file, slot21, std::string("7ak       \x00\x09\x00", 13));
-    Place(file, slot21 + 13, std::string("7ak       \x1F\x1D          \x00\x00", 24));
+    Place(file, slot21 + 13,
+          std::string("7ak       \x1F\x1D"
+                      "40gren    \x03\x02",
+                      24));
     folder.Write("dat/save.dat", file);
     LoadRoster();
     EXPECT_EQ(teamLast[RosterTeam], 1);
@@ -39,17 +42,20 @@ TEST_F(CampaignFilesTest, ASoldiersFieldsLieWhereTheFormatSays) {
     EXPECT_EQ(soldier.serialNo, 0x1234);
     EXPECT_EQ(soldier.rank, 7);
     EXPECT_EQ(soldier.name, "Zoë Brandt");
-    EXPECT_EQ(soldier.country + soldier.facePrefix + soldier.faceGroup + soldier.faceType, "FRf bj")
-        << "blanks are kept in the face";
+    EXPECT_EQ(soldier.country + soldier.facePrefix + soldier.faceGroup + soldier.faceType, "F f bj")
+        << "blanks are kept in the country and the face";
     const InvItem& item = soldier.items[21];
-    EXPECT_EQ(item.name, "7ak");
-    const int fields[] = {soldier.faceNo, soldier.vitality, soldier.marksmanship, soldier.explosives,
-                          soldier.cellX,  soldier.facing,   soldier.stance,       soldier.time,
-                          soldier.health, soldier.energy,   item.capMain,         item.roundsMain,
-                          item.durab};
-    // Among them the first, the seventh and the last of fourteen attributes; the condition is that of every
-    // roster.
-    const int expected[] = {12, 100, 106, 113, 5, 7, 3, -1, 80, 300, 31, 29, 270};
+    EXPECT_EQ(item.name + item.ammoMain + item.ammoSecond, "7ak7ak40gren");
+    const int fields[] = {
+        soldier.faceNo,       soldier.vitality, soldier.strength,     soldier.agility,     soldier.perception,
+        soldier.intelligence, soldier.mood,     soldier.marksmanship, soldier.stealth,     soldier.melee,
+        soldier.sidearms,     soldier.smgs,     soldier.rifles,       soldier.machineguns, soldier.explosives,
+        soldier.cellX,        soldier.cellY,    soldier.facing,       soldier.stance,      soldier.time,
+        soldier.health,       soldier.energy,   soldier.aimChance,    item.count,          item.durab,
+        item.capMain,         item.roundsMain,  item.capSecond,       item.roundsSecond};
+    // The condition is that of every thing in a roster.
+    const int expected[] = {12, 100, 101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113,
+                            5,  6,   7,   3,   -1,  80,  300, 1,   0,   270, 31,  29,  3,   2};
     for (std::size_t i = 0; i < std::size(fields); ++i)
         EXPECT_EQ(fields[i], expected[i]) << i;
     EXPECT_EQ(UnitTable[62].name, "") << "records beyond the end stay empty";

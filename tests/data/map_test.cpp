@@ -77,6 +77,7 @@ TEST_F(MapTest, ATileGivesACellItsStrengthAndWhatItStops) {
         for (int x = 0; x < Tiles; ++x) {
             if (tileY == Various && x == LandingMark) continue;
             const Cell& cell = cellGrid[tileY][x];
+            EXPECT_EQ(cell.occupant, -1);
             EXPECT_EQ(cell.durab, strengths.at(Cases[tileY].durab[x])) << Cases[tileY].name << " " << x;
             EXPECT_EQ(cell.block, Cases[tileY].stops[x] == '.' ? 0 : Cases[tileY].stops[x] - '0')
                 << Cases[tileY].name << " " << x;

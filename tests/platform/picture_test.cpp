@@ -140,8 +140,8 @@ TEST(PictureFiles, TheDataOfAJpegAreCountedToTheLastCode) {
         whole.erase(whole.size() - 4, 2);  // before the mark of the end
         EXPECT_NE(ErrorOf([&] { DecodePicture(whole, name); }), "") << name;
     }
-    const std::string upAndDown = JpegTables + JpegScan + Bytes("\x7F\xFF\0\0\0\x3F\xFF\xD9");
-    EXPECT_EQ(ErrorOf([&] { DecodePicture(upAndDown, ""); }), "") << "32767 and as much less";
+    const std::string upAndDown = JpegTables + JpegScan + Bytes("\x7F\xFF\0\x1F\xFF\0\xBF\xFF\xD9");
+    EXPECT_EQ(ErrorOf([&] { DecodePicture(upAndDown, ""); }), "") << "32767, and then 16384 less";
 }
 
 TEST(PictureFiles, WhatTheGameCantShowIsNamed) {
