@@ -34,9 +34,8 @@ constexpr int MaxSide = 2048;  // pixels; the largest of the game's pictures has
 }
 
 [[noreturn]] void RefuseFormat(std::string_view name) {
-    const char* const reason = stbi_failure_reason();  // none for a GIF that ends before its picture
-    Refuse(name, std::string("expected a picture (BMP, GIF or JPEG), found ") +
-                     (reason == nullptr ? "none" : reason));
+    const std::string reason = stbi_failure_reason();  // empty for a GIF that ends before its picture
+    Refuse(name, "expected a picture (BMP, GIF or JPEG), found " + (reason.empty() ? "none" : reason));
 }
 
 // Before anything is decoded, so that a few bytes of a header can't ask for gigabytes.

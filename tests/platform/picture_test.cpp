@@ -157,6 +157,9 @@ TEST(PictureFiles, WhatTheGameCantShowIsNamed) {
     gif.replace(6, 4, "\x01\x08\1\0", 4);
     const std::string jpeg = Bytes("\xFF\xD8\xFF");
     const Case cases[] = {
+        // The decoder takes a length in this odd control block, 59, for the mark of the end.
+        {Bytes("GIF89a\1\0\1\0\0\0\0!\xF9\5abcde;") + std::string(59, 'x') + TinyGif.substr(20),
+         "expected a picture (BMP, GIF or JPEG), found none"},
         {"MZ, no picture", "expected a picture (BMP, GIF or JPEG), found unknown image type"},
         {tall, "byte 62: expected a whole BMP, found the end of the file"},
         {twoRows, "byte 62: expected a whole BMP, found the end of the file"},

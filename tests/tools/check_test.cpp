@@ -259,7 +259,8 @@ TEST(FindingsTest, TheCaretStandsUnderTheColumnAndJsonIsEscaped) {
 TEST(FindingsTest, OfALongLineOnlyWhatLiesAroundTheFaultIsShown) {
     CheckedText text;
     text.path = "f";
-    text.lines = {std::string(100, 'a') + "\u00EB" + std::string(1000, 'b')};
+    text.lines = {std::string(100, 'a') + "\u00EB" + std::string(1000, 'b'), std::string(200, 'c')};
+    text.faults.Add({{2, 200}, "w", "e"});
     for (const int column : {1, 202, 203, 1103})
         text.faults.Add({{1, column}, "w", "e"});
     Findings findings;
@@ -269,7 +270,8 @@ TEST(FindingsTest, OfALongLineOnlyWhatLiesAroundTheFaultIsShown) {
         "f:1:202: w, expected e\n    \u00EB" + std::string(198, 'b') + "\n    " + std::string(100, ' ') +
             "^\n",
         "f:1:203: w, expected e\n    " + std::string(200, 'b') + "\n    " + std::string(100, ' ') + "^\n",
-        "f:1:1103: w, expected e\n    " + std::string(100, 'b') + "\n    " + std::string(100, ' ') + "^\n"};
+        "f:1:1103: w, expected e\n    " + std::string(100, 'b') + "\n    " + std::string(100, ' ') + "^\n",
+        "f:2:200: w, expected e\n    " + std::string(200, 'c') + "\n    " + std::string(199, ' ') + "^\n"};
     for (std::size_t i = 0; i < findings.size(); ++i)
         EXPECT_EQ(FindingsText({findings[i]}), expected[i]);
 }
