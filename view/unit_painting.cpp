@@ -136,6 +136,13 @@ void RaiseTreeTop(int x, int y, int column) {
     cover.Visible = true;
 }
 
+// Whether any soldier has the enemy of that place in his record.
+bool IsSighted(int place) {
+    for (int soldier = 0; soldier <= teamLast[SquadTeam]; ++soldier)
+        if (UnitTable[soldier].seen[place] == 1) return true;
+    return false;
+}
+
 }  // namespace
 
 void PaintUnit(int dx, int dy) {
@@ -147,16 +154,21 @@ void PaintUnit(int dx, int dy) {
 }
 
 bool ThisVisible(int x, int y) {
-    const auto standsHere = [x, y](int index) {
-        return UnitTable[index].cellX == x && UnitTable[index].cellY == y;
-    };
-    for (int i = 0; i < TeamStride; ++i)
-        if (standsHere(i)) return true;
-    for (int i = 0; i < TeamStride; ++i) {
-        if (!standsHere(FirstOf(EnemyTeam) + i)) continue;
-        for (int j = 0; j <= teamLast[SquadTeam]; ++j)
-            if (UnitTable[j].seen[i] == 1) return true;
-        return false;
+    // The dead keep their cells. Whoever has stepped on one since is the one who may be seen.
+    for (const bool dead : {false, true}) {
+        const auto standsHere = [x, y, dead](int index) {
+            const Unit& unit = UnitTable[index];
+            return unit.cellX == x && unit.cellY == y && (unit.status == Dead) == dead;
+        };
+        bool anyEnemy = false;
+        for (int i = 0; i < TeamStride; ++i)
+            if (standsHere(i)) return true;
+        for (int i = 0; i < TeamStride; ++i) {
+            if (!standsHere(FirstOf(EnemyTeam) + i)) continue;
+            if (IsSighted(i)) return true;
+            anyEnemy = true;
+        }
+        if (anyEnemy) return false;
     }
     return false;
 }

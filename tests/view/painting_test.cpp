@@ -225,11 +225,19 @@ TEST_F(PaintingTest, BrokenWoodIsShownAsItsRemainsUnderWhoStandsThere) {
     EXPECT_TRUE(frmField.picBuffer[0].SameAs(Tile(15, Wooden)));
 }
 
-TEST_F(PaintingTest, ASoldierOnAnEnemysBodyIsSeen) {
-    PutUnit(20, 6, 5);
-    UnitTable[20].status = Dead;
-    Put(3);
+TEST_F(PaintingTest, WhoStandsOnABodyIsSeenByWhoHeIs) {
+    for (const int body : {1, 20}) {
+        PutUnit(body, 6, 5);
+        UnitTable[body].status = Dead;
+    }
+    UnitTable[0].seen[0] = 1;
+    PutUnit(22, 6, 5);
+    EXPECT_FALSE(ThisVisible(6, 5)) << "an enemy whom nobody has sighted";
+    UnitTable[0].seen[2] = 1;
     EXPECT_TRUE(ThisVisible(6, 5));
+    UnitTable[22].cellX = 7;
+    UnitTable[0].seen = {};
+    EXPECT_TRUE(ThisVisible(6, 5)) << "a soldier's body";
 }
 
 }  // namespace

@@ -100,7 +100,8 @@ std::string LeftTrail(const Rectangle& changed) {
     return "";
 }
 
-// Rifles and pistols are never used up; only the catalogue makes and its bin takes them.
+// Rifles and pistols are never used up, and lie in marked piles; only the catalogue makes and its bin takes
+// them.
 int CountGuns() {
     int guns = 0;
     const auto count = [&guns](const InvItem& item) {
@@ -109,10 +110,9 @@ int CountGuns() {
     for (int i = 0; i < UnitPlaces; ++i)
         for (int slot = 0; slot < FirstGround; ++slot)
             count(UnitTable[i].items[slot]);
-    for (int y = 0; y < FieldHeight; ++y)
-        for (int x = 0; x < FieldWidth; ++x)
-            for (const InvItem& item : groundItems[y][x])
-                count(item);
+    for (int i = PileBase; i <= PileBase + teamLast[PileList]; ++i)
+        for (const InvItem& item : groundItems[UnitTable[i].cellY][UnitTable[i].cellX])
+            count(item);
     for (const InvItem& item : storeItems)
         count(item);
     return guns;
