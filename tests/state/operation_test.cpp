@@ -37,13 +37,17 @@ TEST_F(OperationTest, TimeThatComesBackKeepsTheSelection) {
     EXPECT_EQ(curUnit, 0);
 }
 
+TEST_F(OperationTest, NobodyHandsOverWhoAskedWhileItWasHeld) {
+    RunOperation([] { HoldHandOver([] { Spend(78, "time"); }); });
+    EXPECT_EQ(curUnit, 0);
+}
+
 TEST_F(OperationTest, WhatEventsSelectInItsMiddleStaysSelectedAfterIt) {
     RunOperation([] {
-        PumpKeepingOrder([] {
-            SelectNextUnit();
-            SelectNextUnit();
-        });
-        EXPECT_EQ(curUnit, 0) << "the operation goes on with its own unit";
+        for (int pump = 0; pump < 2; ++pump) {  // the second goes on from what the first selected
+            PumpKeepingOrder([] { SelectNextUnit(); });
+            EXPECT_EQ(curUnit, 0) << "the operation goes on with its own unit";
+        }
         Spend(78, "time");
     });
     EXPECT_EQ(curUnit, 2) << "what was selected, and the spent one's wish is void";
