@@ -6,6 +6,7 @@
 #include "state/turns.h"
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
+#include "view/field_form.h"
 
 namespace {
 
@@ -51,6 +52,7 @@ TEST_F(OperationTest, WhatEventsSelectInItsMiddleStaysSelectedAfterIt) {
         Spend(78, "time");
     });
     EXPECT_EQ(curUnit, 2) << "what was selected, and the spent one's wish is void";
+    EXPECT_EQ(frmField.imgBar[0].Width, 80) << "the panel shows his time again";
     PumpKeepingOrder([] { SelectNextUnit(); });
     EXPECT_EQ(curUnit, 1) << "outside of one a pump may select";
 }
