@@ -101,6 +101,15 @@ TEST_F(ActionsTest, ABurstPaysForEachRoundAndStopsAtTheFirstRefusal) {
     }
 }
 
+TEST_F(ActionsTest, AModeChosenInTheMiddleOfABurstIsTheNextOrders) {
+    Hold("m4m203", "Burst");
+    host.Queue({EventKind::Choose, "frmField.comboMode", -1, 4}, host.pumps + 1);
+    ActOnTarget(900, 410);
+    EXPECT_EQ(unit.items[0].roundsMain, 17);
+    EXPECT_EQ(unit.items[0].roundsSecond, 20);
+    EXPECT_EQ(game.modes.Text(), "Secondary");
+}
+
 TEST_F(ActionsTest, AShellIsThirtyPelletsOfAThirtiethOfThePower) {
     Hold("spas", "Aimed shot", 6);
     host.pumps = 0;
@@ -120,7 +129,11 @@ TEST_F(ActionsTest, ASecondaryBarrelUsesTheSecondFeedAndHasALaunchOfItsOwn) {
     EXPECT_EQ(unit.items[0].roundsMain, 3);
     EXPECT_EQ(Heard("weapons\\bloop"), 1U);
     EXPECT_EQ(Heard("weapons\\gren40"), 1U);
+    EXPECT_EQ(host.sounds.back().pan, (impactX - 20) * 50) << "it bursts where it came down";
     EXPECT_EQ(unit.items[0].name, "m4m203") << "the launcher stays in the hand";
+    Hold("m4m203", "Secondary", 0);
+    ActOnTarget(900, 410);
+    EXPECT_EQ(Heard("weapons\\bloop"), 1U) << "nothing leaves an empty barrel";
 }
 
 TEST_F(ActionsTest, TheMuzzleIsWhereTheShooterFaces) {
@@ -186,10 +199,19 @@ TEST_F(ActionsTest, ABurstWandersOffFartherThanAnyOfItsBulletsScatters) {
     }
 }
 
+TEST_F(ActionsTest, WhoAimsBetterThanPerfectlyScattersNothing) {
+    Hold("ak", "Burst");
+    unit.marksmanship = 250;
+    ActOnTarget(36 * 20 + 10, 410);
+    EXPECT_EQ(impactX, 36);
+    EXPECT_EQ(impactY, 20);
+}
+
 TEST_F(ActionsTest, FoldingCostsNothing) {
     Hold("etool", "Fold", 0);
     ActOnTarget(700, 410);
     EXPECT_EQ(unit.hand.name, "etoolfold");
+    EXPECT_EQ(frmField.imgInv[0].PictureName, "\\pic\\inv\\etoolfold.gif");
     EXPECT_EQ(unit.items[0].count, 0);
     ActOnTarget(700, 410);
     EXPECT_EQ(unit.items[0].name, "etool");

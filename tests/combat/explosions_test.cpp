@@ -128,6 +128,13 @@ TEST_F(ExplosionsTest, ACureWorksForSixtyOfAHundredAndOneDraws) {
     EXPECT_EQ(*working.rbegin(), 59);
 }
 
+TEST_F(ExplosionsTest, ACureWithoutTheTimeForItKeepsItsCharge) {
+    Hold("med", "Cure", 5);
+    unit.time = 9;
+    ActOnTarget(410, 210);
+    EXPECT_EQ(unit.items[0].roundsMain, 5);
+}
+
 TEST_F(ExplosionsTest, AKitHealsUpToTheVitalityInItsNarrowField) {
     struct Case {
         int x, y;

@@ -99,6 +99,7 @@ TEST_F(FlightTest, EachCellTakesItsToll) {
         {"furniture", 17, Wooden, -1, 60, 75, 50, 80, 81},
         {"rock", 3, Stone, -1, 0, 0, 0, 0, 3},
         {"rubble", 14, Stone, -1, 20, 100, 40, 100, 14},
+        {"a gap in the rocks", 16, Stone, -1, 100, 100, 100, 100, 16},
         {"a soldier", 0, Surface, 20, 45, 60, 80, 90, 0},
         {"the first civilian", 0, Surface, 40, 45, 60, 80, 90, 0},
         {"any other civilian", 0, Surface, 41, 100, 100, 100, 100, 0},

@@ -36,12 +36,13 @@ TEST_F(DossierTest, TheSheetShowsWhoHeIs) {
     EXPECT_EQ(frmInfo.imgManFlag.ToolTipText, "United States");
     EXPECT_EQ(frmInfo.imgFlag.ToolTipText, "United States [M4A1]");
     unit.time = 7;
+    unit.cellX = 70;
     for (const auto& [team, word] : {std::pair{0, "fighters"}, {1, "enemies"}, {2, "civilians"}, {3, ""}}) {
         unit.team = team;
         FillInfoPanel();
         EXPECT_EQ(frmInfo.lblInv.Caption,
                   "name: Marcus Hale\rteam: " + std::string(word) +
-                      "\rhealth: 51\rtime: 7\rx: 1\ry: " + std::to_string(unit.cellY) +
+                      "\rhealth: 51\rtime: 7\rx: 70\ry: " + std::to_string(unit.cellY) +
                       "\rori: E\rweapon: m4\rweapon power: 57\rweapon accur: 80");
     }
     for (const auto& [type, file] : {std::pair{"j", "usa01.jpg"}, {"g", "usa01.gif"}}) {

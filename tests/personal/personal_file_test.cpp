@@ -222,6 +222,26 @@ TEST_F(PersonalFileTest, AnOrderToTheStoreIsGivenUpWhenAnotherSoldierWasSelected
     }
 }
 
+TEST_F(PersonalFileTest, WhatFliesKeepsItsPowerAndNoMoreIsFiredWhenTheWeaponIsPutAway) {
+    for (const auto& [thing, mode, crater] : {std::tuple{"ak", "Burst", 0}, {"m67", "Throw", 150 / 2}}) {
+        for (int x = 2; x <= 7; ++x)
+            PutTile(x, 1, 0, Surface);
+        Hold(thing, mode, 9);
+        In(1).name = "";
+        Self().marksmanship = 100;
+        Self().time = 80;
+        host.Queue({EventKind::Click, "frmField.picBarWeapon"}, host.pumps + 1);
+        for (const float x : {200.0F, 35.0F})  // from the hand into the place beside it
+            host.Queue({EventKind::MouseDown, "frmInfo", -1, 1, 0, x, 225});
+        host.Queue({EventKind::KeyDown, "frmInfo", -1, EnterKey});
+        ActOnTarget(6 * 20 + 10, 30);
+        EXPECT_EQ(In(1).name, thing);
+        EXPECT_EQ(Self().hand.name, "hand");
+        EXPECT_EQ(80 - Self().time, WeaponInfoByName(thing).time) << "one round was paid for";
+        EXPECT_EQ(cellGrid[impactY][impactX].durab, 200 - crater);
+    }
+}
+
 TEST_F(PersonalFileTest, TheCatalogueStepsThroughItsRowsAndSizes) {
     weaponPage = WeaponIndex("m4") - 2;
     LoadInfo();

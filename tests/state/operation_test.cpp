@@ -6,6 +6,7 @@
 #include "state/turns.h"
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
+#include "view/field_form.h"
 
 namespace {
 
@@ -37,16 +38,21 @@ TEST_F(OperationTest, TimeThatComesBackKeepsTheSelection) {
     EXPECT_EQ(curUnit, 0);
 }
 
+TEST_F(OperationTest, NobodyHandsOverWhoAskedWhileItWasHeld) {
+    RunOperation([] { HoldHandOver([] { Spend(78, "time"); }); });
+    EXPECT_EQ(curUnit, 0);
+}
+
 TEST_F(OperationTest, WhatEventsSelectInItsMiddleStaysSelectedAfterIt) {
     RunOperation([] {
-        PumpKeepingOrder([] {
-            SelectNextUnit();
-            SelectNextUnit();
-        });
-        EXPECT_EQ(curUnit, 0) << "the operation goes on with its own unit";
+        for (int pump = 0; pump < 2; ++pump) {  // the second goes on from what the first selected
+            PumpKeepingOrder([] { SelectNextUnit(); });
+            EXPECT_EQ(curUnit, 0) << "the operation goes on with its own unit";
+        }
         Spend(78, "time");
     });
     EXPECT_EQ(curUnit, 2) << "what was selected, and the spent one's wish is void";
+    EXPECT_EQ(frmField.imgBar[0].Width, 80) << "the panel shows his time again";
     PumpKeepingOrder([] { SelectNextUnit(); });
     EXPECT_EQ(curUnit, 1) << "outside of one a pump may select";
 }

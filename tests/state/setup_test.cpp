@@ -9,6 +9,7 @@
 #include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 #include "tools/player/orders.h"
+#include "view/field_form.h"
 
 namespace {
 
@@ -77,6 +78,7 @@ TEST_F(SetupTest, TheMenusExitEndsTheMissionAndSavesTheStore) {
     storeItems[0].durab = 17;
     EXPECT_THROW(LeaveMission(), ProcessEnded);
     EXPECT_EQ(host.messages, std::vector<std::string>{"Withdrawal. The end."});
+    EXPECT_FALSE(frmField.Visible);
     LoadStore();
     EXPECT_EQ(storeItems[0].durab, 17);
 }

@@ -68,6 +68,17 @@ TEST_F(TurnsTest, ANewTurnRefillsTimeAndEnergy) {
     }
 }
 
+TEST_F(TurnsTest, AGrantIsTwoHundredUpToEightHundred) {
+    MakeTeams({{}}, {{}});
+    for (const auto& [had, granted] : {std::pair{600, 800}, {601, 800}, {80, 280}}) {
+        UnitTable[0].time = UnitTable[0].energy = had;
+        TimeGrant();
+        EnergyGrant();
+        EXPECT_EQ(UnitTable[0].time, granted);
+        EXPECT_EQ(UnitTable[0].energy, granted);
+    }
+}
+
 TEST_F(TurnsTest, StatusFollowsFromHealth) {
     struct Case {
         int health, status, wasWounded, left;

@@ -53,26 +53,29 @@ TEST_F(EventsTest, NoPlaceIndexOrCodeEndsTheGame) {
     EXPECT_EQ(frmField.VScrollArea.Value, 0);
 }
 
-TEST_F(EventsTest, OrdersInTheComputersTurnAreDropped) {
-    curTeam = EnemyTeam;
-    const Unit& unit = UnitTable[curUnit];
-    const int time = unit.time;
-    const int orders = game.orders;
-    Dispatch({EventKind::Click, "frmField.imgStop"});
-    Dispatch({EventKind::Click, "frmField.imgStance", Prone});
-    Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
-    Dispatch({EventKind::KeyDown, "frmField", -1, 27});
-    Dispatch({EventKind::MouseDown, "frmField.area", -1, 2, 0, 700, 300});
-    Dispatch({EventKind::Choose, "frmField.comboMode", -1, 1});
-    for (const char* opens : {"mnuInfo", "picBarWeapon"})
-        Dispatch({EventKind::Click, std::string("frmField.") + opens});
-    EXPECT_EQ(frmField.imgStop.Tag, "off");
-    EXPECT_EQ(unit.time, time);
-    EXPECT_EQ(unit.fireMode, 0);
-    EXPECT_EQ(game.orders, orders);
-    EXPECT_EQ(frmInfo.shownUnit, -1) << "no file was opened";
-    Dispatch({EventKind::Change, "frmField.HScrollArea", -1, 40});
-    EXPECT_EQ(frmField.HScrollArea.Value, 40) << "looking is free";
+TEST_F(EventsTest, OrdersInTheComputersTurnOrWhileAChargeBlowsAreDropped) {
+    for (const auto& [team, current] : {std::pair<int, int>{EnemyTeam, 0}, {SquadTeam, ChargeBase}}) {
+        curTeam = team;
+        curUnit = current;
+        const Unit& unit = UnitTable[curUnit];
+        const int time = unit.time;
+        const int orders = game.orders;
+        Dispatch({EventKind::Click, "frmField.imgStop"});
+        Dispatch({EventKind::Click, "frmField.imgStance", Prone});
+        Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
+        Dispatch({EventKind::KeyDown, "frmField", -1, 27});
+        Dispatch({EventKind::MouseDown, "frmField.area", -1, 2, 0, 700, 300});
+        Dispatch({EventKind::Choose, "frmField.comboMode", -1, 1});
+        for (const char* opens : {"mnuInfo", "picBarWeapon"})
+            Dispatch({EventKind::Click, std::string("frmField.") + opens});
+        EXPECT_EQ(frmField.imgStop.Tag, "off");
+        EXPECT_EQ(unit.time, time);
+        EXPECT_EQ(unit.fireMode, 0);
+        EXPECT_EQ(game.orders, orders);
+        EXPECT_EQ(frmInfo.shownUnit, -1) << "no file was opened";
+        Dispatch({EventKind::Change, "frmField.HScrollArea", -1, 40});
+        EXPECT_EQ(frmField.HScrollArea.Value, 40) << "looking is free";
+    }
 }
 
 TEST_F(EventsTest, WhatIsHiddenOrSwitchedOffGetsNothing) {
