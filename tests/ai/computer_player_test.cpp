@@ -6,8 +6,6 @@
 
 #include "combat/things.h"
 #include "platform/random.h"
-#include "state/state.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 
 namespace {
@@ -34,13 +32,6 @@ class ComputerPlayerTest : public GameTest {
     void Load(int rounds) {
         self.items[0].roundsMain = rounds;
         RefreshHand();
-    }
-
-    // The first soldier is far off, and another one at (x, y).
-    void PutAnotherAt(int x, int y) {
-        cellGrid[20][40].occupant = -1;
-        PutUnit(0, 5, 40);
-        PutUnit(1, x, y);
     }
 
     Unit& self = UnitTable[20];
@@ -103,58 +94,6 @@ TEST_F(ComputerPlayerTest, WithAnEnemyInSightItRunsUpDropsAndFiresAsFarAsItsTime
         EXPECT_EQ(self.items[0].roundsMain, c.roundsAfter) << c.what;
         EXPECT_EQ(self.time, c.timeAfter) << c.what;
     }
-}
-
-TEST_F(ComputerPlayerTest, WithNobodyInSightItWandersAndLooksAllRound) {
-    PutAnotherAt(5, 41);
-    AiAct();
-    EXPECT_EQ(self.facing, NorthWest) << "where the sweep ends";
-    EXPECT_EQ(self.time, 100 - 4 - 5 * 2);
-    EXPECT_EQ(std::max(std::abs(self.cellX - 50), std::abs(self.cellY - 20)), 5);
-}
-
-TEST_F(ComputerPlayerTest, WhatTheSweepFindsIsAnsweredWithAShotAtTheFirstSoldier) {
-    // Walls keep it in its cell; the other soldier stands to the east, behind its back.
-    DrawField(49, 19, {"###", "#a.", "###"});
-    PutAnotherAt(55, 20);
-    self.facing = West;
-    AiAct();
-    EXPECT_EQ(self.stance, Prone);
-    EXPECT_EQ(self.facing, West) << "toward the first soldier: 45 cells west and 20 south";
-    EXPECT_EQ(self.time, 80 - 4 - 12 - 4 - Shot)
-        << "up, down, and round from the east, where the sweep ended";
-}
-
-TEST_F(ComputerPlayerTest, ItEndsBesideALivingTargetAndOnTheCellOfADeadOne) {
-    struct Case {
-        int status, occupant, column, time;
-    };
-    constexpr Case Cases[] = {
-        {Active, 0, 41, 100 - 4 - 2 * 2 - 12 - Shot},  // the third step is refused, for nothing
-        {Dead, -1, 40, 100 - 4 - 3 * 2 - 12 - Shot},
-    };
-    PutUnit(1, 38, 20);
-    for (const Case& c : Cases) {
-        UnitTable[0].status = c.status;
-        cellGrid[20][40].occupant = c.occupant;
-        cellGrid[20][self.cellX].occupant = -1;
-        PutUnit(20, 43, 20);
-        self.facing = West;
-        self.time = 100;
-        Load(29);
-        AiAct();
-        EXPECT_EQ(self.cellX, c.column);
-        EXPECT_EQ(self.time, c.time);
-    }
-}
-
-TEST_F(ComputerPlayerTest, OrdersInItsTurnAreDropped) {
-    host.Queue({EventKind::MouseDown, "frmField.area", -1, 1, 0, 1010, 900});
-    host.Queue({EventKind::KeyDown, "frmField", -1, 32});
-    AiAct();
-    EXPECT_EQ(curUnit, 20);
-    EXPECT_EQ(self.cellX, 46);
-    EXPECT_EQ(lastClickX, 0);
 }
 
 }  // namespace
