@@ -54,26 +54,6 @@ TEST_F(SightTest, EveryFacingFromEveryCellOfTheMapExaminesTheSameCells) {
             }
 }
 
-TEST_F(SightTest, TheCounterCountsEachLivingEnemyOnceForAllWhoLookAndForgetsWhenCleared) {
-    ClearField();
-    DrawField(30, 20, {"0....", "...a.", "...b."});
-    Look(0);
-    Look(0);
-    EXPECT_EQ(frmField.imgEnemyCount.ToolTipText, "2 enemies sighted");
-    UnitTable[20].facing = West;
-    curUnit = 20;
-    EXPECT_TRUE(aiSeeCheck());
-    EXPECT_EQ(frmField.enemyCount, 3) << "a look by any unit adds to the one counter";
-    curUnit = 0;
-    EnemyCounter("clear");
-    EXPECT_EQ(frmField.enemyCount, 0);
-    EXPECT_FALSE(frmField.imgEnemyCount.Visible);
-    UnitTable[21].status = Dead;
-    Look(0);
-    EXPECT_EQ(frmField.imgEnemyCount.ToolTipText, "1 enemy sighted");
-    EXPECT_EQ(UnitTable[0].seen[1], 0) << "the dead are not sighted";
-}
-
 TEST_F(SightTest, ClicksOnTheCounterGoRoundTheSightedOnes) {
     ClearField();
     DrawField(30, 20, {"0....", "..abc"});

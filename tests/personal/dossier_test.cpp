@@ -16,11 +16,15 @@ class DossierTest : public GameTest {
     Unit& unit = UnitTable[0];
 };
 
-TEST_F(DossierTest, EachTeamHasItsWordAndAFaceThatIsMissingIsNamed) {
+TEST_F(DossierTest, TheInformationHasTenLinesAndAFaceThatIsMissingIsNamed) {
+    unit.time = 7;
     for (const auto& [team, word] : {std::pair{0, "fighters"}, {1, "enemies"}, {2, "civilians"}, {3, ""}}) {
         unit.team = team;
         FillInfoPanel();
-        EXPECT_NE(frmInfo.lblInv.Caption.find("\rteam: " + std::string(word) + "\r"), std::string::npos);
+        EXPECT_EQ(frmInfo.lblInv.Caption,
+                  "name: Marcus Hale\rteam: " + std::string(word) +
+                      "\rhealth: 51\rtime: 7\rx: 1\ry: " + std::to_string(unit.cellY) +
+                      "\rori: E\rweapon: m4\rweapon power: 57\rweapon accur: 80");
     }
     for (const auto& [type, file] : {std::pair{"j", "usa01.jpg"}, {"g", "usa01.gif"}}) {
         unit.faceType = type;

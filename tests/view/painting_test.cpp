@@ -41,6 +41,9 @@ TEST_F(PaintingTest, ARepaintedCellIsItsUnitsNewBackgroundWhoeverIsCurrent) {
     PaintCell(6, 5, area, -1, Concrete);  // one of the two given is none given
     EXPECT_FALSE(Shown().SameAs(Tile(3, Wooden))) << "the soldier stands there";
     EXPECT_TRUE(frmField.picBuffer[0].SameAs(Tile(3, Wooden)));
+    cellGrid[5][6].tileX = BrokenTile;
+    PaintCell(6, 5, area);
+    EXPECT_TRUE(frmField.picBuffer[0].SameAs(Tile(15, Wooden))) << "its remains";
     fieldBusy = True;
     PaintCell(6, 5, area, 0, 0);
     EXPECT_TRUE(Shown().SameAs(Tile(0, 0))) << "while the map is painted units are left out";
@@ -95,20 +98,6 @@ TEST_F(PaintingTest, ExplosionsAndTargetsPlayTheirFiveFrames) {
     }
     for (const ImageControl* image : {&frmField.imgBlowup, &frmField.imgCover})
         EXPECT_TRUE(image->Picture == nullptr && !image->Visible && image->Left == 660 && image->Top == 20);
-}
-
-TEST_F(PaintingTest, AWalkerAwayFromTheMiddlePullsTheViewAlong) {
-    struct Case {
-        int x, dx, scrolled, scrolledTo;
-    };
-    // Column 18 of the window is its middle.
-    for (const Case& c :
-         {Case{30, 1, 0, 20}, {30, -1, 200, 200}, {20, -1, 200, 180}, {20, 1, 200, 200}, {60, 1, 760, 760}}) {
-        PutUnit(0, c.x, 11);
-        SetScrollValue(frmField.HScrollArea, c.scrolled);
-        PaintUnit(c.dx, 0);
-        EXPECT_EQ(frmField.HScrollArea.Value, c.scrolledTo) << c.x << " " << c.dx;
-    }
 }
 
 TEST_F(PaintingTest, TheMarksAtTheEdgesFollowTheSoldierAndNotAScrollByHand) {
