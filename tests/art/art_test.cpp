@@ -1,7 +1,6 @@
 // The pictures where the eye misses a fault: sprites against their masks, and the flags of 185 countries.
 #include <map>
 
-#include "state/state.h"
 #include "tests/support/game_test.h"
 #include "view/stored_pictures.h"
 

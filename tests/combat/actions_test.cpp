@@ -1,18 +1,11 @@
 // Families and modes of things, and what each family's order does and costs.
 #include "combat/actions.h"
 
-#include <algorithm>
-#include <cstdlib>
-
 #include "combat/shooting.h"
 #include "combat/things.h"
 #include "data/weapons_file.h"
 #include "platform/random.h"
-#include "state/state.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
-#include "tools/player/orders.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -151,22 +144,16 @@ TEST_F(ActionsTest, TheMuzzleIsWhereTheShooterFaces) {
     }
 }
 
-TEST_F(ActionsTest, OfTwoKnivesOneIsThrownAndTheOtherStaysInTheHand) {
-    Hold("thronives", "Throw", 2);
-    ActOnTarget(30 * 20 + 90, 410);
-    EXPECT_EQ(groundItems[20][34][0].roundsMain, 1);
-    EXPECT_EQ(unit.items[0].name, "thronives");
-    EXPECT_EQ(unit.items[0].roundsMain, 1);
-    EXPECT_EQ(unit.hand.name, "thronives");
-}
-
 TEST_F(ActionsTest, WhatIsThrownLiesWhereItCameDownAndOutOfTheFieldIsLost) {
-    Hold("knife", "Throw", 1);
-    ActOnTarget(30 * 20 + 90, 410);
-    EXPECT_EQ(groundItems[20][34][0].name, "knife");
-    EXPECT_EQ(groundItems[20][34][0].roundsMain, 1);
+    for (const int knives : {2, 1}) {
+        groundItems[20][34] = {};
+        Hold("thronives", "Throw", knives);
+        ActOnTarget(30 * 20 + 90, 410);
+        EXPECT_EQ(groundItems[20][34][0].roundsMain, 1);
+        EXPECT_EQ(unit.items[0].roundsMain, knives - 1);
+        EXPECT_EQ(unit.hand.name, knives == 2 ? "thronives" : "hand");
+    }
     EXPECT_EQ(CountAt(34, 20, PileBase), 1);
-    EXPECT_EQ(unit.hand.name, "hand");
     PutUnit(0, 74, 20);
     for (const char* thing : {"knife", "c4", "m67"}) {
         Hold(thing, "Throw", 1);
@@ -179,24 +166,6 @@ TEST_F(ActionsTest, WhatIsThrownLiesWhereItCameDownAndOutOfTheFieldIsLost) {
     }
     EXPECT_EQ(teamLast[PileList], 0);
     EXPECT_EQ(teamLast[ChargeList], -1);
-}
-
-// Accuracy 10, 20 cells: a spread of 90 + 20 and a scatter of 20 * 110 / 20 = 110 pixels, six cells.
-TEST_F(ActionsTest, ABurstWandersOffFartherThanAnyOfItsBulletsScatters) {
-    for (const auto& [mode, least, most] : {std::tuple{"Aimed shot", 3, 6}, {"Full auto", 9, 46}}) {
-        int farthest = 0;  // rows off the one aimed at where the last bullet came down
-        for (int i = 0; i < 10; ++i) {
-            Hold("ak", mode, 200);
-            unit.time = 900;
-            unit.hand.durab = 1000;
-            unit.hand.accur = 10;
-            unit.hand.range = 200;
-            ActOnTarget(50 * 20 + 10, 410);
-            farthest = std::max(farthest, std::abs(impactY - 20));
-        }
-        EXPECT_GE(farthest, least) << mode;
-        EXPECT_LE(farthest, most) << mode;
-    }
 }
 
 TEST_F(ActionsTest, WhoAimsBetterThanPerfectlyScattersNothing) {
@@ -217,15 +186,6 @@ TEST_F(ActionsTest, FoldingCostsNothing) {
     EXPECT_EQ(unit.items[0].name, "etool");
     EXPECT_EQ(unit.items[0].count, 1);
     EXPECT_EQ(unit.time, 400);
-}
-
-TEST_F(ActionsTest, ASoldierWhoSpendsHisTimeFiringFinishesFirst) {
-    PutUnit(1, 10, 10);
-    Hold("ak", "Aimed shot");
-    unit.time = WeaponInfoByName("ak").time + 2;
-    ActOn(45, 20);
-    EXPECT_EQ(unit.items[0].roundsMain, 19);
-    EXPECT_EQ(curUnit, 1);
 }
 
 }  // namespace

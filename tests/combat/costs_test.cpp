@@ -3,8 +3,6 @@
 
 #include "combat/tools.h"
 #include "data/weapons_file.h"
-#include "state/state.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 
 namespace {

@@ -1,19 +1,13 @@
 // Charges, explosions, craters; digging, filling and the medical kit.
 #include "combat/explosions.h"
 
-#include <algorithm>
 #include <set>
 
 #include "combat/actions.h"
 #include "combat/tools.h"
 #include "data/terrain.h"
-#include "data/weapons_file.h"
 #include "platform/random.h"
-#include "state/state.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
-#include "view/field_form.h"
-#include "view/log.h"
 
 namespace {
 
@@ -28,49 +22,6 @@ class ExplosionsTest : public GameTest {
 
     Unit& unit = UnitTable[0];
 };
-
-TEST_F(ExplosionsTest, OfTwoChargesTheFirstBlowsTwiceAndTheSecondNever) {
-    ChargeAdd(40, 30);
-    ChargeAdd(50, 30);
-    EXPECT_EQ(Log(), "charge 0 set\ncharge 0 set\n");
-    for (int tick = 0; tick < 9; ++tick)
-        ChargeTick();
-    EXPECT_EQ(UnitTable[100].time, 10);
-    EXPECT_EQ(UnitTable[100].hand.power, WeaponInfoByName("c4").power);
-    UnitTable[100].hand.power = 61;
-    UnitTable[101].time = 20;  // set one turn later
-    const char* told[] = {"charge 0 counts 0\ncharge 0 blow\ncharge 1 counts 10\n",
-                          "charge 0 counts -10\ncharge 0 blow\n", ""};
-    for (const char* log : told) {
-        frmField.cmbLog.List.clear();
-        ChargeTick();
-        EXPECT_EQ(Log(), log);
-    }
-    EXPECT_EQ(cellGrid[30][40].durab, 200 - 30 * 2) << "the ground sinks by half the power, 30.5, each time";
-}
-
-TEST_F(ExplosionsTest, ABlastSharesOneBulletColumnByColumnAndSparesTheThrower) {
-    PutUnit(0, 22, 11);
-    int index = 21;
-    for (const auto& [x, y] : {std::pair{21, 9}, {21, 11}, {23, 9}, {23, 10}})
-        PutUnit(index++, x, y);
-    int most[4] = {};
-    for (int blast = 0; blast < 100; ++blast) {
-        unit.hand.power = 100;
-        for (int i = 0; i < 4; ++i)
-            UnitTable[21 + i].health = 1000;
-        ChargeBlow(22, 10);
-        for (int i = 0; i < 4; ++i)
-            most[i] = std::max(most[i], 1000 - UnitTable[21 + i].health);
-    }
-    // Each takes 40 to 55 of the bullet: 100, 60 at the most, 20, and less than nothing.
-    EXPECT_GT(most[0], 60);
-    EXPECT_GT(most[1], 20);
-    EXPECT_LE(most[1], 60);
-    EXPECT_LE(most[2], 20);
-    EXPECT_EQ(most[3], 0);
-    EXPECT_EQ(unit.health, 50);
-}
 
 TEST_F(ExplosionsTest, TheGroundSinksAndRisesThroughItsLooks) {
     struct Case {
@@ -104,12 +55,6 @@ TEST_F(ExplosionsTest, ATrenchIsDugAndFilledByTheSpade) {
         EXPECT_EQ(100 - unit.time, unit.hand.time);
         EXPECT_EQ(cell.durab, durab);
     }
-    frmField.cmbLog.List.clear();
-    unit.time = unit.hand.time - 1;
-    ActOnTarget(900, 410);
-    EXPECT_EQ(cell.durab, 110);
-    AddToLog("next", 1);
-    EXPECT_EQ(Log(), "dig it: next\n") << "a refused one leaves its line open";
 }
 
 TEST_F(ExplosionsTest, ACureWorksForSixtyOfAHundredAndOneDraws) {

@@ -3,10 +3,7 @@
 
 #include "data/countries_file.h"
 #include "data/weapons_file.h"
-#include "state/state.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -37,14 +34,10 @@ TEST_F(ThingsTest, ADyingUnitDropsWhatItsFirstTenSlotsHoldAsFarAsThereIsRoom) {
         groundItems[20][30][place].name = "ak";
     for (int slot : {5, 9, 10})
         unit.items[slot].name = "med";
-    unit.items[5].roundsSecond = 7;
-    unit.items[5].durab = 12;
     DropAll(0);
     EXPECT_EQ(groundItems[20][30][28].name, "med");
     EXPECT_EQ(unit.items[9].name, "");
     EXPECT_EQ(unit.items[10].name, "med");
-    EXPECT_EQ(unit.items[5].roundsSecond, 7) << "an emptied slot keeps its second feed";
-    EXPECT_EQ(unit.items[5].durab, 12);
     EXPECT_EQ(CountAt(30, 20, PileBase), 1);
     unit.items[8].name = unit.items[9].name = "med";
     DropAll(0);
@@ -63,35 +56,6 @@ TEST_F(ThingsTest, TheHandIsBareAndFliesNoFlagWithoutAThingToFightWith) {
         EXPECT_EQ(unit.hand.name, hand) << held;
         EXPECT_EQ(frmField.imgFlag.ToolTipText, country) << held;
         EXPECT_EQ(frmField.imgFlag.Picture != nullptr, *country != '\0') << "nobody makes bare hands";
-    }
-}
-
-TEST_F(ThingsTest, ThePanelTakesUpTheEnemysWeaponInHisTurn) {
-    LoadCountries();
-    PutUnit(20, 60, 40);
-    curUnit = 20;
-    Hold("spas");
-    EXPECT_EQ(frmField.imgInv[0].PictureName, "\\pic\\inv\\spas.gif");
-    EXPECT_EQ(frmField.comboMode.List.size(), 3U);
-    EXPECT_EQ(frmField.imgFlag.ToolTipText, "Italy");
-}
-
-TEST_F(ThingsTest, TheHandIsAsNewAndItsModeKeptForTheSameWeapon) {
-    Hold("ak", "Full auto");
-    unit.hand.durab = 1;
-    RefreshHand();
-    EXPECT_EQ(frmField.comboMode.Text, "Full auto");
-    EXPECT_EQ(unit.hand.durab, WeaponInfoByName("ak").durab) << "worn no more";
-}
-
-TEST_F(ThingsTest, ASmallThingStandsInTheMiddleOfALongPlace) {
-    unit.items[0].capMain = 31;
-    for (const auto& [name, count, left] :
-         {std::tuple{"med", 0, 37}, {"med", 0, 37}, {"ak", 1, 0}}) {  // shifted once
-        unit.items[0].name = name;
-        unit.items[0].count = count;
-        ShowSlot(0, frmField);
-        EXPECT_EQ(frmField.imgInv[0].Left, left) << name;
     }
 }
 

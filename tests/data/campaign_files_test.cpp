@@ -4,7 +4,6 @@
 
 #include "data/campaign_layout.h"
 #include "data/tables.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
 
 namespace {

@@ -4,9 +4,7 @@
 #include <map>
 
 #include "data/terrain.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
-#include "view/field_form.h"
 
 namespace {
 

@@ -5,7 +5,6 @@
 
 #include "data/countries_file.h"
 #include "data/weapons_file.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// The real widgets stand where the windows were designed to have them, and have names for those who hear the
+// The windows of the game have their size and their layers, and all in them has names for those who hear the
 // screen instead of seeing it.
 #include <QMenuBar>
 
@@ -9,34 +9,6 @@
 #include "view/forms.h"
 
 namespace {
-
-struct Placed {
-    const char* form;
-    const char* control;
-    int index;
-    int left, top, width, height;
-};
-
-// What is placed by a formula, by the last of its rows and columns, and what a player aims at.
-// clang-format off
-constexpr Placed Design[] = {
-    // form      control        index left  top  width height
-    {"frmField", "area",           -1,   20,  10, 1520, 920},
-    {"frmField", "picAreaMap",     -1,   16,  40,  152,  92},
-    {"frmField", "cmdNextTurn",    -1,  656, 120,  123,  25},
-    {"frmField", "imgStance",       3,  576,  48,   32,  25},
-    {"frmField", "imgBar",          3,  472, 101,    0,   3},
-    {"frmField", "imgBar",         15,  624, 100,    5,   6},
-    {"frmInfo",  "cmdGndPage",      2,  712,  40,   17,  25},
-    {"frmInfo",  "imgUpDn",         3,  253, 246,   14,  12},
-    {"frmInfo",  "imgAward",       24,  466, 577,  105,  41},
-    {"frmInfo",  "imgInv",          3,   27, 268,  117,  42},
-    {"frmInfo",  "imgInv",          5,  227, 168,   42,  42},
-    {"frmInfo",  "imgInv",          9,   27, 168,   42,  42},
-    {"frmInfo",  "imgInv",         21,  377, 368,   42,  42},
-    {"frmInfo",  "imgInv",         59,  622, 518,  117,  42},
-};
-// clang-format on
 
 class LayoutWindowTest : public testing::Test {
   protected:
@@ -51,15 +23,6 @@ class LayoutWindowTest : public testing::Test {
 
     DesktopHost host{frmField, OtherForms(), [](const InputEvent&) {}};
 };
-
-TEST_F(LayoutWindowTest, ControlsStandAsDesigned) {
-    for (const Placed& row : Design) {
-        const Control& control = *FormByName(row.form)->Find(row.control, row.index);
-        EXPECT_EQ(WindowOf(row.form).WidgetOf(control)->geometry(),
-                  QRect(row.left, row.top, row.width, row.height))
-            << row.control << row.index;
-    }
-}
 
 TEST_F(LayoutWindowTest, WhateverIsShownHasAName) {
     for (const char* form : {"frmField", "frmInfo", "frmProgress"}) {

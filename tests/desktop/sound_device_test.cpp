@@ -7,7 +7,6 @@
 #include <thread>
 
 #include "desktop/sound_file.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
 #include "view/sound.h"
 

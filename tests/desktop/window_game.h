@@ -10,10 +10,7 @@
 #include "desktop/desktop_host.h"
 #include "platform/files.h"
 #include "state/setup.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
-#include "view/events.h"
-#include "view/field_form.h"
 #include "view/forms.h"
 
 class HastyHost : public DesktopHost {

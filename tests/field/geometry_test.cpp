@@ -2,7 +2,6 @@
 #include "field/geometry.h"
 
 #include "data/terrain.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 
 namespace {

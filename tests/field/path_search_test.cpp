@@ -4,8 +4,6 @@
 #include <random>
 
 #include "field/geometry.h"
-#include "state/state.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 
 namespace {
@@ -92,14 +90,6 @@ TEST_F(PathSearchTest, FourHundredRandomFieldsGiveThePlainScansPlan) {
     }
     EXPECT_GT(closed, 0) << "some destinations can't be reached";
     EXPECT_LT(closed, 200);
-}
-
-TEST_F(PathSearchTest, StraightStepsArePreferredAndTheStepsNearestTheWalkerAreKept) {
-    // From (10, 10) to (14, 11): four steps, one of them diagonal, and the straight ones first.
-    EXPECT_EQ(Fast(10, 10, 14, 11, 100), "1,0 1,0 1,0 1,1 3");
-    EXPECT_EQ(Fast(10, 10, 14, 11, 2), "1,0 1,0 3");
-    DrawField(20, 20, {"###", "#.#", "###"});
-    EXPECT_EQ(Fast(21, 21, 40, 20, 3), "0,0 0,0 0,0 250") << "without a path the plan stands still";
 }
 
 }  // namespace

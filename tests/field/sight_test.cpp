@@ -5,11 +5,7 @@
 
 #include "field/geometry.h"
 #include "field/sightings.h"
-#include "state/state.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
-#include "view/events.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -58,52 +54,6 @@ TEST_F(SightTest, EveryFacingFromEveryCellOfTheMapExaminesTheSameCells) {
             }
 }
 
-TEST_F(SightTest, WhoStandsWhereIsSeenOrNot) {
-    struct Case {
-        const char* what;
-        std::vector<std::string> field;
-        bool seen;
-    };
-    const Case cases[] = {
-        {"right ahead", {"...", "0a.", "..."}, true},
-        {"beside", {".a.", ".0.", "..."}, true},
-        {"behind", {"...", "a0.", "..."}, false},
-        {"behind a wall", {"..#..", "0.#a.", "..#.."}, false},
-        {"in a tree that stops the view", {"0...T", "....."}, true},
-        {"over furniture", {"..=..", "0.=a.", "..=.."}, true},
-        {"26 cells off", {"0" + std::string(25, '.') + "a"}, true},
-        {"27 cells off", {"0" + std::string(26, '.') + "a"}, false},
-    };
-    for (const Case& c : cases) {
-        ResetState();
-        ClearField();
-        DrawField(30, 20, c.field);
-        if (c.field[0] == "0...T") PutUnit(20, 34, 20);
-        Look(0);
-        EXPECT_EQ(UnitTable[0].seen[0] == 1, c.seen) << c.what;
-    }
-}
-
-TEST_F(SightTest, TheCounterCountsEachLivingEnemyOnceForAllWhoLookAndForgetsWhenCleared) {
-    ClearField();
-    DrawField(30, 20, {"0....", "...a.", "...b."});
-    Look(0);
-    Look(0);
-    EXPECT_EQ(frmField.imgEnemyCount.ToolTipText, "2 enemies sighted");
-    UnitTable[20].facing = West;
-    curUnit = 20;
-    EXPECT_TRUE(aiSeeCheck());
-    EXPECT_EQ(frmField.enemyCount, 3) << "a look by any unit adds to the one counter";
-    curUnit = 0;
-    EnemyCounter("clear");
-    EXPECT_EQ(frmField.enemyCount, 0);
-    EXPECT_FALSE(frmField.imgEnemyCount.Visible);
-    UnitTable[21].status = Dead;
-    Look(0);
-    EXPECT_EQ(frmField.imgEnemyCount.ToolTipText, "1 enemy sighted");
-    EXPECT_EQ(UnitTable[0].seen[1], 0) << "the dead are not sighted";
-}
-
 TEST_F(SightTest, ClicksOnTheCounterGoRoundTheSightedOnes) {
     ClearField();
     DrawField(30, 20, {"0....", "..abc"});
@@ -118,21 +68,6 @@ TEST_F(SightTest, ClicksOnTheCounterGoRoundTheSightedOnes) {
     EXPECT_EQ(click(), 0);
     UnitTable[0].seen[0] = UnitTable[0].seen[2] = 0;
     EXPECT_EQ(click(), 0) << "what another unit saw is nowhere to be found";
-}
-
-TEST_F(SightTest, AUnitIsBroughtIntoView) {
-    struct Case {
-        int x, y, left, top;
-    };
-    // The field is 1520 by 920: a quarter of it less 20 and 10, held within the bars.
-    constexpr Case Cases[] = {{40, 25, 800 - 380 + 20, 500 - 230 + 10}, {2, 2, 0, 0}, {70, 44, 760, 460}};
-    ClearField();
-    for (const Case& c : Cases) {
-        PutUnit(0, c.x, c.y);
-        ScrollToUnit(0);
-        EXPECT_EQ(frmField.HScrollArea.Value, c.left);
-        EXPECT_EQ(frmField.VScrollArea.Value, c.top);
-    }
 }
 
 }  // namespace

@@ -1,10 +1,7 @@
 // Turning, stepping and walking: what they cost, what refuses them, how a walk ends.
 #include "field/walking.h"
 
-#include "state/state.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
-#include "view/events.h"
 
 namespace {
 
@@ -17,10 +14,6 @@ class WalkingTest : public GameTest {
     }
 
     Unit& unit = UnitTable[0];
-
-    static InputEvent ClickOn(float x, float y) {
-        return {EventKind::MouseDown, "frmField.area", -1, 1, 0, x * 20 + 10, y * 20 + 10};
-    }
 };
 
 TEST_F(WalkingTest, ATurnCostsOneTimeForEach45DegreesTheShorterWayRoundAndClockwiseAtWorst) {
@@ -174,9 +167,9 @@ TEST_F(WalkingTest, ANewerOrderEndsAWalkOrItsSearchAndIsNotLost) {
         int current, cellX, cellY;
     };
     const Case cases[] = {
-        {"a click after eleven steps", ClickOn(30, 40), 30, 1, 0, 41, 20},
-        {"two clicks in the search", ClickOn(30, 15), 5, 2, 0, 30, 15},
-        {"a selection after three steps", ClickOn(10, 10), 22, 1, 1, 33, 20},
+        {"a click after eleven steps", PressOn(30, 40, 1), 30, 1, 0, 41, 20},
+        {"two clicks in the search", PressOn(30, 15, 1), 5, 2, 0, 30, 15},
+        {"a selection after three steps", PressOn(10, 10, 1), 22, 1, 1, 33, 20},
     };
     for (const Case& c : cases) {
         ClearField();
@@ -187,7 +180,7 @@ TEST_F(WalkingTest, ANewerOrderEndsAWalkOrItsSearchAndIsNotLost) {
         lastClickY = 20;
         for (int i = 0; i < c.clicks; ++i)
             host.Queue(c.event, host.pumps + c.pumps);
-        Dispatch(ClickOn(50, 20));
+        Dispatch(PressOn(50, 20, 1));
         EXPECT_EQ(curUnit, c.current) << c.what;
         EXPECT_EQ(unit.facing == East, c.current == 1) << c.what << ": no more step was begun";
         EXPECT_EQ(unit.cellX, c.cellX) << c.what;

@@ -1,15 +1,10 @@
 // The sheet of a soldier's file: who he is, his bars, his ribbons, and the button for the rest.
 #include "personal/dossier.h"
 
-#include <algorithm>
-
 #include "personal/info_form.h"
 #include "personal/personal_file.h"
-#include "personal/typewriter.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
 #include "view/depot_form.h"
-#include "view/events.h"
 #include "view/stored_pictures.h"
 
 namespace {
@@ -21,20 +16,7 @@ class DossierTest : public GameTest {
     Unit& unit = UnitTable[0];
 };
 
-TEST_F(DossierTest, TheSheetShowsWhoHeIs) {
-    unit.country = "USX";
-    LoadInfo();
-    Picture typed = StoredPicture("frmInfo.bmp");
-    Typewriter("  CPT", true, typed, 240, 80);
-    Typewriter("MARCUS HALE", true, typed, 240, 110);
-    for (int y = 80; y < 124; ++y)
-        EXPECT_TRUE(std::equal(typed.Row(y) + 240, typed.Row(y) + 440, frmInfo.canvas.Row(y) + 240)) << y;
-    EXPECT_EQ(frmInfo.imgFace.PictureName, "\\pic\\faces\\usa01.bmp");
-    EXPECT_EQ(frmInfo.imgChevron.PictureName, "\\pic\\chevrons\\cpt.gif");
-    EXPECT_EQ(frmInfo.imgChevron.ToolTipText, "Captain");
-    EXPECT_EQ(frmInfo.imgManFlag.PictureName, "\\pic\\flags\\US.gif");
-    EXPECT_EQ(frmInfo.imgManFlag.ToolTipText, "United States");
-    EXPECT_EQ(frmInfo.imgFlag.ToolTipText, "United States [M4A1]");
+TEST_F(DossierTest, TheInformationHasTenLinesAndAFaceThatIsMissingIsNamed) {
     unit.time = 7;
     unit.cellX = 70;
     for (const auto& [team, word] : {std::pair{0, "fighters"}, {1, "enemies"}, {2, "civilians"}, {3, ""}}) {
@@ -70,12 +52,8 @@ TEST_F(DossierTest, FourBarsOfTheSheetStandUnderOtherLabels) {
     };
     constexpr Case Cases[] = {
         {&Unit::vitality, 1, 135, 12},      {&Unit::strength, 3, 155, 14},  // 11.5 and 14.5 to the even
-        {&Unit::agility, 10, 175, 25},      {&Unit::perception, 14, 195, 31},
         {&Unit::intelligence, 20, 235, 40}, {&Unit::marksmanship, 80, 255, 130},
-        {&Unit::mood, 40, 275, 70},         {&Unit::stealth, 60, 215, 100},
-        {&Unit::melee, 22, 295, 43},        {&Unit::sidearms, 24, 315, 46},
-        {&Unit::smgs, 26, 335, 49},         {&Unit::rifles, 28, 355, 52},
-        {&Unit::machineguns, 30, 375, 55},  {&Unit::explosives, 32, 395, 58}};
+        {&Unit::mood, 40, 275, 70},         {&Unit::stealth, 60, 215, 100}};
     for (const Case& c : Cases)
         unit.*c.attribute = c.value;
     LoadInfo();
@@ -85,28 +63,6 @@ TEST_F(DossierTest, FourBarsOfTheSheetStandUnderOtherLabels) {
         EXPECT_NE(frmInfo.canvas.Pixel(last, c.y), blank.Pixel(last, c.y)) << c.y;
         EXPECT_EQ(frmInfo.canvas.Pixel(last + 1, c.y), blank.Pixel(last + 1, c.y)) << c.y;
     }
-}
-
-TEST_F(DossierTest, ABarFadesFromYellowToDark) {
-    Form form;
-    form.canvas = Picture(420, 20);
-    const Colour ground = form.canvas.Pixel(0, 0);
-    penX = 10;
-    StatBar(255, 5, form);  // 392.5 pixels, to the even neighbour
-    struct Case {
-        int x, y;
-        Colour colour;
-    };
-    const Case cases[] = {{11, 4, Rgb(255, 255, 100)},
-                          {11, 10, Rgb(255, 255, 100)},
-                          {11, 3, ground},
-                          {11, 11, ground},
-                          {10, 5, ground},
-                          {136, 5, Rgb(175, 175, 20)},
-                          {11 + 391, 5, Rgb(7, 7, 0)},
-                          {11 + 392, 5, ground}};  // the 20th and the last of 63 steps
-    for (const Case& c : cases)
-        EXPECT_EQ(form.canvas.Pixel(c.x, c.y), c.colour) << c.x << " " << c.y;
 }
 
 TEST_F(DossierTest, TheButtonBringsTheInformationAndThenLeavesTheFile) {

@@ -5,7 +5,6 @@
 #include "personal/info_form.h"
 #include "personal/personal_file.h"
 #include "platform/picture_file.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
 
 namespace {
@@ -102,15 +101,6 @@ TEST_F(DropItemTest, EachMeetingOfTwoThings) {
         const PictureRef& shown = frmInfo.imgDrag.Picture;
         const std::string file = "\\pic\\inv\\" + std::string(c.handPicture) + ".gif";
         EXPECT_TRUE(*c.handPicture == '\0' ? shown == nullptr : shown->SameAs(*ReadPictureFile(file)));
-    }
-}
-
-TEST_F(DropItemTest, TwoStacksThatDontFillTheTargetEndTheProgram) {
-    for (const Thing& stack : {Thing{"5nato", 10, 30}, Thing{"40gren", 1, 3}, Thing{"5saw", 200, 200}}) {
-        Carry(stack);
-        In(7) = stack.Item();
-        EXPECT_NE(ErrorOf([] { DropItem(7, PointerSlot); }).find("Overflow"), std::string::npos)
-            << stack.name;
     }
 }
 

@@ -12,12 +12,9 @@
 #include "personal/dragging.h"
 #include "personal/info_form.h"
 #include "personal/inventory.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
 #include "tools/field_tile.h"
 #include "tools/player/orders.h"
-#include "view/events.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -154,7 +151,8 @@ TEST_F(PersonalFileTest, ASmallerPackHidesThingsThatComeBackWithTheOldOne) {
     ShowGroundPage();
     Press(30);
     Press(6);
-    EXPECT_FALSE(frmInfo.imgInv[14].Visible);
+    EXPECT_TRUE(frmInfo.imgInv[12].Visible);
+    EXPECT_FALSE(frmInfo.imgInv[13].Visible || frmInfo.imgInv[14].Visible);
     EXPECT_EQ(In(14).name, hidden);
     Press(6);
     EXPECT_TRUE(frmInfo.imgInv[14].Visible);
@@ -170,6 +168,11 @@ TEST_F(PersonalFileTest, WhatIsLaidDownLiesOnTheFieldAndIsPickedUpAgain) {
     Press(8);
     Press(33);
     Click("frmInfo.cmdGndPage", 2);
+    for (const int page : {0, 1, 2}) {
+        EXPECT_EQ(frmInfo.cmdGndPage[page].Enabled, page != 2);
+        for (const int slot : {30 + 10 * page, 39 + 10 * page})
+            EXPECT_EQ(frmInfo.imgInv[slot].Visible, page == 2);
+    }
     ASSERT_TRUE(CloseInfo());
     EXPECT_EQ(groundItems[y][x][3].name, "med");
     EXPECT_EQ(CountAt(x, y, PileBase), 1);
@@ -298,7 +301,9 @@ TEST_F(PersonalFileTest, AHeldKeyStepsFasterAndFaster) {
     EXPECT_FALSE(frmInfo.timerArrow.Enabled);
     const int page = weaponPage;
     Dispatch({EventKind::MouseDown, "frmInfo.imgUpDn", 1, 1});
-    Dispatch({EventKind::MouseUp, "frmInfo.imgUpDn", 1, 1});
+    EXPECT_TRUE(frmInfo.timerArrow.Enabled);
+    Dispatch({EventKind::MouseUp, "frmInfo.imgUpDn", 1, 1, 0, 500, -20});  // wherever that is
+    Dispatch({EventKind::Timer, "frmInfo.timerArrow"});
     EXPECT_EQ(weaponPage, page + 1);
     EXPECT_EQ(frmInfo.timerArrow.Interval, 400) << "an arrow waits half as long as a key";
     EXPECT_FALSE(Dragging()) << "the press on the arrow isn't one on the hand behind it";
@@ -351,28 +356,6 @@ TEST_F(PersonalFileTest, NewThingsHaveTheFeedsOfTheirNameOrKind) {
         }
     }
     EXPECT_EQ(MakeItem(WeaponInfoByName("thronives")).durab, 300);
-}
-
-TEST_F(PersonalFileTest, ThePackSaysHowManyPocketsThereAre) {
-    for (const auto& [capacity, board] :
-         {std::pair{2, ""}, {3, "\\pic\\inv\\infoPack3.bmp"}, {12, "\\pic\\inv\\infoPack12.bmp"}}) {
-        In(6).capMain = capacity;
-        LoadInfo();
-        EXPECT_EQ(frmInfo.imgPack.PictureName, board);
-        for (int i = 0; i < 12; ++i)
-            EXPECT_EQ(frmInfo.imgInv[10 + i].Visible, capacity > 2 && i < capacity) << capacity;
-    }
-}
-
-TEST_F(PersonalFileTest, EachPageOfTheGroundShowsItsTenPlaces) {
-    LoadInfo();
-    for (const int page : {1, 2, 0}) {
-        Click("frmInfo.cmdGndPage", page);
-        for (int i = 0; i < 30; ++i) {
-            EXPECT_EQ(frmInfo.cmdGndPage[i / 10].Enabled, i / 10 != page);
-            EXPECT_EQ(frmInfo.imgInv[30 + i].Visible, i / 10 == page) << i;
-        }
-    }
 }
 
 TEST_F(PersonalFileTest, PagingGoesRoundTheFitOnesAndTheSelectionFollows) {

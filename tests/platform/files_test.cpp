@@ -127,16 +127,6 @@ TEST(RecordTexts, AreEightBitAndRefuseControlCharacters) {
               "Run-time error 4: Bad data: r, byte 1: expected a text, found the code 7");
 }
 
-TEST(RecordNumbers, AreSixteenBitsWithTheLowByteFirst) {
-    for (const int value : {0, 258, 32767, -1, -32768}) {
-        Record record(3, "r");
-        record.WriteInt16(1, value);
-        EXPECT_EQ(record.ReadByte(0), 0);
-        EXPECT_EQ(record.ReadByte(1) + 256 * record.ReadByte(2), value & 0xFFFF);
-        EXPECT_EQ(record.ReadInt16(1), value);
-    }
-}
-
 TEST_F(FilesTest, ValuesArePartedByCommasAndLineEndsButNotWithinQuotes) {
     folder.Write("dat/t.txt", " a ,\"b, c\",\r\n\n d\"e\"");
     CommaReader reader("\\dat\\t.txt");

@@ -2,9 +2,7 @@
 #include "state/awards.h"
 
 #include "personal/info_form.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -50,23 +48,14 @@ TEST_F(AwardsTest, ChainsAndRepeats) {
 }
 
 TEST_F(AwardsTest, ANewAwardIsFramedInItsFileAsLongAsTheMessageStands) {
-    struct Watcher : HeadlessHost {
-        using HeadlessHost::HeadlessHost;
-        void ShowMessage(const std::string& /*text*/) override {
-            shown = frmInfo.Visible && frmInfo.imgAwardBorder.Visible && frmInfo.shownUnit == 3;
-            left = frmInfo.imgAwardBorder.Left;
-            top = frmInfo.imgAwardBorder.Top;
-        }
-        bool shown = false;
-        int left = 0, top = 0;
+    host.atMessage = [] {
+        EXPECT_TRUE(frmInfo.Visible && frmInfo.imgAwardBorder.Visible && frmInfo.shownUnit == 3);
+        EXPECT_EQ(frmInfo.imgAwardBorder.Left, 26 + 3 * 110);
+        EXPECT_EQ(frmInfo.imgAwardBorder.Top, 417 + 40);
     };
-    Watcher watcher(nullptr);
     AwardGive("PH");
-    EXPECT_TRUE(watcher.shown);
-    EXPECT_EQ(watcher.left, 26 + 3 * 110);
-    EXPECT_EQ(watcher.top, 417 + 40);
+    EXPECT_EQ(host.messages.size(), 1U);
     EXPECT_FALSE(frmInfo.Visible || frmInfo.imgAwardBorder.Visible);
-    InstallHost(&host);
 }
 
 TEST_F(AwardsTest, AtTheMissionsEndEverybodyGetsHisAndTheWoundedAndDeadOneMore) {

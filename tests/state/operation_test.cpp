@@ -2,9 +2,7 @@
 #include "state/operation.h"
 
 #include "combat/costs.h"
-#include "state/state.h"
 #include "state/turns.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
 #include "view/field_form.h"
 

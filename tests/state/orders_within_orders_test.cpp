@@ -7,12 +7,8 @@
 #include "field/walking.h"
 #include "personal/info_form.h"
 #include "state/operation.h"
-#include "state/state.h"
 #include "state/turns.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
-#include "view/events.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -37,17 +33,6 @@ class OrdersWithinOrders : public GameTest {
     }
 
     void AtPump(int pump, const InputEvent& event) { host.Queue(event, host.pumps + pump); }
-
-    static InputEvent RightClick(int cellX, int cellY) {
-        return {EventKind::MouseDown,
-                "frmField.area",
-                -1,
-                2,
-                0,
-                static_cast<float>(cellX * CellSize + 10),
-                static_cast<float>(cellY * CellSize + 10)};
-    }
-    static InputEvent Key(int code) { return {EventKind::KeyDown, "frmField", -1, code}; }
 };
 
 TEST_F(OrdersWithinOrders, WhoShootsAComradeGoesOnWithHisOwnModesAndFeed) {
@@ -73,7 +58,7 @@ TEST_F(OrdersWithinOrders, TheSoldierWhoIsSelectedMeanwhileFiresWithHisOwnAndSta
     Unit& second = Arm(1, "xm8lss", "Secondary");
     Unit& first = Arm(0, "ak", "Burst");
     AtPump(1, Key(SpaceKey));
-    AtPump(2 + FlashPumps, RightClick(10, 30));
+    AtPump(2 + FlashPumps, PressOn(10, 30, 2));
     ActOnTarget(900, 210);
     EXPECT_EQ(first.items[0].roundsMain, 17) << "all three rounds";
     EXPECT_EQ(first.facing, East);
@@ -114,7 +99,7 @@ TEST_F(OrdersWithinOrders, OrdersAreDroppedWhileAChargeBlows) {
     ChargeAdd(30, 30);
     UnitTable[ChargeBase].time = 10;
     for (const InputEvent& order :
-         {Key(SpaceKey), RightClick(40, 40), InputEvent{EventKind::Click, "frmField.picBarWeapon"},
+         {Key(SpaceKey), PressOn(40, 40, 2), InputEvent{EventKind::Click, "frmField.picBarWeapon"},
           InputEvent{EventKind::Click, "frmField.cmdNextTurn"}})
         AtPump(1, order);
     NewTurn();
@@ -129,14 +114,16 @@ TEST_F(OrdersWithinOrders, OnlyOrdersEndAWalk) {
         InputEvent event;
         bool ends;
     };
-    const InputEvent middle{EventKind::MouseDown, "frmField.area", -1, 4, 0, 30, 30};
-    const Case cases[] = {
-        {Key(16), false},   // Shift
-        {Key(101), false},  // 5 of the number pad
-        {Key(87), false},   // W
-        {Key(77), false},   // M, the map
-        {middle, false},   {Key(SpaceKey), true},      {Key(38), true},
-        {Key(221), true},  {RightClick(60, 10), true}, {{EventKind::Click, "frmField.cmdNextTurn"}, true}};
+    const Case cases[] = {{Key(16), false},   // Shift
+                          {Key(101), false},  // 5 of the number pad
+                          {Key(87), false},   // W
+                          {Key(77), false},   // M, the map
+                          {PressOn(1, 1, 4), false},
+                          {Key(SpaceKey), true},
+                          {Key(38), true},
+                          {Key(221), true},
+                          {PressOn(60, 10, 2), true},
+                          {{EventKind::Click, "frmField.cmdNextTurn"}, true}};
     for (const Case& c : cases) {
         PutUnit(0, 10, 10);
         curUnit = 0;
@@ -159,21 +146,15 @@ TEST_F(OrdersWithinOrders, ANewSelectionEndsTheFlashBeforeIt) {
 }
 
 TEST_F(OrdersWithinOrders, TheFrameIsHiddenWhereTheSoldierHasLeft) {
-    struct Watcher : HeadlessHost {
-        using HeadlessHost::HeadlessHost;
-        void PumpEvents() override {
-            HeadlessHost::PumpEvents();
-            shown += frmField.shpSelect.Visible ? 1 : 0;
-        }
-        int shown = 0;
-    } watcher(Dispatch);
+    int shown = 0;
+    host.atPump = [&shown] { shown += frmField.shpSelect.Visible ? 1 : 0; };
     curUnit = 0;
     RefreshHand();
-    watcher.Queue(Key(39), 4);  // one step east in the second pass, while it is shown
+    host.pumps = 0;
+    AtPump(4, Key(39));  // one step east in the second pass, while it is shown
     ScrollToUnit(0);
-    EXPECT_EQ(watcher.shown, 1);
-    EXPECT_EQ(watcher.pumps, FlashPumps) << "the passes stay";
-    InstallHost(&host);
+    EXPECT_EQ(shown, 1);
+    EXPECT_EQ(host.pumps, FlashPumps) << "the passes stay";
 }
 
 TEST_F(OrdersWithinOrders, AFoldedToolIsRememberedByItsNewName) {

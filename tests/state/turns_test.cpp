@@ -3,7 +3,6 @@
 
 #include "data/tables.h"
 #include "state/mission_end.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
 #include "view/forms.h"
 

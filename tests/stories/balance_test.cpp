@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "state/state.h"
 #include "tests/support/game_test.h"
 #include "tools/player/scripted_player.h"
 #include "tools/player/squad_player.h"

@@ -9,9 +9,6 @@
 #include "personal/catalogue.h"
 #include "platform/files.h"
 #include "state/setup.h"
-#include "state/state.h"
-#include "view/events.h"
-#include "view/field_form.h"
 #include "view/forms.h"
 
 namespace fs = std::filesystem;
@@ -49,6 +46,16 @@ std::string GameTest::Log(std::size_t first) const {
     for (std::size_t i = first; i < frmField.cmbLog.List.size(); ++i)
         lines += frmField.cmbLog.List[i] + "\n";
     return lines;
+}
+
+InputEvent GameTest::PressOn(int cellX, int cellY, int button) {
+    const auto x = static_cast<float>(cellX * CellSize + 10);
+    const auto y = static_cast<float>(cellY * CellSize + 10);
+    return {EventKind::MouseDown, "frmField.area", -1, button, 0, x, y};
+}
+
+InputEvent GameTest::Key(int code) {
+    return {EventKind::KeyDown, "frmField", -1, code};
 }
 
 void GameTest::Hold(const std::string& name, const std::string& mode, int rounds) {

@@ -51,18 +51,6 @@ TEST_F(OddsTest, AnOrderPaysItsRoundsAndHitsNobodyOutOfReach) {
     }
 }
 
-TEST_F(OddsTest, WhatTheRulesDontAskForChangesNothing) {
-    FiringRange range;
-    const auto fire = [&range](const Drill& drill) { return range.Fire(drill, 60, 5); };
-    const Score open = fire({.weapon = "m4"});
-    EXPECT_EQ(fire({.weapon = "m4", .shooterStance = Prone}), open);
-    EXPECT_EQ(fire({.weapon = "m4", .screen = {"", Concrete, 1, 1, 1}}), open) << "concrete stops no bullet";
-    EXPECT_NE(fire({.weapon = "m4", .targetStance = Prone}), open);
-    // Over two cells a knife scatters within the target's cell, and hits 73 to 100 times in a hundred.
-    EXPECT_GT(fire({.weapon = "knife", .mode = 1, .east = 2}).hitting, 30) << "every throw has its knife";
-    EXPECT_EQ(fire({.weapon = "m4"}), open);
-}
-
 TEST(LineChartTest, PlacesPointsByItsAxes) {
     const std::string svg =
         ChartSvg({"", {"cells", 10, 5}, {"percent", 100, 50}, {{"line", {{0, 0}, {5, 50}, {10, 100}}}}});

@@ -2,16 +2,8 @@
 #include "view/commands.h"
 
 #include "data/weapons_file.h"
-#include "personal/typewriter.h"
-#include "platform/blit.h"
-#include "platform/picture_file.h"
-#include "state/state.h"
-#include "tests/support/drawn_field.h"
 #include "tests/support/game_test.h"
-#include "view/events.h"
-#include "view/field_form.h"
 #include "view/panel.h"
-#include "view/stored_pictures.h"
 
 namespace {
 
@@ -107,52 +99,11 @@ TEST_F(CommandsTest, BracketsGoThroughTheModesAndStopAtTheEnds) {
     EXPECT_EQ(unit.fireMode, 1);
 }
 
-TEST_F(CommandsTest, ThePointerReadsOutCellsAndUnits) {
-    struct Case {
-        float x, y;
-        const char* tip;
-        const char* place;
-    };
-    constexpr Case Cases[] = {
-        {605.5F, 401.4F, "u0:50:active t:80 weapon:", "[30,20]"},
-        {825, 425, "4 (concrete) with 220", "[41,21]"},
-        {1005, 605, "u20:50:active t:80 weapon:", "[50,30]"},  // seen or not
-        {105, 105, "40 () with 200", "[5,5]"},
-    };
-    DrawField(40, 21, {"T#"});
-    PutUnit(20, 50, 30);
+TEST_F(CommandsTest, ThePointerReadsOutWhatNoMapOfTheGameHolds) {
     cellGrid[5][5].tileY = 40;
-    for (const Case& c : Cases) {
-        Dispatch({EventKind::MouseMove, "frmField.area", -1, 0, 0, c.x, c.y});
-        EXPECT_EQ(frmField.area.ToolTipText, c.tip);
-        EXPECT_EQ(frmField.Caption, std::string("Sarnoth III :: Field ") + c.place);
-    }
-}
-
-TEST_F(CommandsTest, ThePanelWritesThreeDigitsToABarAndLightsTheStance) {
-    const Picture& strip = StoredPicture("picBarDigits.bmp");
-    for (const auto& [bar, value] : {std::pair{0, 147}, {1, 60}, {2, 8}, {3, 209}}) {
-        BarDigits(bar, value);
-        for (const auto& [place, digit] :
-             {std::pair{0, value / 100}, {1, value / 10 % 10}, {2, value % 10}}) {
-            Picture expected(5, 6);
-            BitBlt(expected, 0, 0, 5, 6, strip, digit * 5, bar * 6, RasterOp::SRCCOPY);
-            EXPECT_TRUE(frmField.imgBar[4 + 3 * bar + place].Picture->SameAs(expected))
-                << value << " " << place;
-        }
-    }
-    for (const int rounds : {0, 1}) {
-        ShowWeaponBox(rounds);
-        Picture expected = *ReadPictureFile("\\pic\\weapon.gif");
-        if (rounds == 1) Typewriter("1", true, expected, 90, 24);
-        EXPECT_TRUE(frmField.picBarWeapon.canvas.SameAs(expected)) << rounds;
-    }
-    for (int stance = Prone; stance <= Stance::Run; ++stance) {
-        ShowStance(stance);
-        for (int i = 0; i < 4; ++i)
-            EXPECT_EQ(frmField.imgStance[i].PictureName,
-                      "\\pic\\stance" + std::to_string(i) + (i == stance ? "on" : "off") + ".gif");
-    }
+    Dispatch({EventKind::MouseMove, "frmField.area", -1, 0, 0, 105.5F, 101.4F});
+    EXPECT_EQ(frmField.area.ToolTipText, "40 () with 200");
+    EXPECT_EQ(frmField.Caption, "Sarnoth III :: Field [5,5]");
 }
 
 TEST_F(CommandsTest, TheDurabilityColumnHasFourBands) {

@@ -5,9 +5,7 @@
 
 #include "personal/info_form.h"
 #include "personal/personal_file.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -94,20 +92,6 @@ TEST_F(EventsTest, WhatIsHiddenOrSwitchedOffGetsNothing) {
     EXPECT_FALSE(shown()) << "it lies in what is hidden";
     frmField.picSlateD.Visible = true;
     EXPECT_TRUE(shown());
-}
-
-TEST_F(EventsTest, AnArrowOfTheCatalogueRunsUntilItIsLetGoWhereverThatIs) {
-    LoadInfo();
-    frmInfo.imgUpDn[1].Visible = true;
-    Dispatch({EventKind::MouseDown, "frmInfo.imgUpDn", 1, 1});
-    EXPECT_TRUE(frmInfo.timerArrow.Enabled);
-    Dispatch({EventKind::MouseUp, "frmInfo.imgUpDn", 1, 1, 0, 500, -20});
-    EXPECT_FALSE(frmInfo.timerArrow.Enabled);
-    EXPECT_EQ(frmInfo.arrowCode, 0);
-    EXPECT_EQ(frmInfo.timerArrow.Interval, 400);
-    const int row = weaponPage;
-    Dispatch({EventKind::Timer, "frmInfo.timerArrow"});
-    EXPECT_EQ(weaponPage, row);
 }
 
 }  // namespace

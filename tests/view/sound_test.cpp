@@ -2,9 +2,7 @@
 #include "view/sound.h"
 
 #include "platform/files.h"
-#include "state/state.h"
 #include "tests/support/game_test.h"
-#include "view/field_form.h"
 #include "view/scrolling.h"
 
 namespace {
