@@ -7,6 +7,7 @@
 #include "combat/actions.h"
 #include "combat/costs.h"
 #include "combat/things.h"
+#include "field/geometry.h"
 #include "state/state.h"
 #include "state/turns.h"
 
@@ -47,10 +48,13 @@ void SettleSelection() {
     ShowHand();
 }
 
+// A soldier whose time is used up hands over, and so does one who was selected in the middle and fell there.
 void SettleHandOver() {
     const std::vector<int> askers = std::exchange(game.handOverAsked, {});
+    const Unit& unit = UnitTable[curUnit];
     const bool asked = std::find(askers.begin(), askers.end(), curUnit) != askers.end();
-    if (asked && IsSpentSoldier(UnitTable[curUnit])) SelectNextUnit();
+    const bool fell = unit.status == Dead && TeamOfUnit(curUnit) == SquadTeam;
+    if (fell || (asked && IsSpentSoldier(unit))) SelectNextUnit();
 }
 
 // Between the pumps of an operation nothing shows whose modes its rounds are fired with.

@@ -129,8 +129,9 @@ bool LiesOn(const Control& control, Event event) {
 void Handle(Event event) {
     for (const Handler& handler : Handlers) {
         if (handler.event != event.kind || handler.control != event.control) continue;
-        if (handler.kind == Kind::View || AwaitsOrders()) handler.run(event);
-        return;
+        if (handler.kind == Kind::Order && !AwaitsOrders()) return;
+        if (handler.kind == Kind::Order && UnitTable[curUnit].status == Dead) SelectNextUnit();
+        return handler.run(event);
     }
 }
 

@@ -71,6 +71,18 @@ TEST_F(OrdersWithinOrders, TheSoldierWhoIsSelectedMeanwhileFiresWithHisOwnAndSta
     EXPECT_EQ(frmField.imgBar[0].Width, second.time);
 }
 
+TEST_F(OrdersWithinOrders, WhoFallsWhileHeIsSelectedHandsOverAndTakesNoMoreOrders) {
+    Arm(0, "ak", "Burst");
+    RunOperation([] {
+        PumpKeepingOrder([] { SelectNextUnit(); });
+        UnitTable[1].status = Dead;
+        PumpKeepingOrder([] { Dispatch(RightClick(10, 40)); });
+    });
+    EXPECT_EQ(UnitTable[1].facing, East);
+    EXPECT_EQ(UnitTable[2].facing, South) << "the next one got the order";
+    EXPECT_EQ(curUnit, 2);
+}
+
 TEST_F(OrdersWithinOrders, AModeChosenInTheMiddleOfABurstIsForTheNextOrder) {
     Unit& unit = Arm(0, "m4m203", "Burst");
     AtPump(1, {EventKind::Choose, "frmField.comboMode", -1, 4});
