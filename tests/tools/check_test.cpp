@@ -260,7 +260,7 @@ TEST(FindingsTest, OfALongLineOnlyWhatLiesAroundTheFaultIsShown) {
     CheckedText text;
     text.path = "f";
     text.lines = {std::string(100, 'a') + "\u00EB" + std::string(1000, 'b')};
-    for (const int column : {1, 202, 203, 1103})
+    for (const int column : {1, 202, 1103})
         text.faults.Add({{1, column}, "w", "e"});
     Findings findings;
     TakeFaults(text, findings);
@@ -268,7 +268,6 @@ TEST(FindingsTest, OfALongLineOnlyWhatLiesAroundTheFaultIsShown) {
         "f:1:1: w, expected e\n    " + std::string(100, 'a') + "\u00EB" + std::string(98, 'b') + "\n    ^\n",
         "f:1:202: w, expected e\n    \u00EB" + std::string(198, 'b') + "\n    " + std::string(100, ' ') +
             "^\n",
-        "f:1:203: w, expected e\n    " + std::string(200, 'b') + "\n    " + std::string(100, ' ') + "^\n",
         "f:1:1103: w, expected e\n    " + std::string(100, 'b') + "\n    " + std::string(100, ' ') + "^\n"};
     for (std::size_t i = 0; i < findings.size(); ++i)
         EXPECT_EQ(FindingsText({findings[i]}), expected[i]);
