@@ -106,12 +106,12 @@ TEST_F(ActionsTest, AModeChosenInTheMiddleOfABurstIsTheNextOrders) {
 TEST_F(ActionsTest, AShellIsThirtyPelletsOfAThirtiethOfThePower) {
     Hold("spas", "Aimed shot", 6);
     host.pumps = 0;
+    unit.facing = SouthWest;
     ActOnTarget(900, 410);
     EXPECT_EQ(unit.items[0].roundsSecond, 5);
     EXPECT_EQ(400 - unit.time, WeaponInfoByName("spas").time);
     EXPECT_EQ(host.pumps, 30) << "one flight each";
-    EXPECT_EQ(muzzleX, 31 * 20) << "the middle of the side that he faces";
-    EXPECT_EQ(muzzleY, 410);
+    EXPECT_EQ((std::pair<int, int>(muzzleX, muzzleY)), std::pair(600, 420)) << "the corner that he faces";
     EXPECT_LE(bulletPower, WeaponInfoByName("spas").power / 30 + 1);
 }
 

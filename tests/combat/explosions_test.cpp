@@ -1,4 +1,4 @@
-// Charges, explosions, craters; digging, filling and the medical kit.
+// Craters; digging, filling and the medical kit.
 #include "combat/explosions.h"
 
 #include <set>

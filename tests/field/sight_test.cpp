@@ -1,4 +1,4 @@
-// The sight fan against a plain transcription of its rule, and what units see of one another.
+// The sight fan against a plain transcription of its rule, and the way round those who were sighted.
 #include "field/sight.h"
 
 #include <cmath>
@@ -56,7 +56,9 @@ TEST_F(SightTest, EveryFacingFromEveryCellOfTheMapExaminesTheSameCells) {
 
 TEST_F(SightTest, ClicksOnTheCounterGoRoundTheSightedOnes) {
     ClearField();
-    DrawField(30, 20, {"0....", "..abc"});
+    PutUnit(0, 30, 20);
+    for (const int enemy : {20, 21, 22})
+        PutUnit(enemy, enemy + 12, 21);
     UnitTable[21].status = Dead;
     Look(0);
     const auto click = [] {

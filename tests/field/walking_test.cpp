@@ -1,6 +1,7 @@
 // Turning, stepping and walking: what they cost, what refuses them, how a walk ends.
 #include "field/walking.h"
 
+#include "data/terrain.h"
 #include "tests/support/game_test.h"
 
 namespace {
@@ -101,7 +102,7 @@ TEST_F(WalkingTest, ARefusedStepKeepsTheEnergyThatItHasPaid) {
         {"without time", South, 5, 60, 55, 1},
         {"without energy the time is not asked for", South, 80, 4, 4, 1},
     };
-    DrawField(31, 20, {"#"});
+    PutTile(31, 20, 0, Concrete);
     for (const Case& c : Cases) {
         unit.facing = c.facing;
         unit.stance = Crouch;
@@ -144,7 +145,9 @@ TEST_F(WalkingTest, AWalkEndsForItsReasons) {
 }
 
 TEST_F(WalkingTest, AWalkWithoutAPathStepsToAndFro) {
-    DrawField(29, 19, {"#####", "#0..#", "#####"});
+    for (int x = 29; x <= 33; ++x)  // a hall of three cells
+        for (int y = 19; y <= 21; ++y)
+            if (y != 20 || x == 29 || x == 33) PutTile(x, y, 0, Concrete);
     unit.time = 19;
     PutUnit(1, 10, 10);
     EXPECT_TRUE(WalkTo(50, 20, 100)) << "the plan runs out, standing still at its end";

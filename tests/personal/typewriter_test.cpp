@@ -1,4 +1,4 @@
-// The typewriter: its pen and its glyphs.
+// The pen of the typewriter, and the numbers that it writes.
 #include "personal/typewriter.h"
 
 #include "tests/support/game_test.h"

@@ -41,19 +41,18 @@ TEST_F(SetupTest, EachLandingSpotIsTakenOnceWhoeverStandsThereAndThenAnyFreeCell
         taken.insert(spot.x);
     }
     EXPECT_EQ(taken.size(), 41U);
-    const LandingCell random = FindLandingCell("xxx");
-    ASSERT_GE(random.x, 0);
-    EXPECT_EQ(cellGrid[random.y][random.x].occupant, -1);
-}
-
-TEST_F(SetupTest, APlaceIsDrawnByItsColumnAndThenItsRow) {
-    ClearField();
     SeedRandom(5);
     const int x = RandomInt(75, 0);
     const int y = RandomInt(45, 0);
-    SeedRandom(5);
-    const LandingCell random = FindLandingCell("random");
-    EXPECT_EQ(std::pair(random.x, random.y), std::pair(x, y));
+    const auto drawn = [](const char* place) {
+        SeedRandom(5);
+        const LandingCell cell = FindLandingCell(place);
+        return std::pair(cell.x, cell.y);
+    };
+    EXPECT_EQ(drawn("xxx"), std::pair(x, y));
+    EXPECT_EQ(drawn("random"), std::pair(x, y));
+    PutUnit(1, x, y);
+    EXPECT_NE(drawn("random"), std::pair(x, y)) << "somebody stands there";
 }
 
 TEST_F(SetupTest, TheMenusExitEndsTheMissionAndSavesTheStore) {

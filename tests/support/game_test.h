@@ -11,7 +11,7 @@
 #include "platform/headless_host.h"
 #include "platform/run_time_error.h"
 #include "state/state.h"
-#include "tests/support/drawn_field.h"
+#include "tests/support/open_field.h"
 #include "tools/game_copy.h"
 #include "view/events.h"
 #include "view/field_form.h"

@@ -124,7 +124,6 @@ TEST_F(CommandsTest, TheDurabilityColumnHasFourBands) {
         EXPECT_EQ(frmField.imgBarWcolor.Height, c.fill);
         EXPECT_EQ(frmField.imgBarWcolor.Top, 72 - c.fill);
         EXPECT_EQ(frmField.imgBarWcolor.Visible, c.current != 0);
-        EXPECT_EQ(frmField.imgBarWcover.Height, 40 - c.max / 25);
         EXPECT_EQ(frmField.imgBarWcolor.PictureName, "\\pic\\wea_" + std::string(c.band) + ".gif");
         EXPECT_EQ(frmField.imgBarWunder.ToolTipText, c.percent);
     }

@@ -1,4 +1,4 @@
-// What is painted on the field: cells in layers, units, their moves, tree tops, and the view that follows.
+// What is painted on the field: cells under their units, steps, explosions, and the marks at the edges.
 #include "view/painting.h"
 
 #include "data/terrain.h"
