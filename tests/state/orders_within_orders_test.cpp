@@ -73,10 +73,11 @@ TEST_F(OrdersWithinOrders, TheSoldierWhoIsSelectedMeanwhileFiresWithHisOwnAndSta
 
 TEST_F(OrdersWithinOrders, WhoFallsWhileHeIsSelectedHandsOverAndTakesNoMoreOrders) {
     Arm(0, "ak", "Burst");
-    RunOperation([] {
+    const InputEvent order = PressOn(10, 40, 2);
+    RunOperation([&order] {
         PumpKeepingOrder([] { SelectNextUnit(); });
         UnitTable[1].status = Dead;
-        PumpKeepingOrder([] { Dispatch(RightClick(10, 40)); });
+        PumpKeepingOrder([&order] { Dispatch(order); });
     });
     EXPECT_EQ(UnitTable[1].facing, East);
     EXPECT_EQ(UnitTable[2].facing, South) << "the next one got the order";
