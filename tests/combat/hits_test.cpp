@@ -127,4 +127,15 @@ TEST_F(HitsTest, TheDyingDropTheirThingsAndFreeTheirCell) {
     EXPECT_EQ(Log(), log) << "the dead take nothing";
 }
 
+TEST_F(HitsTest, TheLastOfTheSquadTakesTheMissionWithHim) {
+    UnitTable[0].health = 1;
+    bulletPower = 30;
+    const auto hitAgainAndAgain = [] {
+        for (int i = 0; i < 100; ++i)
+            UnitHit(20, 0);
+    };
+    EXPECT_THROW(hitAgainAndAgain(), ProcessEnded);
+    EXPECT_EQ(host.messages, std::vector<std::string>{"Defeat. The end."});
+}
+
 }  // namespace
