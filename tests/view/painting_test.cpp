@@ -67,6 +67,9 @@ TEST_F(PaintingTest, ACellShowsItsTileOrTheOneAskedFor) {
         PaintCell(6, 5, area, column, row);
         EXPECT_TRUE(Shown().SameAs(Tile(3, Wooden))) << "one of the two given is none given";
     }
+    PutTile(6, 5, 81, Wooden);
+    PaintCell(6, 5, area);
+    EXPECT_TRUE(Shown().SameAs(Tile(15, Wooden))) << "what is left of broken wood";
 }
 
 TEST_F(PaintingTest, ARepaintedCellIsItsUnitsNewBackgroundWhoeverIsCurrent) {
