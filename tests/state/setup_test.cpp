@@ -35,6 +35,7 @@ TEST_F(SetupTest, TheSquadIsTheRosterAndLandsColumnByColumnFromTheCorner) {
         earlier = order;
     }
     EXPECT_EQ(UnitTable[60].status, NotLanded) << "the roster itself does not land";
+    EXPECT_EQ(frmProgress.imgProgress1.Width, 460) << "ten pixels for each row of the map";
 }
 
 TEST_F(SetupTest, EachLandingSpotIsTakenOnceWhoeverStandsThereAndThenAnyFreeCell) {
