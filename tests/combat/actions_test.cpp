@@ -186,6 +186,7 @@ TEST_F(ActionsTest, FoldingCostsNothing) {
     EXPECT_EQ(unit.items[0].name, "etool");
     EXPECT_EQ(unit.items[0].count, 1);
     EXPECT_EQ(unit.time, 400);
+    EXPECT_EQ(Log(), "dig it: fold\ndig it: unfold\n");
 }
 
 }  // namespace

@@ -86,4 +86,15 @@ TEST_F(HitsTest, ARollUpToTheChanceHitsWhoIsAlive) {
     }
 }
 
+TEST_F(HitsTest, TheLastOfTheSquadTakesTheMissionWithHim) {
+    UnitTable[0].health = 1;
+    bulletPower = 30;
+    const auto hitAgainAndAgain = [] {
+        for (int i = 0; i < 100; ++i)
+            UnitHit(20, 0);
+    };
+    EXPECT_THROW(hitAgainAndAgain(), ProcessEnded);
+    EXPECT_EQ(host.messages, std::vector<std::string>{"Defeat. The end."});
+}
+
 }  // namespace

@@ -70,6 +70,7 @@ TEST_F(TablesTest, AFaultyWeaponRowIsNamedWithLineAndColumn) {
         {"\t9\t", "\t32768\t", "16: expected a whole number in the column \"power\", found \"32768\""},
         {"\t9\t", "\t-32769\t", "16: expected a whole number in the column \"power\", found \"-32769\""},
         {"0000010", "00000x0", "33: expected seven digits in the column \"modes\", found \"00000x0\""},
+        {"0000010", "00000100", "33: expected seven digits in the column \"modes\", found \"00000100\""},
         {"\tHands", "", "60: expected 20 columns, found 19"},
     };
     const std::string place = "Run-time error 4: Bad data: dat/weapons.dat:2:";

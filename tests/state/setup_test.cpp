@@ -24,6 +24,7 @@ TEST_F(SetupTest, OnlyTheFirstSoldierStartsInFullHealth) {
     EXPECT_EQ(UnitTable[0].health, UnitTable[0].vitality);
     EXPECT_EQ(UnitTable[1].health, 33);
     EXPECT_EQ(UnitTable[60].status, NotLanded) << "the roster itself does not land";
+    EXPECT_EQ(frmProgress.imgProgress1.Width, 460) << "ten pixels for each row of the map";
 }
 
 TEST_F(SetupTest, EachLandingSpotIsTakenOnceWhoeverStandsThereAndThenAnyFreeCell) {

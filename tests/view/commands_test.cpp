@@ -78,6 +78,7 @@ TEST_F(CommandsTest, TheSwitchChangesTheReadOutOfAccuracy) {
         EXPECT_EQ(unit.aimChance, c.stopped);
         Dispatch({EventKind::Click, "frmField.imgStop"});
         EXPECT_EQ(unit.aimChance, c.moving);
+        EXPECT_EQ(frmField.imgStop.ToolTipText, "fire in motion");
         EXPECT_EQ(frmField.imgBar[3].Width, c.moving);
         EXPECT_EQ(unit.time, 76);
         Dispatch({EventKind::Click, "frmField.imgStop"});
