@@ -43,8 +43,8 @@ std::string ReadWholeFile(std::string_view name, std::size_t most = MaxFile);
 
 /// Puts `content` in the place of the file's old content so that at any moment, a full disk, a power cut or a
 /// kill included, the file is either the old one or the new one, whole. The new one has the old one's
-/// permissions and, as far as may be, its owner; links to it stay links. Throws FileWrite, also for a file that
-/// may not be written to, and leaves the old one.
+/// permissions and, as far as may be, its owner; links to it stay links. Throws FileWrite, also for a file
+/// that may not be written to, and leaves the old one.
 void ReplaceFile(std::string_view name, std::string_view content);
 
 /// Reads a text character by character and knows where it is. CR LF and LF both end a line.

@@ -177,7 +177,8 @@ class SoakHost : public HeadlessHost {
 
     void AtSlot(EventKind kind, int slot) {
         const ImageControl& image = frmInfo.imgInv[slot];
-        Give({kind, "frmInfo", -1, 1, 0, static_cast<float>(image.Left + 3), static_cast<float>(image.Top + 3)});
+        Give({kind, "frmInfo", -1, 1, 0, static_cast<float>(image.Left + 3),
+              static_cast<float>(image.Top + 3)});
     }
 
     Recorder& recorder;
