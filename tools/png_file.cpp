@@ -1,11 +1,16 @@
 #include "tools/png_file.h"
 
+#include <cstdlib>
 #include <vector>
 
 #include "platform/run_time_error.h"
 
 #define STB_IMAGE_WRITE_IMPLEMENTATION
 #define STB_IMAGE_WRITE_STATIC
+// The encoder may ask for nothing.
+#define STBIW_MALLOC(size) std::malloc((size) + 1)
+#define STBIW_REALLOC(block, size) std::realloc(block, size)
+#define STBIW_FREE(block) std::free(block)
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wunused-function"
 #pragma GCC diagnostic ignored "-Wmissing-field-initializers"

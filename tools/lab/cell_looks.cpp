@@ -103,7 +103,7 @@ Looks BareLooks(int x, int y) {
 }
 
 Looks CellLooks(int x, int y) {
-    const Looks bare = BareLooks(x, y);
+    Looks bare = BareLooks(x, y);
     const int occupant = cellGrid[y][x].occupant;
     if (occupant < 0) return bare;
     const Unit& unit = UnitTable[occupant];

@@ -77,7 +77,7 @@ constexpr Place FilePlaces[] = {
 
 InputEvent RandomPlayer::Next() {
     if (!planned.empty()) {
-        const InputEvent next = planned.front();
+        InputEvent next = planned.front();
         planned.pop_front();
         return next;
     }
