@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "data/terrain.h"
 #include "field/geometry.h"
 #include "field/sightings.h"
 #include "tests/support/game_test.h"
@@ -52,6 +53,18 @@ TEST_F(SightTest, EveryFacingFromEveryCellOfTheMapExaminesTheSameCells) {
                 });
                 ASSERT_EQ(visits, PlainLook(facing, x, y)) << x << ", " << y << " facing " << facing;
             }
+}
+
+TEST_F(SightTest, WhoStandsInAWoodIsSightedAndHidesWhoIsBehindIt) {
+    ClearField();
+    PutUnit(0, 30, 20);
+    for (int y = 10; y <= 30; ++y)
+        PutTile(33, y, 0, Trees);
+    PutUnit(20, 33, 20);
+    PutUnit(21, 38, 20);
+    Look(0);
+    EXPECT_EQ(UnitTable[0].seen[0], 1);
+    EXPECT_EQ(UnitTable[0].seen[1], 0);
 }
 
 TEST_F(SightTest, ClicksOnTheCounterGoRoundTheSightedOnes) {
