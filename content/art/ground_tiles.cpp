@@ -20,8 +20,10 @@ void Tufts(Relief& relief, std::uint32_t seed, Ink dark, Ink light) {
     constexpr int Count = 5;
     Dice dice(seed);
     for (int i = 0; i < Count; ++i) {
-        Tuft(relief, dice.Roll(4, 16), dice.Roll(5, 17), dice.Roll(2.0f, 3.0f), dark, light,
-             seed + static_cast<std::uint32_t>(i));
+        const float size = dice.Roll(2.0f, 3.0f);
+        const float y = dice.Roll(5, 17);
+        const float x = dice.Roll(4, 16);
+        Tuft(relief, x, y, size, dark, light, seed + static_cast<std::uint32_t>(i));
     }
 }
 

@@ -149,9 +149,12 @@ void Saplings(Relief& relief, int variant) {
     const auto seed = static_cast<std::uint32_t>(251 + variant * 9);
     Dice dice(seed);
     if (variant % 2 == 1) {
-        for (int i = 0; i < 3; ++i)
-            Fern(relief, dice.Roll(5, 15), dice.Roll(5, 15), dice.Roll(3.4f, 4.6f),
-                 seed + static_cast<std::uint32_t>(i));
+        for (int i = 0; i < 3; ++i) {
+            const float size = dice.Roll(3.4f, 4.6f);
+            const float y = dice.Roll(5, 15);
+            const float x = dice.Roll(5, 15);
+            Fern(relief, x, y, size, seed + static_cast<std::uint32_t>(i));
+        }
         return;
     }
     for (int i = 0; i < 4; ++i) {

@@ -152,8 +152,9 @@ void FallenLeaves(Relief& relief) {
     constexpr Ink Tones[] = {Ink::Amber, Ink::Timber, Ink::Brick, Ink::Plank, Ink::Gold};
     for (int i = 0; i < 46; ++i) {
         QTransform place;
-        place.translate(static_cast<double>(dice.Roll(1.6f, 18)), static_cast<double>(dice.Roll(1.6f, 18)))
-            .rotate(static_cast<double>(dice.Roll(0, 180)));
+        const auto y = static_cast<double>(dice.Roll(1.6f, 18));
+        const auto x = static_cast<double>(dice.Roll(1.6f, 18));
+        place.translate(x, y).rotate(static_cast<double>(dice.Roll(0, 180)));
         relief.Lay(place.map(Ellipse(0, 0, 1.25, 0.7)),
                    {.colour = Colour(Tones[dice.Pick(5)]), .height = 0.35f, .round = 0.4f});
     }
