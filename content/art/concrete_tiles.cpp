@@ -39,8 +39,10 @@ void Rubble(Relief& relief, int count, float largest, std::uint32_t seed) {
         const auto x = static_cast<double>(dice.Roll(2.5f, 16.5f));
         const auto y = static_cast<double>(dice.Roll(2.5f, 16.5f));
         const auto radius = static_cast<double>(dice.Roll(0.7f, largest));
-        relief.Lay(Star(x, y, radius, radius * 0.8, 3, static_cast<double>(dice.Roll(0, 3))),
-                   {.colour = Between(Ink::Cement, Ink::Chalk, static_cast<double>(dice.Roll(0, 0.9f))),
+        const auto paleness = static_cast<double>(dice.Roll(0, 0.9f));
+        const auto turn = static_cast<double>(dice.Roll(0, 3));
+        relief.Lay(Star(x, y, radius, radius * 0.8, 3, turn),
+                   {.colour = Between(Ink::Cement, Ink::Chalk, paleness),
                     .height = static_cast<float>(radius) * 0.7f,
                     .round = 0.5f,
                     .grain = 0.1f});
