@@ -4,10 +4,10 @@
 #include "data/weapons_file.h"
 #include "field/geometry.h"
 #include "field/sightings.h"
+#include "field/stances.h"
 #include "field/walking.h"
 #include "platform/random.h"
 #include "state/state.h"
-#include "view/commands.h"
 
 namespace {
 

@@ -5,6 +5,7 @@
 
 #include "bench/stage.h"
 #include "combat/actions.h"
+#include "combat/fire_modes.h"
 #include "combat/things.h"
 #include "state/state.h"
 #include "view/field_form.h"

@@ -2,6 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/stage.h"
+#include "field/moving.h"
 #include "state/state.h"
 #include "view/field_form.h"
 #include "view/mini_map.h"

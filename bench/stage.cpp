@@ -3,7 +3,7 @@
 #include <random>
 
 #include "field/geometry.h"
-#include "state/setup.h"
+#include "view/start.h"
 
 namespace {
 

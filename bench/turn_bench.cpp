@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "bench/stage.h"
-#include "state/setup.h"
 #include "tools/player/orders.h"
 #include "tools/player/scripted_player.h"
 #include "view/field_form.h"
+#include "view/start.h"
 
 namespace {
 

@@ -9,6 +9,6 @@ add_custom_command(
     VERBATIM)
 
 file(GLOB GAME_SOURCES CONFIGURE_DEPENDS
-    ai/*.cpp combat/*.cpp data/*.cpp field/*.cpp personal/*.cpp platform/*.cpp state/*.cpp view/*.cpp)
+    ai/*.cpp combat/*.cpp data/*.cpp field/*.cpp mission/*.cpp personal/*.cpp platform/*.cpp state/*.cpp view/*.cpp)
 add_library(sarnoth_game STATIC ${GAME_SOURCES} ${EMBEDDED})
 target_link_libraries(sarnoth_game PUBLIC sarnoth_options)

@@ -1,110 +1,19 @@
 #include "combat/actions.h"
 
-#include <array>
 #include <string>
-#include <vector>
 
-#include "combat/costs.h"
+#include "combat/families.h"
+#include "combat/fire_modes.h"
 #include "combat/shooting.h"
-#include "combat/things.h"
 #include "combat/tools.h"
-#include "data/weapons_file.h"
 #include "field/geometry.h"
+#include "state/audience.h"
+#include "state/costs.h"
+#include "state/log.h"
 #include "state/operation.h"
 #include "state/state.h"
-#include "view/field_form.h"
-#include "view/log.h"
-#include "view/panel.h"
-#include "view/sound.h"
 
 namespace {
-
-struct NamedFamily {
-    std::string_view name;  // of the held thing
-    std::string_view family;
-    std::string_view secondary;  // when the chosen mode is "Secondary"
-};
-
-// clang-format off
-constexpr NamedFamily NamedFamilies[] = {
-    // thing       family     as "Secondary"
-    {"m4m203",     "fire",    "bloop"},
-    {"steyrm203",  "fire",    "bloop"},
-    {"xm8xm320",   "fire",    "bloop"},
-    {"famasm203",  "fire",    "bloop"},
-    {"xm8lss",     "fire",    "shot"},
-    {"mkey",       "fire",    "shot"},
-    {"m203",       "bloop",   "bloop"},
-    {"mm1",        "bloop",   "bloop"},
-    {"m67",        "gren",    "gren"},
-    {"m67a2",      "gren",    "gren"},
-    {"m367",       "gren",    "gren"},
-    {"c4",         "charge",  "charge"},
-    {"nova",       "shot",    "shot"},
-    {"spas",       "shot",    "shot"},
-    {"super90",    "shot",    "shot"},
-    {"jackham",    "shot",    "shot"},
-    {"rem870l",    "shot",    "shot"},
-    {"rem870m",    "shot",    "shot"},
-    {"rem870s",    "shot",    "shot"},
-    {"rem870gs",   "shot",    "shot"},
-    {"crossbow",   "dart",    "dart"},
-    {"airpipe",    "dart",    "dart"},
-    {"anschutz",   "varmint", "varmint"},
-    {"american",   "varmint", "varmint"},
-    {"etool",      "dig",     "dig"},
-    {"etoolfold",  "dig",     "dig"},
-    {"bsl",        "dig",     "dig"},
-    {"mpl",        "dig",     "dig"},
-};
-
-struct ToolModes {
-    std::string_view name;  // of the held tool
-    std::array<const char*, 4> modes;
-};
-
-constexpr ToolModes Tools[] = {
-    {"bsl",       {"Hit", "Dig", "Fill"}},
-    {"mpl",       {"Hit", "Dig", "Fill"}},
-    {"etool",     {"Hit", "Dig", "Fill", "Fold"}},
-    {"etoolfold", {"Unfold"}},
-    {"med",       {"Cure"}},
-};
-// clang-format on
-
-// By place of WeaponInfo::modes.
-constexpr std::array<const char*, 7> ModeNames = {"Aimed shot", "Snap shot", "Burst", "Full auto",
-                                                  "Secondary",  "Hit",       "Throw"};
-constexpr int BurstPlace = 2;
-
-// What the held thing's own name settles; nothing for most.
-std::string_view NamedFamilyOf(const std::string& name, bool secondary) {
-    for (const NamedFamily& row : NamedFamilies)
-        if (row.name == name) return secondary ? row.secondary : row.family;
-    return "";
-}
-
-std::vector<std::string> ModesOfRow(const WeaponInfo& row) {
-    std::vector<std::string> modes;
-    for (int place = 0; place <= row.modes.Upper; ++place) {
-        if (row.modes[place] <= 0) continue;
-        std::string text = ModeNames[static_cast<std::size_t>(place)];
-        if (place == BurstPlace) text += " [" + std::to_string(row.modes[place]) + "]";
-        modes.push_back(text);
-    }
-    return modes;
-}
-
-std::vector<std::string> OfferedModes(const std::string& name) {
-    for (const ToolModes& tool : Tools) {
-        if (tool.name != name) continue;
-        std::vector<std::string> modes;
-        for (const char* mode : tool.modes)
-            if (mode != nullptr) modes.emplace_back(mode);
-        return modes;
-    }
-    return ModesOfRow(WeaponInfoByName(name));
-}
 
 // Folding a tool changes what it is, and costs nothing.
 void Refold(const char* logWord, const char* name, int count) {
@@ -112,7 +21,7 @@ void Refold(const char* logWord, const char* name, int count) {
     AddToLog(logWord, 1);
     unit.items[0].name = name;
     unit.items[0].count = count;
-    ShowSlot(0, frmField);
+    TheAudience().HandChanged();
     unit.hand.name = name;
     ListActions();  // which remembers the tool by its new name
 }
@@ -121,7 +30,7 @@ void Dig(const char* logWord, int delta) {
     const Unit& unit = UnitTable[curUnit];
     if (!Spend(static_cast<float>(unit.hand.time), "time")) return;
     AddToLog(logWord, 1);
-    PlaySoundAt("weapons\\" + unit.hand.sound, AtCurrentUnit);
+    TheAudience().SoundPlayed("weapons\\" + unit.hand.sound, AtCurrentUnit);
     SurfaceChange(unit.cellX, unit.cellY, delta);
 }
 
@@ -142,17 +51,6 @@ void UseTool(int targetX, int targetY) {
 
 }  // namespace
 
-std::string_view ActionFamily() {
-    const WeaponInfo& hand = UnitTable[curUnit].hand;
-    const std::string mode = game.modes.Text();
-    const std::string_view named = NamedFamilyOf(hand.name, mode == "Secondary");
-    if (!named.empty()) return named;
-    if (hand.weaponClass == "knife" && mode == "Hit") return "hit";
-    if (hand.weaponClass == "knife" && mode == "Throw") return "throw";
-    if (hand.name == "med") return "cure";
-    return hand.kind == "m" || hand.kind == "w" ? "fire" : "";
-}
-
 void ActOnTarget(int x, int y) {
     RunOperation([x, y] {
         const std::string_view family = ActionFamily();
@@ -165,18 +63,4 @@ void ActOnTarget(int x, int y) {
         else
             ShootAt(x, y, family);
     });
-}
-
-void ListActions() {
-    const std::string& name = UnitTable[curUnit].hand.name;
-    game.modes.weapon = name;
-    game.modes.offered = OfferedModes(name);
-    ChooseMode(0);
-}
-
-void ChooseMode(int index) {
-    const bool offered = index >= 0 && index < static_cast<int>(game.modes.offered.size());
-    game.modes.chosen = offered ? index : -1;
-    ShowModes();
-    HandSync("real2fake");
 }

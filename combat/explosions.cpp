@@ -7,13 +7,11 @@
 #include "data/weapons_file.h"
 #include "field/geometry.h"
 #include "platform/rounding.h"
+#include "state/audience.h"
+#include "state/log.h"
 #include "state/operation.h"
+#include "state/pace.h"
 #include "state/state.h"
-#include "view/field_form.h"
-#include "view/log.h"
-#include "view/overlays.h"
-#include "view/painting.h"
-#include "view/sound.h"
 
 namespace {
 
@@ -49,7 +47,7 @@ void ChargeAdd(int x, int y) {
     charge.time = Countdown;
     charge.cellX = x;
     charge.cellY = y;
-    PaintCell(x, y, frmField.area.canvas);
+    TheAudience().CellChanged(x, y);
 }
 
 // ODDITY: the list doesn't close up, only its count falls. The first of several charges blows again and
@@ -58,7 +56,7 @@ void ChargeRemove(int x, int y) {
     for (int i = ChargeBase; i <= ChargeBase + teamLast[ChargeList]; ++i) {
         if (UnitTable[i].cellX != x || UnitTable[i].cellY != y) continue;
         --teamLast[ChargeList];
-        PaintCell(x, y, frmField.area.canvas);
+        TheAudience().CellChanged(x, y);
         return;
     }
 }
@@ -79,7 +77,7 @@ void ChargeBlow(int x, int y) {
     bulletPower = power;
     bulletAccur = UnitTable[curUnit].hand.accur;
     ShowBlowup(1, x - 1, y - 1);
-    PlaySoundAt("weapons\\gren40", x);
+    TheAudience().SoundPlayed("weapons\\gren40", x);
     for (int i = x - 1; i <= x + 1; ++i)
         for (int j = y - 1; j <= y + 1; ++j)
             if (InField(i, j)) BulletInCell(i, j);

@@ -3,66 +3,27 @@
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
-#include <utility>
-#include <vector>
+#include <string>
 
 #include "combat/hits.h"
 #include "data/map.h"
 #include "data/terrain.h"
 #include "field/geometry.h"
-#include "platform/host.h"
 #include "platform/random.h"
+#include "state/audience.h"
+#include "state/log.h"
+#include "state/pace.h"
 #include "state/state.h"
-#include "view/field_form.h"
-#include "view/log.h"
-#include "view/overlays.h"
-#include "view/painting.h"
-#include "view/sound.h"
 
 namespace {
 
-constexpr Colour TrailGrey = Rgb(128, 128, 128);
-constexpr std::size_t NewestStretch = 21;  // pixels of the trail that a repaint in mid-flight may touch
-constexpr int ClippedSteps = 10;           // a cell that the line only clips for so many pixels is not hit
-
-struct TrailPixel {
-    int x;
-    int y;
-    Colour under;
-};
-
-// The pixels of the flight that runs; nothing between flights.
-std::vector<TrailPixel> flightPath;
-
-void DrawPixel(TrailPixel& pixel) {
-    Picture& area = frmField.area.canvas;
-    pixel.under = area.Pixel(pixel.x, pixel.y);
-    area.SetPixel(pixel.x, pixel.y, TrailGrey);
-}
-
-// Newest first: the first pixel of a flight is drawn twice, and its second note is the trail's own grey.
-void TakeAway(const std::vector<TrailPixel>& path, std::size_t first) {
-    for (std::size_t i = path.size(); i > first; --i)
-        frmField.area.canvas.SetPixel(path[i - 1].x, path[i - 1].y, path[i - 1].under);
-}
-
-std::size_t NewestStart() {
-    return flightPath.size() > NewestStretch ? flightPath.size() - NewestStretch : 0;
-}
-
-void ShowTrailForAMoment() {
-    const std::vector<TrailPixel> path = std::exchange(flightPath, {});
-    DelayThen(1, [&path] { TakeAway(path, 0); });
-}
+constexpr int ClippedSteps = 10;  // a cell that the line only clips for so many pixels is not hit
 
 // The trail is out of the way meanwhile, as an order may repaint what lies under it.
 void ShowCard(int x, int y) {
-    std::vector<TrailPixel> path = std::exchange(flightPath, {});
-    TakeAway(path, 0);
+    TheAudience().TrailChanged("suspend");
     ShowTarget(1, x, y);
-    for (TrailPixel& pixel : path)
-        DrawPixel(pixel);
-    flightPath = std::move(path);
+    TheAudience().TrailChanged("resume");
 }
 
 // One axis of the line: the pixel moves when its error has grown past the longer axis.
@@ -135,15 +96,15 @@ void Take(i16& strength, const Loss& loss) {
     strength = std::max(strength - lost, 0);
 }
 
-void RepaintInFlight(int x, int y, int tileX = -1, int tileY = -1) {
+void RepaintInFlight(int x, int y) {
     BulletTrail("return");
-    PaintCell(x, y, frmField.area.canvas, tileX, tileY);
+    TheAudience().CellChanged(x, y);
     BulletTrail("store");
 }
 
 void BreakWood(int x, int y) {
     cellGrid[y][x].tileX = BrokenTile;
-    RepaintInFlight(x, y, RemainsTile, Wooden);
+    RepaintInFlight(x, y);
 }
 
 void WearWood(int x, int y, int by, bool breaksAtOnce) {
@@ -154,7 +115,7 @@ void WearWood(int x, int y, int by, bool breaksAtOnce) {
 
 void BreakGlass(int x, int y) {
     constexpr int FromWholeToBroken = 2;
-    PlaySoundAt("bump\\glass2", x);
+    TheAudience().SoundPlayed("bump\\glass2", x);
     cellGrid[y][x].durab = 0;
     cellGrid[y][x].tileX += FromWholeToBroken;
     RepaintInFlight(x, y);
@@ -220,8 +181,7 @@ void BulletFly(int x0, int y0, int x1, int y1) {
         ++stepsInCell;
         x.Advance(major);
         y.Advance(major);
-        flightPath.push_back({x.place, y.place, 0});
-        DrawPixel(flightPath.back());
+        TheAudience().TrailDrawn(x.place, y.place);
     }
     BulletTrail("finalize");
     impactX = CellOfPixel(x.place);
@@ -230,12 +190,10 @@ void BulletFly(int x0, int y0, int x1, int y1) {
 }
 
 void BulletTrail(std::string_view mode) {
-    if (mode == "initialize") flightPath.clear();
-    if (mode == "finalize") ShowTrailForAMoment();
-    if (mode == "return") TakeAway(flightPath, NewestStart());
-    if (mode == "store")
-        for (std::size_t i = NewestStart(); i < flightPath.size(); ++i)
-            DrawPixel(flightPath[i]);
+    if (mode == "finalize")
+        DelayThen(1, [] { TheAudience().TrailChanged("finalize"); });
+    else
+        TheAudience().TrailChanged(mode);
 }
 
 void BulletInCell(int x, int y) {

@@ -8,17 +8,15 @@
 #include "combat/flight.h"
 #include "combat/things.h"
 #include "field/geometry.h"
+#include "field/moving.h"
 #include "platform/random.h"
 #include "platform/rounding.h"
-#include "state/mission_end.h"
+#include "state/audience.h"
+#include "state/higher_rules.h"
+#include "state/log.h"
 #include "state/operation.h"
 #include "state/state.h"
-#include "state/turns.h"
-#include "view/field_form.h"
-#include "view/log.h"
-#include "view/panel.h"
-#include "view/sound.h"
-#include "view/unit_painting.h"
+#include "state/status.h"
 
 namespace {
 
@@ -77,7 +75,7 @@ void TakeDamage(int shooter, Unit& target) {
                  " and bring " + std::to_string(damage) + " points of damage",
              1);
     target.health = std::max(target.health - damage, 0);
-    PlaySoundAt("bump\\wound3", AtCurrentUnit);
+    TheAudience().SoundPlayed("bump\\wound3", AtCurrentUnit);
     CheckStatus();
 }
 
@@ -88,9 +86,9 @@ void Die(const Unit& unit) {
     PaintUnit(0, 0);
     DropAll(curUnit);
     if (flying) BulletTrail("store");
-    PlaySoundAt("bump\\death2", AtCurrentUnit);
+    TheAudience().SoundPlayed("bump\\death2", AtCurrentUnit);
     cellGrid[unit.cellY][unit.cellX].occupant = -1;
-    if (TeamEliminated() > -1) EndGame();
+    TheHigherRules().endIfEliminated();
 }
 
 // A soldier who falls lets go of his weapon, and the list of fire modes follows his hand. Who goes on firing
@@ -98,7 +96,7 @@ void Die(const Unit& unit) {
 void KeepModes(const ModeChoice& modes) {
     if (game.modes == modes) return;
     game.modes = modes;
-    if (curUnit < ChargeBase) ShowHand();
+    if (curUnit < ChargeBase) TheAudience().PanelChanged();
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <string>
 
-#include "combat/costs.h"
 #include "combat/explosions.h"
 #include "combat/flight.h"
 #include "combat/things.h"
@@ -12,9 +11,10 @@
 #include "field/geometry.h"
 #include "platform/random.h"
 #include "platform/rounding.h"
+#include "state/audience.h"
+#include "state/costs.h"
+#include "state/log.h"
 #include "state/state.h"
-#include "view/log.h"
-#include "view/sound.h"
 
 namespace {
 
@@ -68,14 +68,15 @@ int RoundsOf(const std::string& mode, const WeaponInfo& hand) {
 
 void SoundLaunch(const Unit& unit, const FamilyWord* word) {
     if (word == nullptr || word->launch == nullptr || game.modes.Text() != "Secondary") return;
-    if (unit.time >= unit.hand.time && unit.handRounds >= 1) PlaySoundAt(word->launch, AtCurrentUnit);
+    if (unit.time >= unit.hand.time && unit.handRounds >= 1)
+        TheAudience().SoundPlayed(word->launch, AtCurrentUnit);
 }
 
 // Pays for one round; the first refusal ends the order.
 // ODDITY: without rounds the weapon's time and condition stay spent; the player pays for the empty click.
 bool PayRound(const Unit& unit) {
     if (!Spend(1, "durab")) {
-        PlaySoundAt("ric\\wood", AtCurrentUnit);
+        TheAudience().SoundPlayed("ric\\wood", AtCurrentUnit);
         return false;
     }
     if (!Spend(static_cast<float>(unit.hand.time), "time")) {
@@ -83,7 +84,7 @@ bool PayRound(const Unit& unit) {
         return false;
     }
     if (!Spend(1, "ammo")) {
-        PlaySoundAt("weapons\\empty", AtCurrentUnit);
+        TheAudience().SoundPlayed("weapons\\empty", AtCurrentUnit);
         return false;
     }
     return true;
@@ -180,7 +181,7 @@ void ShootAt(int x, int y, std::string_view family) {
     SoundLaunch(unit, word);
     for (int round = 0; round < rounds; ++round) {
         if (!fired.IsHeldBy(unit) || !PayRound(unit)) return;
-        PlaySoundAt("weapons\\" + unit.hand.sound, AtCurrentUnit);
+        TheAudience().SoundPlayed("weapons\\" + unit.hand.sound, AtCurrentUnit);
         for (int pellet = 0; pellet < pellets; ++pellet)
             FireBullet(unit, aim, family);
     }

@@ -2,17 +2,13 @@
 
 #include <string>
 
-#include "combat/actions.h"
-#include "combat/costs.h"
-#include "data/countries_file.h"
+#include "combat/fire_modes.h"
 #include "data/weapons_file.h"
-#include "field/geometry.h"
 #include "platform/rounding.h"
+#include "state/audience.h"
+#include "state/log.h"
 #include "state/state.h"
-#include "view/field_form.h"
-#include "view/log.h"
-#include "view/painting.h"
-#include "view/panel.h"
+#include "state/status.h"
 
 namespace {
 
@@ -38,26 +34,6 @@ std::string FightingName() {
     const std::string& name = UnitTable[curUnit].items[0].name;
     if (name.empty()) return "hand";
     return ItemClass(name) == "Thing" && name != "med" ? "hand" : name;
-}
-
-// Bare hands are nobody's make.
-void ShowMakersFlag(const WeaponInfo& hand) {
-    const bool bare = hand.name == "hand";
-    LoadPicture(frmField.imgFlag, bare ? "" : "\\pic\\flags\\" + hand.country + ".gif");
-    frmField.imgFlag.ToolTipText = bare ? "" : CountryName(hand.country);
-}
-
-ImageControl& SlotImage(int slot, Form& form) {
-    Control* image = form.Find("imgInv", slot);
-    if (image == nullptr)
-        throw RunTimeError(Fault::Subscript, "imgInv(" + std::to_string(slot) + ") of " + form.name);
-    return *static_cast<ImageControl*>(image);
-}
-
-// The end of a thing's picture name: weapons and magazines are shown by their capacity.
-std::string PictureSuffix(const InvItem& item, const WeaponInfo& row) {
-    if (item.name == "40gren") return "he";
-    return row.kind == "m" || row.kind == "a" ? std::to_string(item.capMain) : "";
 }
 
 }  // namespace
@@ -90,7 +66,7 @@ void WeaponAdd(int x, int y) {
     marker.name = "weapon";
     marker.cellX = x;
     marker.cellY = y;
-    PaintCell(x, y, frmField.area.canvas);
+    TheAudience().CellChanged(x, y);
 }
 
 void WeaponRemove(int x, int y) {
@@ -105,7 +81,7 @@ void WeaponRemove(int x, int y) {
         }
         --teamLast[PileList];
     }
-    PaintCell(x, y, frmField.area.canvas);
+    TheAudience().CellChanged(x, y);
 }
 
 void DropAll(int unit) {
@@ -131,50 +107,7 @@ void RefreshHand() {
     else
         HandSync("real2fake");
     // ODDITY: also for the computer's units, so the panel shows the enemy's weapon in his turn.
-    ShowSlot(0, frmField);
+    TheAudience().HandChanged();
     ShowStatus("durab");
-    ShowMakersFlag(hand);
-}
-
-void ShowHand() {
-    const Unit& unit = UnitTable[curUnit];
-    ShowModes();
-    ShowWeaponBox(unit.handRounds);
-    ShowSlot(0, frmField);
-    ShowMakersFlag(unit.hand);
-    RedrawPanel();
-}
-
-void ShowSlot(int slot, Form& form) {
-    const InvItem& item = UnitTable[curUnit].items[slot];
-    ImageControl& image = SlotImage(slot, form);
-    if (item.name.empty()) {
-        image.ToolTipText = "";
-        return LoadPicture(image, "");
-    }
-    FitSlot(slot, form);
-    const WeaponInfo& row = WeaponInfoByName(item.name);
-    image.ToolTipText = row.fullName;
-    LoadPicture(image, "\\pic\\inv\\" + item.name + PictureSuffix(item, row) + ".gif");
-}
-
-void FitSlot(int slot, Form& form) {
-    constexpr int LongWidth = 117;
-    constexpr int SmallWidth = 42;
-    constexpr int Shift = 37;  // from a long place's left edge to a small thing in its middle
-    const InvItem& item = UnitTable[curUnit].items[slot];
-    ImageControl& image = SlotImage(slot, form);
-    const bool isBase = image.Tag.find("base") != std::string::npos;
-    const bool isLarge = image.Tag.find("large") != std::string::npos;
-    const int wide = item.name.empty() && isLarge ? 1 : static_cast<int>(item.count);
-    if (!isBase && !isLarge) return;
-    if (wide == 1) {
-        if (!isBase) image.Left -= Shift;
-        image.Width = LongWidth;
-        image.Tag = "base-large";
-    } else if (wide == 0 && isLarge) {
-        if (isBase) image.Left += Shift;
-        image.Width = SmallWidth;
-        image.Tag = "offset-large";
-    }
+    TheAudience().MakerChanged(hand);
 }

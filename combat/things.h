@@ -2,8 +2,6 @@
 // alone a pile is seen, and the unit's working copy of what it holds.
 #pragma once
 
-struct Form;
-
 /// Empties a slot, 0 to 100, of the current unit.
 void ClearItem(int slot);
 
@@ -24,15 +22,3 @@ void DropAll(int unit);
 /// Brings the current unit's hand into step with its slot 0, and the panel with it. What isn't fit to fight
 /// with leaves the hand bare.
 void RefreshHand();
-
-/// Shows on the panel what the current unit holds, its fire modes, and the unit itself; nothing is logged,
-/// and nobody hands over.
-void ShowHand();
-
-/// Shows a slot of the current unit in the form's control imgInv of that place, which must exist unless the
-/// slot is off the form. Throws RunTimeError for a missing picture.
-void ShowSlot(int slot, Form& form);
-
-/// Fits the width of that control to its thing: long things fill a long place, small ones stand in its
-/// middle.
-void FitSlot(int slot, Form& form);

@@ -4,20 +4,16 @@
 #include <cstdlib>
 #include <string>
 
-#include "combat/costs.h"
 #include "combat/hits.h"
 #include "data/terrain.h"
 #include "field/geometry.h"
-#include "platform/host.h"
 #include "platform/random.h"
+#include "state/audience.h"
+#include "state/costs.h"
+#include "state/log.h"
 #include "state/operation.h"
 #include "state/state.h"
-#include "state/turns.h"
-#include "view/field_form.h"
-#include "view/log.h"
-#include "view/painting.h"
-#include "view/panel.h"
-#include "view/sound.h"
+#include "state/status.h"
 
 namespace {
 
@@ -64,7 +60,7 @@ void Cure(const std::string& healer, Unit& target) {
     // ODDITY: the gain is drawn, and told, as a negative number.
     AddToLog(healer + " cured " + target.name + " for " + std::to_string(gain) + " points", 1);
     target.health = std::min(target.health - gain, static_cast<int>(target.vitality));
-    PlaySoundAt(CureSound, AtCurrentUnit);
+    TheAudience().SoundPlayed(CureSound, AtCurrentUnit);
     CheckStatus();
 }
 
@@ -74,16 +70,16 @@ void MeleeHit(int x, int y) {
     const Unit& unit = UnitTable[curUnit];
     if (!Spend(static_cast<float>(unit.hand.time), "time")) return;
     if (!Reaches(unit, x, y) || (x == unit.cellX && y == unit.cellY)) return;
-    PlaySoundAt("weapons\\" + unit.hand.sound, AtCurrentUnit);
+    TheAudience().SoundPlayed("weapons\\" + unit.hand.sound, AtCurrentUnit);
     LoadBullet(unit.hand.power, unit.hand.accur, unit.hand.range * CellSize);
     UnitHit(curUnit, cellGrid[y][x].occupant);
 }
 
 void CureAt(int x, int y) {
     if (!Spend(CureTime, "time")) return;
-    if (!Spend(1, "ammo")) return PlaySoundAt("weapons\\empty", AtCurrentUnit);
+    if (!Spend(1, "ammo")) return TheAudience().SoundPlayed("weapons\\empty", AtCurrentUnit);
     if (!Reaches(UnitTable[curUnit], x, y)) return;
-    PlaySoundAt(CureSound, AtCurrentUnit);
+    TheAudience().SoundPlayed(CureSound, AtCurrentUnit);
     LoadBullet(CurePower, CureAccur, CureHorizon);
     CureUnit(curUnit, cellGrid[y][x].occupant);
 }
@@ -112,6 +108,6 @@ void SurfaceChange(int x, int y, int delta) {
         cell.tileY = look.tileY;
         break;
     }
-    PaintCell(x, y, frmField.area.canvas);
-    TheHost().Refresh(frmField.area);
+    TheAudience().CellChanged(x, y);
+    TheAudience().ShowNow();
 }

@@ -3,11 +3,9 @@
 #include <cstddef>
 #include <string_view>
 
-#include "combat/things.h"
 #include "data/campaign_layout.h"
 #include "data/tables.h"
 #include "data/weapons_file.h"
-#include "field/geometry.h"
 #include "platform/files.h"
 #include "platform/quoted.h"
 #include "state/state.h"
@@ -91,7 +89,7 @@ void SaveStore() {
     ReplaceFile(StoreFile, content);
 }
 
-void LoadGroundItems(const std::string& name) {
+std::vector<Spot> LoadGroundItems(const std::string& name) {
     const RecordReader file("\\map\\" + name + "g.map", PlaceLength);
     InvItem label;
     const Record header = file.ReadCounted(HeaderRecord, "the header");
@@ -101,6 +99,7 @@ void LoadGroundItems(const std::string& name) {
                       "expected up to " + std::to_string(MaxPiles) + " places with things, found " +
                           std::to_string(label.count),
                       Fault::Subscript);
+    std::vector<Spot> places;
     for (int j = 0; j < label.count; ++j) {
         const Record record = file.ReadCounted(
             HeaderRecord + 1 + j, "place " + std::to_string(j + 1) + " of " + std::to_string(label.count));
@@ -112,8 +111,9 @@ void LoadGroundItems(const std::string& name) {
                 Fault::Subscript);
         for (int place = 0; place < CellItemSlots; ++place)
             groundItems[y][x][place] = ReadItem(record, PlaceItemAt(place));
-        WeaponAdd(x, y);
+        places.push_back({x, y});
     }
+    return places;
 }
 
 std::string FacingText(int facing) {

@@ -3,6 +3,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "state/state.h"
 
 /// Reads "\dat\save.dat" into the units 60 to 79 and teamLast[3]. Throws RunTimeError with file and record.
 void LoadRoster();
@@ -18,9 +21,9 @@ void LoadStore();
 /// RunTimeError (FileWrite) and leaves the old one.
 void SaveStore();
 
-/// Reads "\map\<name>g.map" into groundItems and marks the cells that hold things. Throws RunTimeError with
-/// file and record.
-void LoadGroundItems(const std::string& name);
+/// Reads "\map\<name>g.map" into groundItems, and returns the cells that it names, in the file's order.
+/// Throws RunTimeError with file and record.
+std::vector<Spot> LoadGroundItems(const std::string& name);
 
 /// What the dossier shows for a facing, 0 to 7: the fourth value of its row in "\dat\ori.dat". Throws
 /// RunTimeError.

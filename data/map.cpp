@@ -2,12 +2,7 @@
 
 #include "data/terrain.h"
 #include "platform/files.h"
-#include "platform/host.h"
 #include "state/state.h"
-#include "view/field_form.h"
-#include "view/mini_map.h"
-#include "view/painting.h"
-#include "view/progress.h"
 
 namespace {
 
@@ -52,20 +47,6 @@ void FillCell(const Layer& layer, int x, int y, int tileX, int tileY) {
     cell.block = CellBlock(x, y);
 }
 
-void PaintMap(FieldForm& form) {
-    fieldBusy = True;
-    ShowProgress("Start");
-    for (int y = 0; y < FieldHeight; ++y) {
-        for (int x = 0; x < FieldWidth; ++x)
-            PaintCell(x, y, form.area.canvas);
-        ShowProgress("Add");
-    }
-    ShowProgress("Stop");
-    fieldBusy = False;
-    TheHost().Refresh(form.area);
-    picStretch(form.area.canvas, form.picAreaMap.canvas, MiniMapRatio);
-}
-
 }  // namespace
 
 void ReadMapLayers(const std::string& name) {
@@ -82,11 +63,6 @@ void ReadMapLayers(const std::string& name) {
         for (Layer* layer : {&columns, &rows, &third})
             layer->EndLine();
     }
-}
-
-void LoadMap(FieldForm& form, const std::string& name) {
-    ReadMapLayers(name);
-    PaintMap(form);
 }
 
 int CellBlock(int x, int y) {

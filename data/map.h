@@ -4,14 +4,9 @@
 
 #include <string>
 
-struct FieldForm;
-
 /// Reads the layers "\map\<name>1.map" to "3.map" into cellGrid and landingSpots. Throws RunTimeError with
 /// line and column.
 void ReadMapLayers(const std::string& name);
-
-/// The same, and paints the field into the form's `area`.
-void LoadMap(FieldForm& form, const std::string& name);
 
 /// What the cell stops by its present tile: 0 nothing, 1 steps, 2 the view, 3 both.
 int CellBlock(int x, int y);

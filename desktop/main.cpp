@@ -3,8 +3,8 @@
 #include "desktop/game_window.h"
 #include "platform/files.h"
 #include "platform/game_folders.h"
-#include "state/setup.h"
 #include "view/events.h"
+#include "view/start.h"
 
 namespace {
 

@@ -40,11 +40,6 @@ constexpr int CellOfPixel(int pixel) {
     return FloorDivide(pixel, CellSize);
 }
 
-/// Whether (x, y) is a cell of the field proper. Any coordinates may be asked for, here and below.
-constexpr bool InField(int x, int y) {
-    return x >= 0 && x < FieldWidth && y >= 0 && y < FieldHeight;
-}
-
 /// Whether a cell's block lets a step, or the view, through.
 inline bool LetsStepThrough(const Cell& cell) {
     return cell.block == 0 || cell.block == 2;
@@ -56,13 +51,8 @@ inline bool LetsViewThrough(const Cell& cell) {
 /// Whether the cell lets through a "step" or the "view"; false outside the field and for any other word.
 bool CellOpen(std::string_view kind, int x, int y);
 
-/// Whether a unit can step on the cell: in the field, nobody there, open to a step.
+/// Whether a unit can step on the cell, any coordinates may be asked for: in the field, nobody there, open to a step.
 bool CellFreeToStep(int x, int y);
-
-/// The team that a unit's index belongs to.
-constexpr int TeamOfUnit(int unit) {
-    return FloorDivide(unit, TeamStride);
-}
 
 /// Whether the cell is one of the eight tiles of the squad's vehicle.
 bool IsStoreTile(int x, int y);

@@ -17,15 +17,6 @@ bool aiSeeCheck();
 /// there is one.
 void EnemyCounter(std::string_view command);
 
-/// A click on the counter: brings the next enemy that the current unit has sighted into view.
-void imgEnemyCount_Click();
-
 /// Brings a unit into view and flashes the selection on it. Events run meanwhile; one that begins another
 /// flash ends this one.
 void ScrollToUnit(int unit);
-
-/// Whether the selection's frame lies where the unit stands.
-bool SelectionFrames(const Unit& unit);
-
-/// Moves the two marks on the field's frame to the column and row of the current unit.
-void MarkCurrentUnit();

@@ -3,15 +3,15 @@
 #include <array>
 #include <cstdlib>
 
-#include "combat/costs.h"
 #include "field/geometry.h"
+#include "field/moving.h"
 #include "field/path_search.h"
 #include "field/sightings.h"
 #include "platform/host.h"
 #include "platform/rounding.h"
+#include "state/costs.h"
 #include "state/operation.h"
 #include "state/state.h"
-#include "view/unit_painting.h"
 
 namespace {
 

@@ -4,12 +4,12 @@
 #include <array>
 #include <string_view>
 
-#include "combat/things.h"
 #include "data/tables.h"
 #include "data/weapons_file.h"
 #include "personal/info_form.h"
 #include "personal/inventory.h"
 #include "platform/rounding.h"
+#include "view/slots.h"
 
 namespace {
 

@@ -8,13 +8,13 @@
 #include "data/countries_file.h"
 #include "personal/info_form.h"
 #include "personal/personal_file.h"
-#include "personal/typewriter.h"
 #include "platform/code_page.h"
 #include "platform/rounding.h"
 #include "state/state.h"
 #include "view/depot_form.h"
 #include "view/overlays.h"
 #include "view/sound.h"
+#include "view/typewriter.h"
 
 namespace {
 

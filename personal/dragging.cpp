@@ -3,12 +3,12 @@
 #include <string>
 #include <utility>
 
-#include "combat/things.h"
 #include "data/weapons_file.h"
 #include "personal/inventory.h"
 #include "platform/picture_file.h"
 #include "platform/rounding.h"
 #include "state/state.h"
+#include "view/slots.h"
 #include "view/sound.h"
 
 namespace {

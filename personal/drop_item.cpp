@@ -6,12 +6,12 @@
 #include <string_view>
 #include <utility>
 
-#include "combat/things.h"
 #include "data/weapons_file.h"
 #include "personal/dragging.h"
 #include "personal/inventory.h"
 #include "platform/picture_file.h"
 #include "state/state.h"
+#include "view/slots.h"
 #include "view/sound.h"
 
 namespace {

@@ -9,6 +9,7 @@
 #include "data/weapons_file.h"
 #include "field/geometry.h"
 #include "state/state.h"
+#include "view/slots.h"
 
 namespace {
 

@@ -3,8 +3,9 @@
 #include <memory>
 #include <string>
 
-#include "combat/actions.h"
+#include "combat/fire_modes.h"
 #include "combat/things.h"
+#include "mission/turns.h"
 #include "personal/awards_page.h"
 #include "personal/catalogue.h"
 #include "personal/dossier.h"
@@ -14,7 +15,6 @@
 #include "platform/host.h"
 #include "state/operation.h"
 #include "state/state.h"
-#include "state/turns.h"
 #include "view/field_form.h"
 
 namespace {

@@ -4,12 +4,9 @@
 #include <utility>
 #include <vector>
 
-#include "combat/actions.h"
-#include "combat/costs.h"
-#include "combat/things.h"
-#include "field/geometry.h"
+#include "state/audience.h"
+#include "state/higher_rules.h"
 #include "state/state.h"
-#include "state/turns.h"
 
 namespace {
 
@@ -36,16 +33,16 @@ void TakeUp(int unit, ModeChoice modes) {
     curUnit = unit;
     game.modes = std::move(modes);
     if (game.modes.weapon == UnitTable[unit].hand.name)
-        HandSync("real2fake");
+        TheHigherRules().handSync("real2fake");
     else
-        ListActions();
+        TheHigherRules().listActions();
 }
 
 // What was selected in the middle of the operation becomes current.
 void SettleSelection() {
     if (game.selectedMeanwhile < 0) return;
     TakeUp(std::exchange(game.selectedMeanwhile, -1), std::exchange(game.selectedModes, {}));
-    ShowHand();
+    TheAudience().PanelChanged();
 }
 
 // A soldier whose time is used up hands over, and so does one who was selected in the middle and fell there.
@@ -54,7 +51,7 @@ void SettleHandOver() {
     const Unit& unit = UnitTable[curUnit];
     const bool asked = std::find(askers.begin(), askers.end(), curUnit) != askers.end();
     const bool fell = unit.status == Dead && TeamOfUnit(curUnit) == SquadTeam;
-    if (fell || (asked && IsSpentSoldier(unit))) SelectNextUnit();
+    if (fell || (asked && IsSpentSoldier(unit))) TheHigherRules().selectNextUnit();
 }
 
 // Between the pumps of an operation nothing shows whose modes its rounds are fired with.
@@ -65,7 +62,7 @@ void GoOnWith(const Order& order) {
     game.selectedModes = game.modes;
     curUnit = order.unit;
     game.modes = order.modes;
-    HandSync("real2fake");
+    TheHigherRules().handSync("real2fake");
 }
 
 }  // namespace
@@ -84,7 +81,7 @@ void AskHandOver() {
     if (game.operationDepth > 0)
         game.handOverAsked.push_back(curUnit);
     else
-        SelectNextUnit();
+        TheHigherRules().selectNextUnit();
 }
 
 void HoldHandOver(const std::function<void()>& body) {

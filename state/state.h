@@ -7,6 +7,7 @@
 
 #include "platform/arrays.h"
 #include "platform/numbers.h"
+#include "platform/rounding.h"
 
 constexpr int HalfCell = 10;    // from a cell's edge to its centre
 constexpr int CellSize = 20;    // pixels of one cell's side
@@ -212,8 +213,13 @@ struct GameState {
     i16 lastClickX;  // the cell that a left click last chose as a destination
     i16 lastClickY;
     FlightValues flight;
-    ModeChoice modes;  // of the current unit; the list box shows them
-    i32 orders;        // orders of the player so far: a new one ends the walk that runs
+    ModeChoice modes;           // of the current unit; the list box shows them
+    i32 orders;                 // orders of the player so far: a new one ends the walk that runs
+    i32 flashes;                // of the selection so far: a new one ends the one that runs
+    i16 enemyCount;             // enemies that the current unit has sighted since the last "clear"
+    i16 lastSeenEnemy;          // the place that a click on the counter showed last
+    bool fireInMotion = false;  // "fire in motion" is chosen, for all units; else "stop for fire"
+    std::string openLine;       // the line of the log that isn't ended yet
 
     // Of the running operations, see state/operation.
     i16 operationDepth;
@@ -271,9 +277,24 @@ inline bool IsSpentSoldier(const Unit& unit) {
     return unit.team < EnemyTeam && unit.time < TimeToAct;
 }
 
+/// Whether the panel shows the unit: charges and piles have no panel, and no more have the enemies.
+inline bool HasPanel(int unit) {
+    return unit < ChargeBase && UnitTable[unit].team < EnemyTeam;
+}
+
+/// Whether (x, y) is a cell of the field proper. Any coordinates may be asked for.
+constexpr bool InField(int x, int y) {
+    return x >= 0 && x < FieldWidth && y >= 0 && y < FieldHeight;
+}
+
 /// The first unit of team `team`.
 constexpr int FirstOf(int team) {
     return team * TeamStride;
+}
+
+/// The team that a unit's index belongs to.
+constexpr int TeamOfUnit(int unit) {
+    return FloorDivide(unit, TeamStride);
 }
 
 /// A unit as the log names it: its name and " (#index)".

@@ -1,25 +1,20 @@
 #include "view/commands.h"
 
 #include <cmath>
-#include <cstdlib>
 #include <string>
 
-#include "combat/actions.h"
-#include "combat/costs.h"
+#include "combat/fire_modes.h"
 #include "data/terrain.h"
 #include "field/geometry.h"
+#include "field/sightings.h"
 #include "field/walking.h"
+#include "mission/orders.h"
+#include "mission/turns.h"
 #include "personal/personal_file.h"
 #include "platform/rounding.h"
-#include "state/operation.h"
 #include "state/state.h"
-#include "state/turns.h"
 #include "view/field_form.h"
-#include "view/log.h"
 #include "view/mini_map.h"
-#include "view/panel.h"
-#include "view/sound.h"
-#include "view/unit_painting.h"
 
 namespace {
 
@@ -67,12 +62,6 @@ int CellUnder(float pixel) {
     return static_cast<int>(std::floor(pixel / static_cast<float>(CellSize)));
 }
 
-void SelectClicked(int clicked) {
-    curUnit = clicked - 1;
-    AddToLog("Selected " + LogName(clicked) + "  from team #" + std::to_string(curTeam), 1);
-    SelectNextUnit();
-}
-
 // A click on the squad's vehicle opens its store for a soldier who faces it. Whether he still has the order
 // then.
 bool OpenStore(int cellX, int cellY) {
@@ -84,36 +73,10 @@ bool OpenStore(int cellX, int cellY) {
 
 // A click on the field with the left button: a selection, or an order to turn and then to walk.
 void OrderByClick(int cellX, int cellY, float x, float y) {
-    const int occupant = cellGrid[cellY][cellX].occupant;
-    if (occupant > -1) {
-        if (TeamOfUnit(occupant) == TeamOfUnit(curUnit)) return SelectClicked(occupant);
-        AddToLog(LogName(occupant) + " from team #" + std::to_string(TeamOfUnit(occupant)) +
-                     ", waiting for its turn.",
-                 1);
-    }
+    if (SelectAt(cellX, cellY)) return;
     // The order is for the soldier who was at the store when it was given.
-    if (!OpenStore(cellX, cellY)) return;
-    walkOn = 1;
-    if (cellX == lastClickX && cellY == lastClickY) {
-        WalkTo(cellX, cellY, 100);
-        return;
-    }
-    lastClickX = cellX;
-    lastClickY = cellY;
-    TurnTowards(x, y);
+    if (OpenStore(cellX, cellY)) GoTo(cellX, cellY, x, y);
 }
-
-// A click with the right button: turn there and act, one order of one soldier.
-void ActByClick(float x, float y) {
-    RunOperation([x, y] {
-        TurnTowards(x, y);
-        ActOnTarget(WholePixel(x), WholePixel(y));
-    });
-}
-
-constexpr float StanceStepCost = 4;
-constexpr float SwitchCost = 4;
-constexpr int SwitchColumn = 30;  // where the switch's voice sounds
 
 }  // namespace
 
@@ -128,12 +91,8 @@ void Form_KeyDown(int code) {
 }
 
 void area_MouseDown(int button, float x, float y) {
-    if (button != 1 && button != 2) return;
-    ++game.orders;
-    if (button == 2)
-        ActByClick(x, y);
-    else
-        OrderByClick(CellUnder(x), CellUnder(y), x, y);
+    if (button == 1) OrderByClick(CellUnder(x), CellUnder(y), x, y);
+    if (button == 2) ActAt(x, y);
 }
 
 void area_MouseMove(float x, float y) {
@@ -144,31 +103,24 @@ void comboMode_Click(int index) {
     if (index >= 0 && index < static_cast<int>(game.modes.offered.size())) ChooseMode(index);
 }
 
-void SetStance(int newStance) {
-    static constexpr const char* Voices[] = {"prone", "crouch", "walk", "run"};
-    RunOperation([newStance] {
-        Unit& unit = UnitTable[curUnit];
-        const int steps = std::abs(unit.stance - newStance);
-        if (!Spend(StanceStepCost * static_cast<float>(steps), "time")) return;
-        ShowStance(newStance);
-        unit.stance = newStance;
-        PaintUnit(0, 0);
-        ShowStatus("stance");
-        PlaySoundAt(std::string("voice\\interface\\") + Voices[newStance], AtCurrentUnit);
-    });
-}
-
-void imgStop_Click() {
-    RunOperation([] {
-        if (!Spend(SwitchCost, "time")) return;
-        const bool moving = frmField.imgStop.Tag != "on";
-        frmField.imgStop.Tag = moving ? "on" : "off";
-        frmField.imgStop.ToolTipText = moving ? "fire in motion" : "stop for fire";
-        LoadPicture(frmField.imgStop, "\\pic\\stance4" + frmField.imgStop.Tag + ".gif");
-        ShowStatus("stance");
-        PlaySoundAt(moving ? "voice\\interface\\fireinmotion" : "voice\\interface\\stopforfire",
-                    SwitchColumn);
-    });
+void imgEnemyCount_Click() {
+    const Unit& unit = UnitTable[curUnit];
+    // The counter may still show what another unit saw, in the moment in which a unit is being selected.
+    const int last = teamLast[unit.enemyTeam];
+    const auto anySeen = [&unit, last] {
+        for (int place = 0; place <= last; ++place)
+            if (unit.seen[place] >= 1) return true;
+        return false;
+    };
+    if (!anySeen()) return;
+    int i = game.lastSeenEnemy;
+    do {
+        ++i;
+        if (i > last) i = 0;
+    } while (unit.seen[i] < 1);
+    game.lastSeenEnemy = i;
+    frmField.imgEnemyCount.ToolTipText = "last seen enemy #" + std::to_string(i);
+    ScrollToUnit(FirstOf(unit.enemyTeam) + i);
 }
 
 // ODDITY: the tip reads out any unit under the pointer, sighted or not.

@@ -13,14 +13,11 @@ void area_MouseDown(int button, float x, float y);
 /// The pointer moved over the field.
 void area_MouseMove(float x, float y);
 
-/// Changes the current unit's stance, 0 to 3, at 4 time for each step between the two.
-void SetStance(int newStance);
-
 /// A fire mode was chosen from its list; one that the list no longer has is none.
 void comboMode_Click(int index);
 
-/// Switches between "stop for fire" and "fire in motion", for all units, at 4 time of the current one.
-void imgStop_Click();
+/// A click on the counter: brings the next enemy that the current unit has sighted into view.
+void imgEnemyCount_Click();
 
 /// Tells what lies or stands under a pixel of the field in its tool tip, and the cell in the form's caption.
 /// Throws RunTimeError (Subscript) outside the grid.

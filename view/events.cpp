@@ -4,8 +4,10 @@
 #include <cstddef>
 #include <iterator>
 
-#include "combat/actions.h"
-#include "field/sightings.h"
+#include "field/stances.h"
+#include "mission/mission_end.h"
+#include "mission/orders.h"
+#include "mission/turns.h"
 #include "personal/awards_page.h"
 #include "personal/catalogue.h"
 #include "personal/dossier.h"
@@ -15,14 +17,11 @@
 #include "personal/personal_file.h"
 #include "platform/controls.h"
 #include "platform/rounding.h"
-#include "state/mission_end.h"
-#include "state/state.h"
-#include "state/turns.h"
 #include "view/commands.h"
 #include "view/field_form.h"
+#include "view/field_view.h"
 #include "view/forms.h"
 #include "view/mini_map.h"
-#include "view/scrolling.h"
 
 namespace {
 
@@ -53,7 +52,7 @@ constexpr Handler Handlers[] = {
     {"frmField.area",          EventKind::MouseDown, Kind::Order, [](Event e) { area_MouseDown(e.code, e.x, e.y); }},
     {"frmField.cmdNextTurn",   EventKind::Click,     Kind::Order, [](Event) { NewTurn(); }},
     {"frmField.imgStance",     EventKind::Click,     Kind::Order, [](Event e) { SetStance(e.index); }},
-    {"frmField.imgStop",       EventKind::Click,     Kind::Order, [](Event) { imgStop_Click(); }},
+    {"frmField.imgStop",       EventKind::Click,     Kind::Order, [](Event) { SwitchFiring(); }},
     {"frmField.imgEnemyCount", EventKind::Click,     Kind::Order, [](Event) { imgEnemyCount_Click(); }},
     {"frmField.comboMode",     EventKind::Choose,    Kind::Order, [](Event e) { comboMode_Click(e.code); }},
     {"frmField.mnuInfo",       EventKind::Click,     Kind::Order, [](Event) { OpenInfo(); }},
@@ -111,11 +110,6 @@ bool CanHappen(const Control& control) {
     return overIt && IsShown(&control);
 }
 
-// Orders are for soldiers of the squad: not in the computer's turn, nor while a charge blows.
-bool AwaitsOrders() {
-    return curTeam == SquadTeam && curUnit < ChargeBase;
-}
-
 // Whether the event lies on one of the control's pixels, to the nearest of which its place is rounded. A
 // release ends what the press began, wherever it comes.
 bool LiesOn(const Control& control, Event event) {
@@ -129,8 +123,7 @@ bool LiesOn(const Control& control, Event event) {
 void Handle(Event event) {
     for (const Handler& handler : Handlers) {
         if (handler.event != event.kind || handler.control != event.control) continue;
-        if (handler.kind == Kind::Order && !AwaitsOrders()) return;
-        if (handler.kind == Kind::Order && UnitTable[curUnit].status == Dead) SelectNextUnit();
+        if (handler.kind == Kind::Order && !BeginOrder()) return;
         return handler.run(event);
     }
 }

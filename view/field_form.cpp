@@ -171,7 +171,6 @@ void FieldForm::PutStances() {
     }
     Put(imgStop, "imgStop", picSlateD, 616, 48, 32, 25);
     imgStop.Picture = StoredImage("stance4off.gif");
-    imgStop.Tag = "off";
     imgStop.ToolTipText = "stop for fire";
 }
 

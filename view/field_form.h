@@ -55,9 +55,6 @@ struct FieldForm : Form {
     PictureBox picForest;                         // sheet of tree tops, never shown
     Array<Picture, 0, UnitPlaces - 1> picBuffer;  // the pixels of area under each unit
 
-    i16 enemyCount;     // distinct enemies that the current unit has sighted since the last "clear"
-    i16 lastSeenEnemy;  // the place that a click on the counter showed last
-
     bool bigMapShown = false;
 
   private:

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "personal/info_form.h"
+#include "view/field_audience.h"
 #include "view/field_form.h"
 
 std::vector<Form*> OtherForms() {
@@ -17,6 +18,8 @@ Form* FormByName(std::string_view name) {
 }
 
 void ResetForms() {
+    static FieldAudience audience;
+    InstallAudience(&audience);
     std::destroy_at(&frmField);
     std::construct_at(&frmField);
     std::destroy_at(&frmProgress);

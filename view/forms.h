@@ -12,5 +12,5 @@ std::vector<Form*> OtherForms();
 /// The window of this name; nullptr for none.
 Form* FormByName(std::string_view name);
 
-/// Puts the windows back to what they are at program start.
+/// Puts the windows back to what they are at program start, and makes them what the rules show the game on.
 void ResetForms();

@@ -4,7 +4,7 @@
 #include "platform/rounding.h"
 #include "state/state.h"
 #include "view/field_form.h"
-#include "view/scrolling.h"
+#include "view/field_view.h"
 
 namespace {
 

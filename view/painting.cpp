@@ -13,14 +13,6 @@
 namespace {
 
 constexpr int SpritesInRow = 32;
-constexpr int MaskBelow = 160;  // pixels from a sprite to its mask
-
-// The unit on a repainted cell gets the new picture for its background, so that it stays when the unit goes.
-void SaveBackground(int index, const Picture& target) {
-    const Unit& unit = UnitTable[index];
-    BitBlt(frmField.picBuffer[index], 0, 0, CellSize, CellSize, target, unit.pixelX, unit.pixelY,
-           RasterOp::SRCCOPY);
-}
 
 // The column of the sheet that shows a tile.
 int ShownTile(int tileX) {
@@ -42,25 +34,21 @@ void PaintCell(int x, int y, Picture& target, int tileX, int tileY) {
     if (CountAt(x, y, ChargeBase) > 0) PaintSprite(ChargeSprite, left, top);
     if (CountAt(x, y, PileBase) > 0) PaintSprite(PileSprite, left, top);
     if (fieldBusy == True || cell.occupant < 0) return;
-    SaveBackground(cell.occupant, target);
+    // The unit gets the new picture for its background, so that it stays when the unit goes.
+    SaveBackground(cell.occupant);
     PaintUnitAtCell(x, y);
-}
-
-void PaintUnitAtCell(int x, int y) {
-    const int occupant = cellGrid[y][x].occupant;
-    if (occupant >= 0) AsCurrentUnit(occupant, [] { PaintUnit(0, 0); });
 }
 
 void PaintSprite(int sprite, int pixelX, int pixelY) {
     const int sourceX = sprite % SpritesInRow * CellSize;
     const int sourceY = sprite / SpritesInRow * CellSize;
-    PaintMasked(frmField.area.canvas, pixelX, pixelY, frmDepot.picSprites.canvas, sourceX, sourceY, sourceX,
-                sourceY + MaskBelow);
+    PaintMasked(frmField.area.canvas, pixelX, pixelY, frmDepot.picSprites.canvas, sourceX, sourceY);
 }
 
-void PaintMasked(Picture& target, int pixelX, int pixelY, const Picture& sheet, int spriteX, int spriteY,
-                 int maskX, int maskY) {
-    BitBlt(target, pixelX, pixelY, CellSize, CellSize, sheet, maskX, maskY, RasterOp::SRCAND);
+// Masks fill the lower half of each sheet, a sprite's at its own place.
+void PaintMasked(Picture& target, int pixelX, int pixelY, const Picture& sheet, int spriteX, int spriteY) {
+    const int maskY = spriteY + sheet.Height() / 2;
+    BitBlt(target, pixelX, pixelY, CellSize, CellSize, sheet, spriteX, maskY, RasterOp::SRCAND);
     BitBlt(target, pixelX, pixelY, CellSize, CellSize, sheet, spriteX, spriteY, RasterOp::SRCINVERT);
 }
 

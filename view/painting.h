@@ -15,16 +15,12 @@ constexpr int DeadSprite = 14;
 /// place of the cell's own. Throws RunTimeError (Subscript) for a cell outside the grid.
 void PaintCell(int x, int y, Picture& target, int tileX = -1, int tileY = -1);
 
-/// Redraws the unit that stands on a cell, whichever it is.
-void PaintUnitAtCell(int x, int y);
-
 /// Draws a masked sprite into `area` at a pixel.
 void PaintSprite(int sprite, int pixelX, int pixelY);
 
-/// Draws `sprite`, black where transparent, with `mask`, white there, both of one cell's size at their places
-/// in `sheet`.
-void PaintMasked(Picture& target, int pixelX, int pixelY, const Picture& sheet, int spriteX, int spriteY,
-                 int maskX, int maskY);
+/// Draws a sprite of one cell's size, black where transparent, with its mask, white there, which stands half
+/// the sheet's height below it.
+void PaintMasked(Picture& target, int pixelX, int pixelY, const Picture& sheet, int spriteX, int spriteY);
 
 /// Passes a repainted cell on to the mini map, but for the time when the whole map is painted.
 void MiniMapCell(FieldForm& form, int x, int y);

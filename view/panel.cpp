@@ -7,44 +7,23 @@
 #include <string>
 
 #include "data/weapons_file.h"
-#include "personal/typewriter.h"
 #include "platform/blit.h"
 #include "platform/picture_file.h"
-#include "state/operation.h"
 #include "state/state.h"
 #include "view/field_form.h"
-#include "view/log.h"
+#include "view/overlays.h"
+#include "view/slots.h"
 #include "view/stored_pictures.h"
+#include "view/typewriter.h"
 
 namespace {
 
 enum Bar { TimeBar, EnergyBar, HealthBar, AccuracyBar };
 
-// What accuracy is left of a perfect marksmanship, in percent, by stance.
-constexpr std::array<int, 4> StoppedAccuracy = {140, 130, 100, 80};  // stop for fire
-constexpr std::array<int, 4> MovingAccuracy = {40, 60, 80, 60};      // fire in motion
-
 void ShowBar(Bar bar, int value, const std::string& what) {
     frmField.imgBar[bar].Width = value;
     frmField.imgBar[bar].ToolTipText = what + ": " + std::to_string(value);
     BarDigits(bar, value);
-}
-
-void ShowAccuracy(Unit& unit) {
-    const auto& table = frmField.imgStop.Tag == "off" ? StoppedAccuracy : MovingAccuracy;
-    unit.aimChance = table.at(static_cast<std::size_t>(static_cast<int>(unit.stance)));
-    unit.aimChance = unit.marksmanship / 100.0 * unit.aimChance;
-    ShowBar(AccuracyBar, unit.aimChance, "accuracy");
-}
-
-void ShowHealth(const Unit& unit) {
-    ShowBar(HealthBar, unit.health, "health");
-    AddToLog("Selected " + unit.name + " [" + UnitStatusText(curUnit) + "]", 1);
-}
-
-// Charges and piles have no panel, and no more have the enemies.
-bool IsPlayers(int unit) {
-    return unit < ChargeBase && UnitTable[unit].team < EnemyTeam;
 }
 
 // A number as the column's tips write it: a blank stands where a minus would.
@@ -96,27 +75,47 @@ PictureRef DigitCell(int cell) {
 
 }  // namespace
 
-void ShowStatus(std::string_view what) {
-    if (!IsPlayers(curUnit)) return;
-    Unit& unit = UnitTable[curUnit];
+void ShowFigures(std::string_view what) {
+    const Unit& unit = UnitTable[curUnit];
     const bool all = what.empty();
-    if (all || what == "stance") ShowAccuracy(unit);
+    if (all || what == "stance") ShowBar(AccuracyBar, unit.aimChance, "accuracy");
     if (all || what == "time") ShowBar(TimeBar, unit.time, "time");
     if (all || what == "energy") ShowBar(EnergyBar, unit.energy, "energy");
-    if (all || what == "health") ShowHealth(unit);
+    if (all || what == "health") ShowBar(HealthBar, unit.health, "health");
     if (what == "durab") ShowDurability(unit);
-    if (IsSpentSoldier(unit)) AskHandOver();
 }
 
 void RedrawPanel() {
-    if (!IsPlayers(curUnit)) return;
     const Unit& unit = UnitTable[curUnit];
-    ShowBar(AccuracyBar, unit.aimChance, "accuracy");
-    ShowBar(TimeBar, unit.time, "time");
-    ShowBar(EnergyBar, unit.energy, "energy");
-    ShowBar(HealthBar, unit.health, "health");
-    ShowDurability(unit);
+    ShowModes();
+    ShowWeaponBox(unit.handRounds);
+    ShowSlot(0, frmField);
+    ShowMakersFlag(unit.hand);
+    if (!HasPanel(curUnit)) return;
+    ShowFigures("");
+    ShowFigures("durab");
     ShowStance(unit.stance);
+}
+
+void ShowFiring() {
+    ImageControl& image = frmField.imgStop;
+    const bool moving = game.fireInMotion;
+    image.ToolTipText = moving ? "fire in motion" : "stop for fire";
+    LoadPicture(image, std::string("\\pic\\stance4") + (moving ? "on" : "off") + ".gif");
+}
+
+void ShowEnemyCount() {
+    const int count = game.enemyCount;
+    ImageControl& counter = frmField.imgEnemyCount;
+    counter.Visible = count > 0;
+    if (count == 0) return;
+    LoadPicture(counter, "\\pic\\counter\\" + TwoDigits(count) + ".bmp");
+    counter.ToolTipText = std::to_string(count) + (count == 1 ? " enemy" : " enemies") + " sighted";
+}
+
+void AddToList(const std::string& line) {
+    frmField.cmbLog.Text = line;
+    frmField.cmbLog.List.push_back(line);
 }
 
 void ShowModes() {

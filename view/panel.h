@@ -2,14 +2,24 @@
 // box.
 #pragma once
 
+#include <string>
 #include <string_view>
 
-/// Refreshes what changed: "stance", "time", "energy", "health", "durab", or "" for the first four. Only for
-/// a unit of the player; one with too little time left then hands over to the next.
-void ShowStatus(std::string_view what);
+/// Shows what changed of the current unit: "stance", "time", "energy", "health", "durab", or "" for the first
+/// four.
+void ShowFigures(std::string_view what);
 
-/// Shows the four bars and the condition of the current unit as they are, if it is one of the player's.
+/// Shows what the current unit holds and its fire modes, and its figures if it is one of the player's.
 void RedrawPanel();
+
+/// Shows how all units fire.
+void ShowFiring();
+
+/// Shows how many enemies the current unit has sighted; nothing for none.
+void ShowEnemyCount();
+
+/// Adds a line to the list of the log.
+void AddToList(const std::string& line);
 
 /// Shows the fire modes that the current unit has, and the chosen one.
 void ShowModes();

@@ -1,14 +1,22 @@
-// Painting units, and with it moving them: PaintUnit alone changes where a unit stands.
+// Painting units on the field: in place, and pixel by pixel while they walk.
 #pragma once
 
-/// Redraws the current unit, moved by (dx, dy) cells, each -1 to 1; (0, 0) redraws it in place. A move that
-/// the player can see is animated pixel by pixel, with footsteps; any other happens at once and leaves no
-/// trace.
-void PaintUnit(int dx, int dy);
+/// Redraws the current unit in place, as the player may see it.
+void PaintStanding(bool seen);
 
-/// Whether the player may see the unit on a cell: a soldier of the squad, or an enemy that one of them has
-/// sighted.
-bool ThisVisible(int x, int y);
+/// Redraws the unit that stands on a cell, whichever it is.
+void PaintUnitAtCell(int x, int y);
+
+/// Keeps the pixels of the field that the current unit is about to cover.
+void SaveBackground(int unit);
+
+// The current unit's step, as the rules report it: it walks in over (toX, toY), comes (dx, dy) pixels
+// further, and has arrived from (fromX, fromY). The last is a whole step, of (dx, dy) cells, that nobody
+// sees.
+void BeginStep(int toX, int toY);
+void PaintPixelOfStep(int dx, int dy);
+void EndStep(int fromX, int fromY);
+void MoveUnseen(int dx, int dy);
 
 // What PaintCover does.
 enum CoverMode {

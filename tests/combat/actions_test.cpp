@@ -1,6 +1,8 @@
 // Families and modes of things, and what each family's order does and costs.
 #include "combat/actions.h"
 
+#include "combat/families.h"
+#include "combat/fire_modes.h"
 #include "combat/shooting.h"
 #include "combat/things.h"
 #include "data/weapons_file.h"

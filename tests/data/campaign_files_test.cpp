@@ -108,7 +108,7 @@ TEST_F(CampaignFilesTest, AStoreSavedAndLoadedIsTheSame) {
     EXPECT_EQ(storeItems[29], item);
 }
 
-TEST_F(CampaignFilesTest, GroundThingsLieOnTheirCellsUnderOneMarkerEach) {
+TEST_F(CampaignFilesTest, GroundThingsLieOnTheCellsThatTheFileNames) {
     std::string file(1112 * 3, '\0');
     Place(file, 2, "items     \x02");
     file[1112] = 75;
@@ -117,10 +117,11 @@ TEST_F(CampaignFilesTest, GroundThingsLieOnTheirCellsUnderOneMarkerEach) {
     file[2224] = 3;
     file[2225] = 4;
     folder.Write("map/tg.map", file);
-    LoadGroundItems("t");
+    const std::vector<Spot> cells = LoadGroundItems("t");
     EXPECT_EQ(groundItems[45][75][1].name, "med");
-    ASSERT_EQ(teamLast[PileList], 1);
-    EXPECT_EQ(UnitTable[121].cellX, 3);
+    ASSERT_EQ(cells.size(), 2U);
+    EXPECT_EQ(cells[1].x, 3);
+    EXPECT_EQ(cells[1].y, 4);
     const auto errorOf = [&](char count, char column) {
         file[12] = count;
         file[1112] = column;

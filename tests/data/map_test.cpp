@@ -33,7 +33,7 @@ class MapTest : public GameTest {
         folder.Write("map/t1.map", columns);
         folder.Write("map/t2.map", rows);
         folder.Write("map/t3.map", third);
-        return ErrorOf([] { LoadMap(frmField, "t"); });
+        return ErrorOf([] { ReadMapLayers("t"); });
     }
 };
 

@@ -15,11 +15,11 @@
 #include "desktop/desktop_host.h"
 #include "desktop/game_window.h"
 #include "platform/files.h"
-#include "state/setup.h"
 #include "state/state.h"
 #include "tests/support/short_session.h"
 #include "view/events.h"
 #include "view/field_form.h"
+#include "view/start.h"
 
 namespace {
 

@@ -10,6 +10,7 @@
 #include "personal/info_form.h"
 #include "platform/headless_host.h"
 #include "tests/support/short_session.h"
+#include "view/start.h"
 #include "window_game.h"
 
 namespace {

@@ -5,6 +5,7 @@
 
 #include "platform/headless_host.h"
 #include "tools/player/scripted_player.h"
+#include "view/start.h"
 #include "window_game.h"
 
 namespace {

@@ -9,6 +9,7 @@
 #include <QFocusFrame>
 
 #include "personal/info_form.h"
+#include "view/start.h"
 #include "window_game.h"
 
 namespace {

@@ -8,8 +8,8 @@
 #include <QtTest>
 
 #include "desktop/desktop_host.h"
+#include "mission/setup.h"
 #include "platform/files.h"
-#include "state/setup.h"
 #include "tests/support/game_test.h"
 #include "view/forms.h"
 

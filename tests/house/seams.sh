@@ -5,12 +5,12 @@
 set -u
 cd "$1" || exit 2
 failed=0
-rooms="ai combat data field personal platform state tools view"
+rooms="ai combat data field mission personal platform state tools view"
 if grep -rnE '#include *[<"](Q[A-Z]|SDL|qt)' $rooms bench tests --exclude-dir=desktop; then
     echo "toolkit headers outside desktop/"
     failed=1
 fi
-if grep -rnE '#include *<(unistd|fcntl|sys/|windows)' ai combat data field personal state view; then
+if grep -rnE '#include *<(unistd|fcntl|sys/|windows)' ai combat data field mission personal state view; then
     echo "headers of the system outside platform/"
     failed=1
 fi

@@ -1,5 +1,6 @@
 // The window of a soldier's file, driven through the door that its events come by.
 #include "personal/personal_file.h"
+#include "combat/fire_modes.h"
 
 #include <sstream>
 

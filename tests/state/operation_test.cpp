@@ -1,8 +1,8 @@
 // An operation keeps its unit; the hand-over waits for its end.
 #include "state/operation.h"
 
-#include "combat/costs.h"
-#include "state/turns.h"
+#include "mission/turns.h"
+#include "state/costs.h"
 #include "tests/support/game_test.h"
 #include "view/field_form.h"
 

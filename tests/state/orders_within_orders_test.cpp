@@ -5,9 +5,9 @@
 #include "data/weapons_file.h"
 #include "field/sightings.h"
 #include "field/walking.h"
+#include "mission/turns.h"
 #include "personal/info_form.h"
 #include "state/operation.h"
-#include "state/turns.h"
 #include "tests/support/game_test.h"
 
 namespace {

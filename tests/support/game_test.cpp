@@ -4,12 +4,14 @@
 #include <iterator>
 
 #include "combat/actions.h"
+#include "combat/fire_modes.h"
 #include "combat/things.h"
 #include "data/weapons_file.h"
+#include "mission/setup.h"
 #include "personal/catalogue.h"
 #include "platform/files.h"
-#include "state/setup.h"
 #include "view/forms.h"
+#include "view/start.h"
 
 namespace fs = std::filesystem;
 
@@ -33,6 +35,7 @@ void ProgramFolder::Remove(const std::string& name) const {
 
 GameTest::GameTest() : host(Dispatch) {
     SetProgramFolder(folder.Path());
+    InstallRules();
     ResetState();
     ResetForms();
 }

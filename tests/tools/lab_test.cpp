@@ -13,6 +13,7 @@
 #include "tools/lab/soak.h"
 #include "view/field_form.h"
 #include "view/painting.h"
+#include "view/unit_painting.h"
 
 namespace {
 

@@ -1,5 +1,6 @@
 // The player's commands: keys, stances, the switch, fire modes, tips; the panel that follows.
 #include "view/commands.h"
+#include "state/status.h"
 
 #include "data/weapons_file.h"
 #include "tests/support/game_test.h"

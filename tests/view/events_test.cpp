@@ -66,7 +66,7 @@ TEST_F(EventsTest, OrdersInTheComputersTurnOrWhileAChargeBlowsAreDropped) {
         Dispatch({EventKind::Choose, "frmField.comboMode", -1, 1});
         for (const char* opens : {"mnuInfo", "picBarWeapon"})
             Dispatch({EventKind::Click, std::string("frmField.") + opens});
-        EXPECT_EQ(frmField.imgStop.Tag, "off");
+        EXPECT_FALSE(game.fireInMotion);
         EXPECT_EQ(unit.time, time);
         EXPECT_EQ(unit.fireMode, 0);
         EXPECT_EQ(game.orders, orders);
@@ -80,7 +80,7 @@ TEST_F(EventsTest, WhatIsHiddenOrSwitchedOffGetsNothing) {
     UnitTable[curUnit].seen[2] = 1;
     const auto shown = [] {
         Dispatch({EventKind::Click, "frmField.imgEnemyCount"});
-        return frmField.lastSeenEnemy == 2;
+        return game.lastSeenEnemy == 2;
     };
     frmField.imgEnemyCount.Visible = false;
     EXPECT_FALSE(shown());

@@ -1,12 +1,14 @@
 // What is painted on the field: cells under their units, steps, explosions, and the marks at the edges.
 #include "view/painting.h"
+#include "field/moving.h"
+#include "state/pace.h"
 
 #include "data/terrain.h"
 #include "platform/blit.h"
 #include "tests/support/game_test.h"
 #include "view/depot_form.h"
+#include "view/field_view.h"
 #include "view/overlays.h"
-#include "view/scrolling.h"
 #include "view/unit_painting.h"
 
 namespace {

@@ -3,7 +3,7 @@
 
 #include "platform/files.h"
 #include "tests/support/game_test.h"
-#include "view/scrolling.h"
+#include "view/field_view.h"
 
 namespace {
 

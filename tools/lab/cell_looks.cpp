@@ -13,7 +13,6 @@ namespace {
 
 using Looks = std::vector<Picture>;
 
-constexpr int MaskBelow = 160;  // pixels from a sprite to its mask, in both sheets
 constexpr int Stances = 4;
 
 bool IsForest(int x, int y) {
@@ -21,21 +20,21 @@ bool IsForest(int x, int y) {
 }
 
 Picture Sprite(Picture look, int sprite) {
-    PaintMasked(look, 0, 0, frmDepot.picSprites.canvas, sprite * CellSize, 0, sprite * CellSize, MaskBelow);
+    PaintMasked(look, 0, 0, frmDepot.picSprites.canvas, sprite * CellSize, 0);
     return look;
 }
 
 // Tree tops hide who stands or lies in a forest.
 Picture UnderTrees(Picture look, int x, int y) {
     const int left = cellGrid[y][x].tileX * CellSize;
-    if (IsForest(x, y)) PaintMasked(look, 0, 0, frmField.picForest.canvas, left, 0, left, CellSize);
+    if (IsForest(x, y)) PaintMasked(look, 0, 0, frmField.picForest.canvas, left, 0);
     return look;
 }
 
 Picture Soldier(Picture look, int team, int stance, int facing) {
     const int left = (team * Stances + stance) * CellSize;
     const int top = facing * CellSize;
-    PaintMasked(look, 0, 0, frmDepot.picPeople.canvas, left, top, left, top + MaskBelow);
+    PaintMasked(look, 0, 0, frmDepot.picPeople.canvas, left, top);
     return look;
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "field/geometry.h"
+#include "field/moving.h"
 #include "state/state.h"
 #include "tools/lab/cell_looks.h"
 #include "view/field_form.h"

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "combat/actions.h"
+#include "combat/fire_modes.h"
 #include "combat/things.h"
 #include "data/tables.h"
 #include "data/weapons_file.h"
@@ -12,10 +13,10 @@
 #include "personal/catalogue.h"
 #include "platform/random.h"
 #include "state/operation.h"
-#include "state/setup.h"
 #include "tools/field_tile.h"
 #include "view/events.h"
 #include "view/field_form.h"
+#include "view/start.h"
 
 namespace {
 
@@ -173,7 +174,7 @@ void FiringRange::PutBack() {
     teamLast[ChargeList] = teamLast[PileList] = -1;
     curUnit = ShooterPlace;
     frmField.cmbLog.List.clear();
-    frmField.cmbLog.Tag.clear();
+    game.openLine.clear();
     host.sounds.clear();
     if (game.modes.Text() == modeText) return;
     game.modes.weapon.clear();  // the last thing was thrown away, or folded

@@ -6,9 +6,9 @@
 
 #include "platform/headless_host.h"
 #include "platform/run_time_error.h"
-#include "state/setup.h"
 #include "tools/lab/hash.h"
 #include "view/events.h"
+#include "view/start.h"
 
 namespace {
 

@@ -8,7 +8,6 @@
 #include "personal/personal_file.h"
 #include "platform/files.h"
 #include "platform/host.h"
-#include "state/setup.h"
 #include "tools/arguments.h"
 #include "tools/game_copy.h"
 #include "tools/lab/commands.h"
@@ -16,6 +15,7 @@
 #include "tools/lab/replay.h"
 #include "view/events.h"
 #include "view/mini_map.h"
+#include "view/start.h"
 
 namespace {
 

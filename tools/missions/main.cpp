@@ -6,13 +6,13 @@
 
 #include "platform/files.h"
 #include "platform/headless_host.h"
-#include "state/setup.h"
 #include "tools/game_copy.h"
 #include "tools/missions/options.h"
 #include "tools/missions/summary.h"
 #include "tools/missions/watchdog.h"
 #include "view/events.h"
 #include "view/field_form.h"
+#include "view/start.h"
 
 namespace {
 

@@ -24,8 +24,5 @@ void TimeGrant();
 void EnergySpendAll();
 void EnergyGrant();
 
-/// Derives the current unit's status from its health.
-void CheckStatus();
-
 /// Hides every enemy again until a soldier sees it.
 void ClearSightings();

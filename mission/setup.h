@@ -1,18 +1,15 @@
-// From the start of the program to the first turn: start values, tables, the one fixed mission, landing.
+// From start values and tables to the first turn: the one fixed mission, its teams and their landing.
 #pragma once
 
 #include <cstdint>
 #include <string_view>
 
-/// The program's entry: puts everything to its start and shows the main window, which sets up and begins a
-/// mission. The generator is seeded from the system's timer. Throws RunTimeError.
-void Main();
+/// Puts everything to its start, and sets up and begins the mission: a run is its seed and its events. The
+/// audience must have been installed. Throws RunTimeError.
+void BeginGame(std::uint32_t seed);
 
-/// The same with a seed of the caller's: a run is its seed and its events.
-void Main(std::uint32_t seed);
-
-/// What the main window does when it is loaded.
-void Form_Load(std::uint32_t seed);
+/// Lets the lower rooms reach the higher rules. BeginGame does it too.
+void InstallRules();
 
 /// Sets up the fixed mission: reads its files, lands both teams and starts the first turn.
 void NewGame();

@@ -1,4 +1,4 @@
-#include "personal/typewriter.h"
+#include "view/typewriter.h"
 
 #include <cctype>
 

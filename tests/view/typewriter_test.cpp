@@ -1,5 +1,5 @@
 // The pen of the typewriter, and the numbers that it writes.
-#include "personal/typewriter.h"
+#include "view/typewriter.h"
 
 #include "tests/support/game_test.h"
 

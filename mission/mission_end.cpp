@@ -1,12 +1,12 @@
-#include "state/mission_end.h"
+#include "mission/mission_end.h"
 
 #include <string>
 
 #include "data/campaign_files.h"
 #include "platform/host.h"
+#include "state/audience.h"
+#include "state/log.h"
 #include "state/state.h"
-#include "view/field_form.h"
-#include "view/log.h"
 
 namespace {
 
@@ -37,10 +37,14 @@ void EndGame() {
     SaveStore();
     SaveRosterBack();
     AddToLog(Outcome(TeamEliminated()), 0);
-    TheHost().ShowMessage(frmField.cmbLog.Tag + "The end.");
+    TheHost().ShowMessage(game.openLine + "The end.");
     AddToLog("The end.", 1);
-    frmField.Visible = false;
+    TheAudience().MissionEnds();
     TheHost().EndProcess(0);
+}
+
+void EndIfEliminated() {
+    if (TeamEliminated() > -1) EndGame();
 }
 
 int TeamEliminated() {

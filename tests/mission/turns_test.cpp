@@ -1,8 +1,9 @@
 // The turn engine: refill, status by health, the selection with its passes and its log, the verdict.
-#include "state/turns.h"
+#include "mission/turns.h"
 
 #include "data/tables.h"
-#include "state/mission_end.h"
+#include "mission/mission_end.h"
+#include "state/status.h"
 #include "tests/support/game_test.h"
 #include "view/forms.h"
 

@@ -1,30 +1,24 @@
-#include "state/turns.h"
+#include "mission/turns.h"
 
 #include <algorithm>
 #include <string>
 
 #include "ai/computer_player.h"
-#include "combat/actions.h"
 #include "combat/explosions.h"
+#include "combat/fire_modes.h"
 #include "combat/things.h"
 #include "field/sightings.h"
+#include "mission/mission_end.h"
 #include "platform/run_time_error.h"
-#include "state/mission_end.h"
+#include "state/audience.h"
+#include "state/log.h"
 #include "state/operation.h"
 #include "state/state.h"
-#include "view/field_form.h"
-#include "view/log.h"
-#include "view/painting.h"
-#include "view/panel.h"
+#include "state/status.h"
 
 namespace {
 
 constexpr int TeamsWithTurns = 2;
-
-// Health at or above these is...
-constexpr int HealthActive = 31;
-constexpr int HealthWounded = 16;
-constexpr int HealthAlive = 1;
 
 void PassToNextTeam() {
     do {
@@ -162,26 +156,11 @@ void SelectNextUnit() {
 void ShowSelection() {
     Unit& unit = UnitTable[curUnit];
     TakeUpWeapon(unit);
-    ShowStance(unit.stance);
+    TheAudience().StanceChanged(unit.stance);
     ShowStatus("");
     if (unit.team == SquadTeam) ScrollToUnit(curUnit);
     EnemyCounter("clear");
     UnitLookEnemies();
-}
-
-void CheckStatus() {
-    Unit& unit = UnitTable[curUnit];
-    if (unit.health >= HealthActive) unit.status = Active;
-    if (unit.health < HealthActive) {
-        unit.status = Wounded;
-        unit.wasWounded = True;
-    }
-    if (unit.health < HealthWounded) unit.status = Immobile;
-    if (unit.health < HealthAlive) {
-        unit.health = 0;
-        unit.status = Dead;
-    }
-    ShowStatus("health");
 }
 
 void TimeSpendAll() {
@@ -206,7 +185,7 @@ void ClearSightings() {
             if (UnitTable[i].seen[j] != 1) continue;
             UnitTable[i].seen[j] = 0;
             const Unit& enemy = UnitTable[FirstOf(EnemyTeam) + j];
-            PaintCell(enemy.cellX, enemy.cellY, frmField.area.canvas);
+            TheAudience().CellChanged(enemy.cellX, enemy.cellY);
         }
     }
 }

@@ -1,4 +1,4 @@
-// The one gate through which every cost is paid, and the working copy of the held thing's feed.
+// The one gate through which every cost is paid.
 #pragma once
 
 #include <string_view>
@@ -7,7 +7,3 @@
 /// is too little, or for any other kind. A negative amount always passes and gives back. A refusal of time or
 /// energy is heard.
 bool Spend(float amount, std::string_view kind);
-
-/// "real2fake" takes the current unit's feed and rounds from the thing in its hand, "fake2real" puts them
-/// back there. Which feed follows from the action family.
-void HandSync(std::string_view direction);

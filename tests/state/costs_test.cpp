@@ -1,5 +1,5 @@
 // Costs: what pays, what refuses, the feed of the held thing, and the blow's narrow field.
-#include "combat/costs.h"
+#include "state/costs.h"
 
 #include "combat/tools.h"
 #include "data/weapons_file.h"

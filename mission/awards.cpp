@@ -1,11 +1,10 @@
-#include "state/awards.h"
+#include "mission/awards.h"
 
-#include "personal/info_form.h"
-#include "personal/personal_file.h"
 #include "platform/host.h"
+#include "state/audience.h"
+#include "state/log.h"
 #include "state/operation.h"
 #include "state/state.h"
-#include "view/log.h"
 
 namespace {
 
@@ -29,17 +28,9 @@ int RowToGrant(const Unit& unit, int row) {
 }
 
 void ShowGranted(int row) {
-    constexpr int RestLeft = 530;
-    constexpr int RestTop = 20;
-    LoadInfo();
-    frmInfo.imgAwardBorder.Left = frmInfo.imgAward[row].Left;
-    frmInfo.imgAwardBorder.Top = frmInfo.imgAward[row].Top;
-    frmInfo.imgAwardBorder.Visible = true;
+    TheAudience().AwardShown(row);
     TheHost().ShowMessage("");
-    frmInfo.imgAwardBorder.Visible = false;
-    frmInfo.imgAwardBorder.Left = RestLeft;
-    frmInfo.imgAwardBorder.Top = RestTop;
-    CloseInfo();
+    TheAudience().AwardPutAway();
 }
 
 }  // namespace

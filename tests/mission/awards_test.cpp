@@ -1,5 +1,5 @@
 // Granting awards: chains, counts, ordinals, and what the log tells of them.
-#include "state/awards.h"
+#include "mission/awards.h"
 
 #include "personal/info_form.h"
 #include "tests/support/game_test.h"

@@ -1,5 +1,5 @@
 // A new game: who stands where and with what, and how it is left.
-#include "state/setup.h"
+#include "mission/setup.h"
 
 #include <set>
 

@@ -1,24 +1,23 @@
-#include "state/setup.h"
+#include "mission/setup.h"
 
-#include <chrono>
 #include <string>
 
+#include "combat/fire_modes.h"
+#include "combat/things.h"
 #include "data/campaign_files.h"
 #include "data/countries_file.h"
 #include "data/map.h"
 #include "data/tables.h"
 #include "data/weapons_file.h"
 #include "field/geometry.h"
-#include "platform/blit.h"
-#include "platform/host.h"
+#include "field/moving.h"
+#include "mission/mission_end.h"
+#include "mission/turns.h"
 #include "platform/random.h"
+#include "state/audience.h"
+#include "state/higher_rules.h"
+#include "state/log.h"
 #include "state/state.h"
-#include "state/turns.h"
-#include "view/field_form.h"
-#include "view/forms.h"
-#include "view/log.h"
-#include "view/mini_map.h"
-#include "view/unit_painting.h"
 
 namespace {
 
@@ -118,54 +117,40 @@ const char* LandingMethod(int team) {
     return team == EnemyTeam ? "xxx" : "random";
 }
 
-std::uint32_t TimerSeed() {
-    const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
-    return static_cast<std::uint32_t>(
-        std::chrono::duration_cast<std::chrono::milliseconds>(sinceEpoch).count());
-}
-
 }  // namespace
 
-void Main() {
-    Main(TimerSeed());
+void InstallRules() {
+    InstallHigherRules({SelectNextUnit, EndIfEliminated, ListActions, HandSync});
 }
 
-void Main(std::uint32_t seed) {
+void BeginGame(std::uint32_t seed) {
+    InstallRules();
     ResetState();
-    ResetForms();
-    voiceOn = 0;
     weaponPage = 1;
     money = StartMoney;
-    frmField.Visible = true;
-    Form_Load(seed);
-}
-
-void Form_Load(std::uint32_t seed) {
-    SeedRandom(seed);
     voiceCycle = 1;
+    SeedRandom(seed);
     InitTables();
     LoadCountries();
-    TheHost().Refresh(frmField);
     NewGame();
     GrantStartingAwards();
 }
 
 void NewGame() {
     AddToLog("New Game", 1);
-    frmField.area.canvas.Fill(frmField.area.BackColor);
-    TheHost().Refresh(frmField.area);
-    frmField.area.Visible = false;
+    TheAudience().MissionBegins();
     for (i16& last : teamLast)
         last = -1;
-    LoadGroundItems(MissionMap);
+    for (const Spot& cell : LoadGroundItems(MissionMap))
+        WeaponAdd(cell.x, cell.y);
     LoadStore();
-    LoadMap(frmField, MissionMap);
+    ReadMapLayers(MissionMap);
+    TheAudience().MapRead();
     LoadRoster();
     CopyRosterToSquad();
     MakeEnemyTeam();
     LandTeams();
-    frmField.area.Visible = true;
-    RefreshMiniMapWindow();
+    TheAudience().MissionReady();
     curTeam = -1;
     NewTurn();
 }
@@ -181,8 +166,7 @@ void LandUnit(int index) {
     unit.status = Active;
     unit.hand = WeaponInfoByName("hand");
     cellGrid[cell.y][cell.x].occupant = index;
-    BitBlt(frmField.picBuffer[index], 0, 0, CellSize, CellSize, frmField.area.canvas, unit.pixelX,
-           unit.pixelY, RasterOp::SRCCOPY);
+    TheAudience().UnitLanded();
     PaintUnit(0, 0);
     unit.enemyTeam = unit.team == EnemyTeam ? SquadTeam : EnemyTeam;
 }

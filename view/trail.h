@@ -1,0 +1,10 @@
+// The thin grey trail that a flight draws into the field, and takes away again without a trace.
+#pragma once
+
+#include <string_view>
+
+/// Does to the trail what the audience is told of it.
+void ChangeTrail(std::string_view mode);
+
+/// Draws a pixel of the trail of the flight that runs.
+void DrawTrail(int pixelX, int pixelY);
