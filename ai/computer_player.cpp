@@ -6,7 +6,7 @@
 #include "field/sightings.h"
 #include "field/stances.h"
 #include "field/walking.h"
-#include "platform/random.h"
+#include "state/chance.h"
 #include "state/state.h"
 
 namespace {

@@ -19,12 +19,12 @@ BENCHMARK(NewGameHeadless)->Unit(benchmark::kMillisecond);
 
 void PaintWholeMap(benchmark::State& state) {
     StartGame();
-    fieldBusy = True;
+    frmField.mapIsPainted = true;
     for (auto _ : state)
         for (int y = 0; y < FieldHeight; ++y)
             for (int x = 0; x < FieldWidth; ++x)
                 PaintCell(x, y, frmField.area.canvas);
-    fieldBusy = False;
+    frmField.mapIsPainted = false;
 }
 BENCHMARK(PaintWholeMap)->Unit(benchmark::kMillisecond);
 

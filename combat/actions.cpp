@@ -36,7 +36,7 @@ void Dig(const char* logWord, int delta) {
 
 void UseTool(int targetX, int targetY) {
     constexpr int Spadeful = 20;  // of 200 levels of the ground
-    const std::string mode = game.modes.Text();
+    const std::string mode = fireModes.Text();
     // ODDITY: a refused spadeful leaves this line open, so the next one in the log begins with it.
     AddToLog("dig it: ", 0);
     if (mode == "Fold") Refold("fold", "etoolfold", 0);

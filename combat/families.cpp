@@ -58,7 +58,7 @@ std::string_view NamedFamilyOf(const std::string& name, bool secondary) {
 
 std::string_view ActionFamily() {
     const WeaponInfo& hand = UnitTable[curUnit].hand;
-    const std::string mode = game.modes.Text();
+    const std::string mode = fireModes.Text();
     const std::string_view named = NamedFamilyOf(hand.name, mode == "Secondary");
     if (!named.empty()) return named;
     if (hand.weaponClass == "knife" && mode == "Hit") return "hit";

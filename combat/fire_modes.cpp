@@ -72,14 +72,14 @@ void CopyFeed(std::string_view direction, i16& cap, i16& rounds, u8& itemCap, u8
 
 void ListActions() {
     const std::string& name = UnitTable[curUnit].hand.name;
-    game.modes.weapon = name;
-    game.modes.offered = OfferedModes(name);
+    fireModes.weapon = name;
+    fireModes.offered = OfferedModes(name);
     ChooseMode(0);
 }
 
 void ChooseMode(int index) {
-    const bool offered = index >= 0 && index < static_cast<int>(game.modes.offered.size());
-    game.modes.chosen = offered ? index : -1;
+    const bool offered = index >= 0 && index < static_cast<int>(fireModes.offered.size());
+    fireModes.chosen = offered ? index : -1;
     TheAudience().ModesChanged();
     HandSync("real2fake");
 }
@@ -92,5 +92,5 @@ void HandSync(std::string_view direction) {
     else
         CopyFeed(direction, unit.handCap, unit.handRounds, held.capMain, held.roundsMain);
     TheAudience().RoundsChanged();
-    unit.fireMode = std::max(0, int{game.modes.chosen});
+    unit.fireMode = std::max(0, int{fireModes.chosen});
 }

@@ -9,9 +9,9 @@
 #include "combat/things.h"
 #include "field/geometry.h"
 #include "field/moving.h"
-#include "platform/random.h"
 #include "platform/rounding.h"
 #include "state/audience.h"
+#include "state/chance.h"
 #include "state/higher_rules.h"
 #include "state/log.h"
 #include "state/operation.h"
@@ -75,13 +75,14 @@ void TakeDamage(int shooter, Unit& target) {
                  " and bring " + std::to_string(damage) + " points of damage",
              1);
     target.health = std::max(target.health - damage, 0);
+    TheAudience().UnitHurt(damage);
     TheAudience().SoundPlayed("bump\\wound3", AtCurrentUnit);
     CheckStatus();
 }
 
 // The current unit has died.
 void Die(const Unit& unit) {
-    const bool flying = game.modes.Text() != "Hit";
+    const bool flying = fireModes.Text() != "Hit";
     if (flying) BulletTrail("return");
     PaintUnit(0, 0);
     DropAll(curUnit);
@@ -94,8 +95,8 @@ void Die(const Unit& unit) {
 // A soldier who falls lets go of his weapon, and the list of fire modes follows his hand. Who goes on firing
 // has his own.
 void KeepModes(const ModeChoice& modes) {
-    if (game.modes == modes) return;
-    game.modes = modes;
+    if (fireModes == modes) return;
+    fireModes = modes;
     if (curUnit < ChargeBase) TheAudience().PanelChanged();
 }
 
@@ -105,7 +106,7 @@ void UnitHit(int shooter, int target) {
     Unit& unit = UnitTable[target];
     if (unit.status == Dead) return;
     RunOperation([&] {
-        const ModeChoice modes = game.modes;
+        const ModeChoice modes = fireModes;
         AsCurrentUnit(target, [&] {
             if (RollHit(shooter, target)) TakeDamage(shooter, unit);
             if (unit.health == 0) Die(unit);

@@ -9,9 +9,9 @@
 #include "combat/things.h"
 #include "data/weapons_file.h"
 #include "field/geometry.h"
-#include "platform/random.h"
 #include "platform/rounding.h"
 #include "state/audience.h"
+#include "state/chance.h"
 #include "state/costs.h"
 #include "state/log.h"
 #include "state/state.h"
@@ -67,7 +67,7 @@ int RoundsOf(const std::string& mode, const WeaponInfo& hand) {
 }
 
 void SoundLaunch(const Unit& unit, const FamilyWord* word) {
-    if (word == nullptr || word->launch == nullptr || game.modes.Text() != "Secondary") return;
+    if (word == nullptr || word->launch == nullptr || fireModes.Text() != "Secondary") return;
     if (unit.time >= unit.hand.time && unit.handRounds >= 1)
         TheAudience().SoundPlayed(word->launch, AtCurrentUnit);
 }
@@ -175,7 +175,7 @@ void ShootAt(int x, int y, std::string_view family) {
     const FamilyWord* word = WordOf(family);
     PlaceMuzzle(unit);
     if (word != nullptr) AddToLog(word->log, 1);
-    const int rounds = RoundsOf(game.modes.Text(), unit.hand);
+    const int rounds = RoundsOf(fireModes.Text(), unit.hand);
     const int pellets = family == "shot" ? PelletsOfShell : 1;
     const Fired fired{family, unit.hand, unit.items[0]};
     SoundLaunch(unit, word);

@@ -12,8 +12,6 @@
 
 namespace {
 
-using Pile = Array<InvItem, 0, CellItemSlots - 1>;
-
 constexpr int LastDroppedSlot = 9;
 
 // The first free place of a pile, nullptr when all thirty are taken.
@@ -102,7 +100,7 @@ void DropAll(int unit) {
 void RefreshHand() {
     WeaponInfo& hand = UnitTable[curUnit].hand;
     hand = WeaponInfoByName(FightingName());
-    if (hand.name != game.modes.weapon)
+    if (hand.name != fireModes.weapon)
         ListActions();
     else
         HandSync("real2fake");

@@ -143,5 +143,5 @@ QPoint StartOn(const Control& control) {
 
 std::optional<QPoint> ShownBy(const Control& control) {
     if (&control != &frmField.imgEnemyCount) return std::nullopt;
-    return MiddleOfCell(FirstOf(UnitTable[curUnit].enemyTeam) + game.lastSeenEnemy, CellSize);
+    return MiddleOfCell(FirstOf(UnitTable[curUnit].enemyTeam) + lastSeenEnemy, CellSize);
 }

@@ -49,7 +49,7 @@ class EnemyCells {
 };
 
 void ClearCounter(Unit& unit) {
-    game.enemyCount = 0;
+    enemyCount = 0;
     TheAudience().EnemiesCounted();
     for (int i = 0; i <= teamLast[unit.enemyTeam]; ++i)
         unit.seen[i] = 0;
@@ -71,13 +71,13 @@ void UnitLookEnemies() {
 
 bool aiSeeCheck() {
     UnitLookEnemies();
-    return game.enemyCount >= 1;
+    return enemyCount >= 1;
 }
 
 void EnemyCounter(std::string_view command) {
     if (command == "clear") ClearCounter(UnitTable[curUnit]);
-    if (command == "add") ++game.enemyCount;
-    if (command == "show" && game.enemyCount >= 1) TheAudience().EnemiesCounted();
+    if (command == "add") ++enemyCount;
+    if (command == "show" && enemyCount >= 1) TheAudience().EnemiesCounted();
 }
 
 void ScrollToUnit(int unit) {

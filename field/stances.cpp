@@ -35,11 +35,10 @@ void SetStance(int newStance) {
 void SwitchFiring() {
     RunOperation([] {
         if (!Spend(SwitchCost, "time")) return;
-        game.fireInMotion = !game.fireInMotion;
+        fireInMotion = !fireInMotion;
         TheAudience().FiringSwitched();
         ShowStatus("stance");
         TheAudience().SoundPlayed(
-            game.fireInMotion ? "voice\\interface\\fireinmotion" : "voice\\interface\\stopforfire",
-            SwitchColumn);
+            fireInMotion ? "voice\\interface\\fireinmotion" : "voice\\interface\\stopforfire", SwitchColumn);
     });
 }

@@ -101,7 +101,7 @@ int DistanceFromCentre(float pixel, int unitPixel) {
 
 // Whether the walk that began with order number `order` on `unit` is still what the player wants.
 bool StillWanted(int order, int unit) {
-    return game.orders == order && curUnit == unit;
+    return orderCount == order && curUnit == unit;
 }
 
 float CentreOf(int cell) {
@@ -157,7 +157,7 @@ bool TurnOrStep(bool doStep, int dir) {
 
 bool WalkTo(int x, int y, int maxSteps) {
     const int walker = curUnit;
-    const int order = ++game.orders;
+    const int order = ++orderCount;
     const std::vector<PlanStep> plan = SearchPath(UnitTable[walker].cellX, UnitTable[walker].cellY, x, y,
                                                   maxSteps, [] { TheHost().PumpEvents(); });
     return StillWanted(order, walker) && WalkPlan(plan, order, walker);

@@ -12,11 +12,11 @@ namespace {
 
 constexpr int LastTeamSearched = 4;
 
-std::string Outcome(int eliminated) {
-    if (eliminated == -1) return "Withdrawal. ";
-    if (eliminated == SquadTeam) return "Defeat. ";
-    if (eliminated == EnemyTeam) return "Victory. ";
-    return "Team #" + std::to_string(eliminated) + " exterminated. ";
+std::string VerdictOf(int eliminated) {
+    if (eliminated == -1) return "Withdrawal";
+    if (eliminated == SquadTeam) return "Defeat";
+    if (eliminated == EnemyTeam) return "Victory";
+    return "Team #" + std::to_string(eliminated) + " exterminated";
 }
 
 // Logs the team's roll up to the member that completes its dead; whether there was one.
@@ -36,8 +36,9 @@ bool AllDead(int team) {
 void EndGame() {
     SaveStore();
     SaveRosterBack();
-    AddToLog(Outcome(TeamEliminated()), 0);
-    TheHost().ShowMessage(game.openLine + "The end.");
+    missionVerdict = VerdictOf(TeamEliminated());
+    AddToLog(missionVerdict + ". ", 0);
+    TheHost().ShowMessage(openLine + "The end.");
     AddToLog("The end.", 1);
     TheAudience().MissionEnds();
     TheHost().EndProcess(0);

@@ -26,8 +26,12 @@ bool BeginOrder() {
     return true;
 }
 
+void PassOverUnfit() {
+    if (UnitTable[curUnit].status != Active) SelectNextUnit();
+}
+
 bool SelectAt(int cellX, int cellY) {
-    ++game.orders;
+    ++orderCount;
     const int occupant = cellGrid[cellY][cellX].occupant;
     if (occupant < 0) return false;
     const int team = TeamOfUnit(occupant);
@@ -51,7 +55,7 @@ void GoTo(int cellX, int cellY, float x, float y) {
 }
 
 void ActAt(float x, float y) {
-    ++game.orders;
+    ++orderCount;
     RunOperation([x, y] {
         TurnTowards(x, y);
         ActOnTarget(WholePixel(x), WholePixel(y));
@@ -59,6 +63,6 @@ void ActAt(float x, float y) {
 }
 
 void StepTo(int facing) {
-    ++game.orders;
+    ++orderCount;
     TurnOrStep(true, facing);
 }

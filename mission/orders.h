@@ -6,6 +6,9 @@
 /// who has died has then handed over to the next. Comes before every order.
 bool BeginOrder();
 
+/// An order by a key finds a current unit that isn't active passed over.
+void PassOverUnfit();
+
 /// Selects the soldier of the current unit's team on a cell; false when there is none. For anybody else a
 /// line of the log says that he waits.
 bool SelectAt(int cellX, int cellY);

@@ -13,8 +13,8 @@
 #include "field/moving.h"
 #include "mission/mission_end.h"
 #include "mission/turns.h"
-#include "platform/random.h"
 #include "state/audience.h"
+#include "state/chance.h"
 #include "state/higher_rules.h"
 #include "state/log.h"
 #include "state/state.h"
@@ -128,7 +128,6 @@ void BeginGame(std::uint32_t seed) {
     ResetState();
     weaponPage = 1;
     money = StartMoney;
-    voiceCycle = 1;
     SeedRandom(seed);
     InitTables();
     LoadCountries();

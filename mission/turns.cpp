@@ -86,7 +86,7 @@ void StepSelection(Passed& passed) {
 void TakeUpWeapon(Unit& unit) {
     const int kept = unit.fireMode;
     RefreshHand();
-    const bool offered = kept < static_cast<int>(game.modes.offered.size());
+    const bool offered = kept < static_cast<int>(fireModes.offered.size());
     ChooseMode(offered ? kept : 0);
 }
 
@@ -121,13 +121,16 @@ void NewTurn() {
         Refill(UnitTable[FirstOf(curTeam) + i]);
     curUnit = FirstOf(curTeam) - 1;
     if (curTeam == EnemyTeam) ClearSightings();
-    if (curTeam == SquadTeam) CheckSquadCanAct();
+    if (curTeam == SquadTeam) {
+        ++squadTurns;
+        CheckSquadCanAct();
+    }
     SelectNextUnit();
 }
 
 void SelectNextUnit() {
     walkOn = 0;
-    ++game.orders;
+    ++orderCount;
     Passed passed;
     for (;;) {
         const int members = teamLast[curTeam] + 1;

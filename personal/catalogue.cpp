@@ -112,7 +112,7 @@ void StepFeed(int by) {
 }
 
 void Hold(int step, bool held) {
-    frmInfo.arrowCode = step;
+    arrowCode = step;
     frmInfo.timerArrow.Enabled = held;
 }
 
@@ -131,7 +131,7 @@ void Release(int pause) {
 }  // namespace
 
 void StepCatalogue() {
-    switch (frmInfo.arrowCode) {
+    switch (arrowCode) {
         case PreviousRow:
             StepRow(-1);
             break;
@@ -180,7 +180,7 @@ void imgUpDn_MouseUp() {
 }
 
 void timerArrow_Timer() {
-    if (frmInfo.arrowCode == NoStep) return;
+    if (arrowCode == NoStep) return;
     constexpr double Quicker = 10;  // a tenth less each time
     int& pause = frmInfo.timerArrow.Interval;
     pause -= static_cast<int>(RoundHalfEven(pause / Quicker));
@@ -192,7 +192,7 @@ void PressCatalogueKey(int code, int shift) {
         if (key.code != code) continue;
         const CatalogueStep step = shift == 0 ? key.step : key.shifted;
         // The keyboard's own repeat of a held key isn't another press.
-        if (frmInfo.arrowCode != step) Press(step);
+        if (arrowCode != step) Press(step);
     }
 }
 

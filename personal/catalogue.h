@@ -4,7 +4,7 @@
 
 #include "state/state.h"
 
-/// The step that is held down, as frmInfo.arrowCode has it.
+/// The step that is held down, as arrowCode has it.
 enum CatalogueStep { NoStep, PreviousRow, NextRow, PreviousFeed, NextFeed };
 
 /// Does the step of arrowCode: weaponPage goes to the next row and a new thing made from it replaces slot 0,

@@ -131,7 +131,7 @@ void StatBar(int value, int y, Form& form) {
         const int fallen = Fall * (i * Steps / length);
         const Colour colour = Rgb(255 - fallen, 255 - fallen, std::max(100 - fallen, 0));
         for (int row = y - RowsAbove; row <= y + RowsBelow; ++row)
-            form.canvas.SetPixel(penX + 1 + i, row, colour);
+            form.canvas.SetPixel(ThePen().x + 1 + i, row, colour);
     }
 }
 

@@ -64,7 +64,7 @@ void TakeUp(int slot) {
     frmInfo.imgDrag.Top = top;
     ShowCarried(picture);
     ShowSlot(slot, frmInfo);
-    frmInfo.dragSlot = slot;
+    dragSlot = slot;
 }
 
 // What lay in the slot, if anything, is carried on.
@@ -74,17 +74,17 @@ void LayDown(int slot) {
     ShowSlot(slot, frmInfo);
     if (lying == nullptr) return EndDrag();
     ShowCarried(lying);
-    frmInfo.dragSlot = slot;
+    dragSlot = slot;
 }
 
 void PressAt(int slot) {
-    const bool carries = frmInfo.dragSlot != NoSlot;
+    const bool carries = dragSlot != NoSlot;
     if (slot != NoSlot && carries)
         LayDown(slot);
     else if (slot != NoSlot && frmInfo.imgInv[slot].Picture != nullptr)
         TakeUp(slot);
-    else if (slot == NoSlot && carries && frmInfo.imgInv[frmInfo.dragSlot].Picture == nullptr)
-        LayDown(frmInfo.dragSlot);  // the thing goes home
+    else if (slot == NoSlot && carries && frmInfo.imgInv[dragSlot].Picture == nullptr)
+        LayDown(dragSlot);  // the thing goes home
 }
 
 // The magazine of the weapon in the slot comes into the pointer's hand.
@@ -103,7 +103,7 @@ void TakeMagazineOut(int slot) {
     frmInfo.imgDrag.Top = frmInfo.imgInv[slot].Top;
     ShowCarried(
         ReadPictureFile("\\pic\\inv\\" + std::to_string(carried.capMain) + carried.ammoMain + ".gif"));
-    frmInfo.dragSlot = slot;
+    dragSlot = slot;
 }
 
 }  // namespace
@@ -133,7 +133,7 @@ void EndDrag() {
     frmInfo.imgDrag.Left = RestLeft;
     frmInfo.imgDrag.Top = RestTop;
     frmInfo.imgDrag.Width = RestWidth;
-    frmInfo.dragSlot = NoSlot;
+    dragSlot = NoSlot;
 }
 
 void ShowCarried(PictureRef picture) {
@@ -153,7 +153,7 @@ void personal::Form_MouseMove(float x, float y) {
         frmInfo.txtFullname.ForeColor = Feeds(ItemIn(PointerSlot), ItemIn(slot)) ? HintColour : QuietColour;
     // The catalogue's bin lies over the maker's flag, so it shows only where it is needed.
     frmInfo.imgDel.Visible = frmInfo.imgUpDn[1].Visible && IsOverHand(x, y);
-    if (frmInfo.dragSlot == NoSlot) return;
+    if (dragSlot == NoSlot) return;
     const int half = ItemIn(PointerSlot).count == 1 ? LongHalf : SmallHalf;
     frmInfo.imgDrag.Left = WholePixel(x) - half;
     frmInfo.imgDrag.Top = WholePixel(y) - SmallHalf;
@@ -164,6 +164,6 @@ void personal::Form_MouseDown(int button, float x, float y) {
     const int slot = SlotAt(x, y);
     if (button != RightButton)
         PressAt(slot);
-    else if (slot != NoSlot && frmInfo.dragSlot == NoSlot)
+    else if (slot != NoSlot && dragSlot == NoSlot)
         TakeMagazineOut(slot);
 }

@@ -45,10 +45,6 @@ struct InfoForm : Form {
     Array<ImageControl, 0, AwardPlaces - 1> imgAward;
     Array<ImageControl, 0, PointerSlot> imgInv;  // 60 to 99 have no control
 
-    i16 dragSlot = NoSlot;  // where the thing being dragged came from
-    i16 shownUnit = -1;     // whose file this is
-    i16 arrowCode;          // the catalogue's step that is held down, see StepCatalogue
-
   private:
     void PutPictures();
     void PutSlots();

@@ -25,7 +25,7 @@ void TakeUpHand() {
     const std::string before = unit.hand.name;
     const int mode = unit.fireMode;
     RefreshHand();
-    if (unit.hand.name == before && mode < static_cast<int>(game.modes.offered.size())) ChooseMode(mode);
+    if (unit.hand.name == before && mode < static_cast<int>(fireModes.offered.size())) ChooseMode(mode);
 }
 
 void Unload() {
@@ -52,13 +52,15 @@ void OpenInfo() {
     const int opened = curUnit;
     LoadInfo();
     TheHost().ShowModal(frmInfo);
-    if (frmInfo.shownUnit != opened && curUnit == frmInfo.shownUnit) ShowSelection();
+    if (shownUnit != opened && curUnit == shownUnit) ShowSelection();
 }
 
 void LoadInfo() {
     std::destroy_at(&frmInfo);
     std::construct_at(&frmInfo);
-    frmInfo.shownUnit = curUnit;
+    shownUnit = curUnit;
+    dragSlot = NoSlot;
+    arrowCode = NoStep;
     ShowButtonFace();
     FillInfoPanel();
     ShowSlots();

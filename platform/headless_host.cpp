@@ -2,13 +2,9 @@
 
 #include <stdexcept>
 
-HeadlessHost::HeadlessHost(DispatchRoutine routine) : dispatch(routine) {
-    InstallHost(this);
-}
+#include "platform/controls.h"
 
-HeadlessHost::~HeadlessHost() {
-    InstallHost(nullptr);
-}
+HeadlessHost::HeadlessHost(DispatchRoutine routine) : dispatch(routine) {}
 
 void HeadlessHost::Queue(const InputEvent& event, int atPump) {
     queue.push_back({event, atPump});
@@ -47,8 +43,4 @@ void HeadlessHost::ShowMessage(const std::string& text) {
 
 void HeadlessHost::Emit(const SoundRequest& sound) {
     sounds.push_back(sound);
-}
-
-void HeadlessHost::EndProcess(int exitCode) {
-    throw ProcessEnded{exitCode};
 }

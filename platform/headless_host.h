@@ -6,21 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "platform/host.h"
 #include "platform/input_event.h"
+#include "platform/quiet_host.h"
 
-/// Thrown where the process would end.
-struct ProcessEnded {
-    int exitCode;
-};
-
-class HeadlessHost : public Host {
+class HeadlessHost : public QuietHost {
   public:
     using DispatchRoutine = void (*)(const InputEvent&);
 
-    /// Queued events go to `routine`. Installs itself for as long as it lives.
+    /// Queued events go to `routine`.
     explicit HeadlessHost(DispatchRoutine routine);
-    ~HeadlessHost() override;
 
     /// `event` waits until the next pump, or until pump number `atPump` (1 is the first).
     void Queue(const InputEvent& event, int atPump = 0);
@@ -32,7 +26,6 @@ class HeadlessHost : public Host {
     /// Throws std::logic_error for a form that refuses.
     void ShowModal(Form& form) override;
     void ShowMessage(const std::string& text) override;
-    [[noreturn]] void EndProcess(int exitCode) override;
 
     std::vector<std::string> messages;
     std::vector<SoundRequest> sounds;

@@ -8,7 +8,8 @@
 #include <string>
 #include <utility>
 
-#include "platform/controls.h"
+struct Control;
+struct Form;
 
 /// One sound to be played once. Levels are in hundredths of a decibel.
 struct SoundRequest {

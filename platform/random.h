@@ -1,18 +1,23 @@
-// The game's one source of chance: seeded once, drawn in the order that the rules name. Effects that only
-// decorate never draw from it.
+// The generator behind the game's chance.
 #pragma once
 
 #include <cstdint>
+#include <random>
 
-/// Starts the generator anew.
-void SeedRandom(std::uint32_t seed);
+class Random {
+  public:
+    /// Starts the generator again.
+    void Seed(std::uint32_t seed);
 
-/// The next float in [0, 1), a multiple of 2^-24.
-float NextRandom();
+    /// The next float in [0, 1), a multiple of 2^-24.
+    float Next();
 
-/// How often it was drawn from since it was seeded; with the seed this is its whole state.
-std::uint64_t RandomDraws();
+    /// How often it was drawn from since it was seeded; with the seed this is its whole state.
+    std::uint64_t Draws() const { return draws; }
 
-/// A whole number from `low` to `high`, both included; note the order of the arguments. With `high` below
-/// `low` the result lies between `high` + 1 and `low`.
-int RandomInt(int high, int low);
+    bool operator==(const Random&) const = default;
+
+  private:
+    std::mt19937 generator;
+    std::uint64_t draws = 0;
+};

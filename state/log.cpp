@@ -6,6 +6,6 @@
 #include "state/state.h"
 
 void AddToLog(const std::string& text, int level) {
-    game.openLine += text;
-    if (level == 1) TheAudience().LineLogged(std::exchange(game.openLine, {}));
+    openLine += text;
+    if (level == 1) TheAudience().LineLogged(std::exchange(openLine, {}));
 }

@@ -3,6 +3,6 @@
 
 #include <string>
 
-/// Appends `text` to the line under construction, game.openLine. With `level` 1 the line is then ended and
+/// Appends `text` to the line under construction, openLine. With `level` 1 the line is then ended and
 /// reported to the audience.
 void AddToLog(const std::string& text, int level);

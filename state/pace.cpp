@@ -46,7 +46,7 @@ void PlayFrames(Overlay overlay, int wait, std::string_view mode) {
 bool WaitInFlash(int unit, int flash, bool shown, int wait) {
     TheAudience().SelectionFlashed(unit, shown);
     Delay(wait, "mode1");
-    return flash == game.flashes;
+    return flash == flashCount;
 }
 
 }  // namespace
@@ -85,7 +85,7 @@ void ShowTarget(int /*n*/, int x, int y) {
 
 void FlashSelection(int unit) {
     constexpr int Passes = 5;
-    const int flash = ++game.flashes;
+    const int flash = ++flashCount;
     for (int i = 0; i < Passes; ++i) {
         if (!WaitInFlash(unit, flash, false, 3)) return;
         if (!WaitInFlash(unit, flash, true, 2)) return;

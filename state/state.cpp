@@ -3,6 +3,13 @@
 #include <array>
 #include <memory>
 
+TeamLasts AllTeamsEmpty() {
+    TeamLasts lasts;
+    for (i16& last : lasts)
+        last = -1;
+    return lasts;
+}
+
 GameState game;
 
 void ResetState() {

@@ -7,6 +7,7 @@
 
 #include "platform/arrays.h"
 #include "platform/numbers.h"
+#include "platform/random.h"
 #include "platform/rounding.h"
 
 constexpr int HalfCell = 10;    // from a cell's edge to its centre
@@ -74,6 +75,8 @@ struct ItemKind {
     std::string name;  // key
     std::string title;
     Array<i16, 0, 5> sizes;  // capacities, charges or grades that it comes in; 0 marks the end
+
+    bool operator==(const ItemKind&) const = default;
 };
 
 struct Award {
@@ -81,6 +84,8 @@ struct Award {
     std::string title;
     i16 repeatable;  // not 0: can be given again
     i16 chained;     // not 0: a second grant passes to the next row
+
+    bool operator==(const Award&) const = default;
 };
 
 /// A soldier or civilian; records from ChargeBase on are charges and piles instead.
@@ -152,6 +157,8 @@ struct Cell {
 struct Spot {
     i16 x;
     i16 y;
+
+    bool operator==(const Spot&) const = default;
 };
 
 /// The fire modes of the thing in a unit's hand.
@@ -168,103 +175,107 @@ struct ModeChoice {
     bool operator==(const ModeChoice&) const = default;
 };
 
-/// What the bullets of one order share.
+// What the bullets of one order share: the record and the names by which the game reaches it.
+// clang-format off
+#define FLIGHT_FIELDS(FIELD)                                                             \
+    FIELD(muzzleX)       /* pixel where the next flight starts */                        \
+    FIELD(muzzleY)                                                                       \
+    FIELD(impactX)       /* cell where the last flight ended, maybe outside the field */ \
+    FIELD(impactY)                                                                       \
+    FIELD(bulletPower)   /* strengths of the bullet, worn down on its way */             \
+    FIELD(bulletAccur)                                                                   \
+    FIELD(bulletHorizon) /* pixel steps that the flight may take */
+// clang-format on
+
+#define DECLARE_FIELD(name) i16 name;
 struct FlightValues {
-    i16 muzzleX;  // pixel where the next flight starts
-    i16 muzzleY;
-    i16 impactX;  // cell where the last flight ended, which may lie outside the field
-    i16 impactY;
-    i16 bulletPower;  // strengths of the bullet, worn down on its way
-    i16 bulletAccur;
-    i16 bulletHorizon;  // pixel steps that the flight may take
-};
+    FLIGHT_FIELDS(DECLARE_FIELD)
 
+    bool operator==(const FlightValues&) const = default;
+};
+#undef DECLARE_FIELD
+
+using Units = Array<Unit, 0, UnitCount - 1>;
+using TeamLasts = Array<i16, 0, 9>;
+using CellGrid = Array<Array<Cell, 0, FieldWidth>, 0, FieldHeight>;
+using Pile = Array<InvItem, 0, CellItemSlots - 1>;
+using LandingSpots = Array<Spot, -20, 40>;
+using ItemKinds = Array<ItemKind, 0, 23>;
+using RankNames = Array<std::string, 0, 47>;
+using Awards = Array<Award, 0, 25>;
+using GroundItems = Array<Array<Pile, 0, FieldWidth - 1>, 0, FieldHeight - 1>;
+
+// The one list of all that a mission is: the record, the names by which the game reaches its fields, and the
+// comparison of two states are made of it.
+// clang-format off
+#define GAME_FIELDS(FIELD)                                                                                        \
+    /*    type                     name               start */                                                    \
+    FIELD(Units,                   UnitTable,         {})                                                         \
+    FIELD(TeamLasts,               teamLast,          AllTeamsEmpty())  /* offset of the last member, -1: none */ \
+    FIELD(i16,                     curTeam,           -1)               /* -1 before the first turn */            \
+    FIELD(i16,                     curUnit,           0)                                                          \
+    FIELD(i32,                     squadTurns,        0)                /* that the squad has begun */            \
+    FIELD(std::string,             missionVerdict,    {})               /* as "Victory"; empty until the end */   \
+    FIELD(CellGrid,                cellGrid,          {})               /* [y][x] */                              \
+    FIELD(GroundItems,             groundItems,       {})               /* [y][x][place] */                       \
+    FIELD(Pile,                    storeItems,        {})                                                         \
+    FIELD(LandingSpots,            landingSpots,      {})               /* the map's first spot has index 0 */    \
+    FIELD(std::vector<WeaponInfo>, weaponTable,       {})                                                         \
+    FIELD(ItemKinds,               itemKinds,         {})                                                         \
+    FIELD(RankNames,               rankNames,         {})               /* short names, from 24 on long ones */   \
+    FIELD(Awards,                  awardTable,        {})                                                         \
+    FIELD(std::vector<std::string>,countryList,       {})               /* code, name, code, name, ... */         \
+    FIELD(i32,                     money,             0)                                                          \
+    FIELD(i16,                     voiceOn,           0)                                                          \
+    FIELD(Random,                  randomSource,      {})               /* reached through state/chance */        \
+    FIELD(std::string,             openLine,          {})               /* the log's line that isn't ended */     \
+    /* orders and what they leave behind */                                                                       \
+    FIELD(i32,                     orderCount,        0)                /* a new one ends the walk that runs */   \
+    FIELD(i16,                     walkOn,            0)                /* go-ahead of a walk in progress */      \
+    FIELD(i16,                     lastClickX,        0)                /* cell that a left click last chose */   \
+    FIELD(i16,                     lastClickY,        0)                                                          \
+    FIELD(bool,                    fireInMotion,      false)            /* else "stop for fire"; for all */       \
+    FIELD(ModeChoice,              fireModes,         {})               /* of the current unit */                 \
+    FIELD(FlightValues,            flightValues,      {})                                                         \
+    /* sightings */                                                                                               \
+    FIELD(i16,                     enemyCount,        0)                /* by the current unit since "clear" */   \
+    FIELD(i16,                     lastSeenEnemy,     0)                /* place shown by the counter's click */  \
+    FIELD(i32,                     flashCount,        0)                /* a new flash ends the one that runs */  \
+    /* a soldier's file */                                                                                        \
+    FIELD(i16,                     shownUnit,         -1)               /* whose file it is */                    \
+    FIELD(i16,                     dragSlot,          -1)               /* where the dragged thing came from */   \
+    FIELD(i16,                     arrowCode,         0)                /* the catalogue's step held down */      \
+    FIELD(i16,                     weaponPage,        0)                /* row shown in the catalogue */          \
+    FIELD(i16,                     feedStep,          0)                /* size step of its feed there */         \
+    FIELD(i16,                     groundPage,        0)                /* page, 0 to 2, of the ground's list */  \
+    /* of the running operations, see state/operation */                                                          \
+    FIELD(i16,                     operationDepth,    0)                                                          \
+    FIELD(i16,                     pumpedDepth,       0)                /* of them wait for the pump to end */    \
+    FIELD(std::vector<int>,        handOverAsked,     {})               /* the soldiers that asked */             \
+    FIELD(i16,                     selectedMeanwhile, -1)               /* in their middle, -1 for nothing */     \
+    FIELD(ModeChoice,              selectedModes,     {})               /* and its fire modes */
+// clang-format on
+
+/// The start of teamLast.
+TeamLasts AllTeamsEmpty();
+
+#define DECLARE_FIELD(type, name, start) type name = start;
 struct GameState {
-    GameState() {
-        for (i16& last : teamLast)
-            last = -1;
-    }
+    GAME_FIELDS(DECLARE_FIELD)
 
-    Array<Unit, 0, UnitCount - 1> UnitTable;
-    Array<i16, 0, 9> teamLast;  // offset of the team's last member, -1 for none
-    i16 curTeam = -1;           // -1 before the first turn
-    i16 curUnit;
-    Array<Array<Cell, 0, FieldWidth>, 0, FieldHeight> cellGrid;  // [y][x]
-    Array<Array<Array<InvItem, 0, CellItemSlots - 1>, 0, FieldWidth - 1>, 0, FieldHeight - 1>
-        groundItems;  // [y][x][place]
-    Array<InvItem, 0, CellItemSlots - 1> storeItems;
-    Array<Spot, -20, 40> landingSpots;  // the map's first spot has index 0
-    std::vector<WeaponInfo> weaponTable;
-    Array<ItemKind, 0, 23> itemKinds;
-    Array<std::string, 0, 47> rankNames;  // short names, then from 24 on the long ones
-    Array<Award, 0, 25> awardTable;
-    std::vector<std::string> countryList;  // code, name, code, name, ...
-    i32 money;
-    i16 voiceOn;
-    i16 weaponPage;  // row shown in the catalogue
-    i16 feedStep;    // size step of its feed there
-    i16 groundPage;  // page, 0 to 2, of the list of things at the soldier's feet
-    i16 lineStartX;  // where the typewriter's line began, and its pen
-    i16 penX;
-    i16 penY;
-    i16 voiceCycle;  // the next of the sound slots 1 to 4
-    i16 fieldBusy;   // True while the whole map is painted
-    i16 walkOn;      // go-ahead of a walk in progress
-    i16 lastClickX;  // the cell that a left click last chose as a destination
-    i16 lastClickY;
-    FlightValues flight;
-    ModeChoice modes;           // of the current unit; the list box shows them
-    i32 orders;                 // orders of the player so far: a new one ends the walk that runs
-    i32 flashes;                // of the selection so far: a new one ends the one that runs
-    i16 enemyCount;             // enemies that the current unit has sighted since the last "clear"
-    i16 lastSeenEnemy;          // the place that a click on the counter showed last
-    bool fireInMotion = false;  // "fire in motion" is chosen, for all units; else "stop for fire"
-    std::string openLine;       // the line of the log that isn't ended yet
-
-    // Of the running operations, see state/operation.
-    i16 operationDepth;
-    i16 pumpedDepth;                 // how many of them wait for the innermost pump to end
-    std::vector<int> handOverAsked;  // the soldiers that asked
-    i16 selectedMeanwhile = -1;      // what events selected in their middle, -1 for nothing
-    ModeChoice selectedModes;        // and its fire modes
+    bool operator==(const GameState&) const = default;
 };
+#undef DECLARE_FIELD
 
 extern GameState game;
 
-// The tables and values under their own names.
-inline auto& UnitTable = game.UnitTable;
-inline auto& teamLast = game.teamLast;
-inline auto& curTeam = game.curTeam;
-inline auto& curUnit = game.curUnit;
-inline auto& cellGrid = game.cellGrid;
-inline auto& groundItems = game.groundItems;
-inline auto& storeItems = game.storeItems;
-inline auto& landingSpots = game.landingSpots;
-inline auto& weaponTable = game.weaponTable;
-inline auto& itemKinds = game.itemKinds;
-inline auto& rankNames = game.rankNames;
-inline auto& awardTable = game.awardTable;
-inline auto& countryList = game.countryList;
-inline auto& money = game.money;
-inline auto& voiceOn = game.voiceOn;
-inline auto& weaponPage = game.weaponPage;
-inline auto& feedStep = game.feedStep;
-inline auto& groundPage = game.groundPage;
-inline auto& lineStartX = game.lineStartX;
-inline auto& penX = game.penX;
-inline auto& penY = game.penY;
-inline auto& voiceCycle = game.voiceCycle;
-inline auto& fieldBusy = game.fieldBusy;
-inline auto& walkOn = game.walkOn;
-inline auto& lastClickX = game.lastClickX;
-inline auto& lastClickY = game.lastClickY;
-inline auto& muzzleX = game.flight.muzzleX;
-inline auto& muzzleY = game.flight.muzzleY;
-inline auto& impactX = game.flight.impactX;
-inline auto& impactY = game.flight.impactY;
-inline auto& bulletPower = game.flight.bulletPower;
-inline auto& bulletAccur = game.flight.bulletAccur;
-inline auto& bulletHorizon = game.flight.bulletHorizon;
+#define DECLARE_NAME(type, name, start) inline auto& name = game.name;
+GAME_FIELDS(DECLARE_NAME)
+#undef DECLARE_NAME
+
+#define DECLARE_NAME(name) inline auto& name = game.flightValues.name;
+FLIGHT_FIELDS(DECLARE_NAME)
+#undef DECLARE_NAME
 
 /// Puts every value of the game state back to its start.
 void ResetState();

@@ -20,7 +20,7 @@ constexpr std::array<int, 4> StoppedAccuracy = {140, 130, 100, 80};  // stop for
 constexpr std::array<int, 4> MovingAccuracy = {40, 60, 80, 60};      // fire in motion
 
 void WorkOutAccuracy(Unit& unit) {
-    const auto& table = game.fireInMotion ? MovingAccuracy : StoppedAccuracy;
+    const auto& table = fireInMotion ? MovingAccuracy : StoppedAccuracy;
     unit.aimChance = table.at(static_cast<std::size_t>(static_cast<int>(unit.stance)));
     unit.aimChance = unit.marksmanship / 100.0 * unit.aimChance;
 }

@@ -19,7 +19,7 @@
 namespace {
 
 void StepMode(int by) {
-    comboMode_Click(game.modes.chosen + by);
+    comboMode_Click(fireModes.chosen + by);
 }
 
 struct KeyCommand {
@@ -81,11 +81,11 @@ void OrderByClick(int cellX, int cellY, float x, float y) {
 }  // namespace
 
 void Form_KeyDown(int code) {
-    if (UnitTable[curUnit].status != Active) SelectNextUnit();
+    PassOverUnfit();
     if (frmField.bigMapShown) return ToggleBigMap();
     for (const KeyCommand& command : KeyCommands) {
         if (command.code != code) continue;
-        if (command.isOrder) ++game.orders;
+        if (command.isOrder) ++orderCount;
         return command.run(command.argument);
     }
 }
@@ -100,7 +100,7 @@ void area_MouseMove(float x, float y) {
 }
 
 void comboMode_Click(int index) {
-    if (index >= 0 && index < static_cast<int>(game.modes.offered.size())) ChooseMode(index);
+    if (index >= 0 && index < static_cast<int>(fireModes.offered.size())) ChooseMode(index);
 }
 
 void imgEnemyCount_Click() {
@@ -113,12 +113,12 @@ void imgEnemyCount_Click() {
         return false;
     };
     if (!anySeen()) return;
-    int i = game.lastSeenEnemy;
+    int i = lastSeenEnemy;
     do {
         ++i;
         if (i > last) i = 0;
     } while (unit.seen[i] < 1);
-    game.lastSeenEnemy = i;
+    lastSeenEnemy = i;
     frmField.imgEnemyCount.ToolTipText = "last seen enemy #" + std::to_string(i);
     ScrollToUnit(FirstOf(unit.enemyTeam) + i);
 }

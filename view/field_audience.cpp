@@ -72,6 +72,9 @@ void FieldAudience::UnitMovedUnseen(int dx, int dy) {
     MoveUnseen(dx, dy);
 }
 
+// The log tells of it, and the bars.
+void FieldAudience::UnitHurt(int /*damage*/) {}
+
 void FieldAudience::UnitSighted(int x, int y) {
     PaintUnitAtCell(x, y);
 }

@@ -56,6 +56,8 @@ struct FieldForm : Form {
     Array<Picture, 0, UnitPlaces - 1> picBuffer;  // the pixels of area under each unit
 
     bool bigMapShown = false;
+    bool mapIsPainted = false;  // the whole map: units and the mini map wait meanwhile
+    i16 voiceCycle = 1;         // the next of the sound slots 1 to 4
 
   private:
     void PutTopLevel();

@@ -8,7 +8,7 @@
 #include "view/progress.h"
 
 void PaintMap() {
-    fieldBusy = True;
+    frmField.mapIsPainted = true;
     ShowProgress("Start");
     for (int y = 0; y < FieldHeight; ++y) {
         for (int x = 0; x < FieldWidth; ++x)
@@ -16,7 +16,7 @@ void PaintMap() {
         ShowProgress("Add");
     }
     ShowProgress("Stop");
-    fieldBusy = False;
+    frmField.mapIsPainted = false;
     TheHost().Refresh(frmField.area);
     picStretch(frmField.area.canvas, frmField.picAreaMap.canvas, MiniMapRatio);
 }

@@ -33,7 +33,7 @@ void PaintCell(int x, int y, Picture& target, int tileX, int tileY) {
     MiniMapCell(frmField, x, y);
     if (CountAt(x, y, ChargeBase) > 0) PaintSprite(ChargeSprite, left, top);
     if (CountAt(x, y, PileBase) > 0) PaintSprite(PileSprite, left, top);
-    if (fieldBusy == True || cell.occupant < 0) return;
+    if (frmField.mapIsPainted || cell.occupant < 0) return;
     // The unit gets the new picture for its background, so that it stays when the unit goes.
     SaveBackground(cell.occupant);
     PaintUnitAtCell(x, y);
@@ -53,5 +53,5 @@ void PaintMasked(Picture& target, int pixelX, int pixelY, const Picture& sheet, 
 }
 
 void MiniMapCell(FieldForm& form, int x, int y) {
-    if (fieldBusy != True) picStretchSquare(form, x, y);
+    if (!frmField.mapIsPainted) picStretchSquare(form, x, y);
 }

@@ -99,13 +99,13 @@ void RedrawPanel() {
 
 void ShowFiring() {
     ImageControl& image = frmField.imgStop;
-    const bool moving = game.fireInMotion;
+    const bool moving = fireInMotion;
     image.ToolTipText = moving ? "fire in motion" : "stop for fire";
     LoadPicture(image, std::string("\\pic\\stance4") + (moving ? "on" : "off") + ".gif");
 }
 
 void ShowEnemyCount() {
-    const int count = game.enemyCount;
+    const int count = enemyCount;
     ImageControl& counter = frmField.imgEnemyCount;
     counter.Visible = count > 0;
     if (count == 0) return;
@@ -119,9 +119,9 @@ void AddToList(const std::string& line) {
 }
 
 void ShowModes() {
-    frmField.comboMode.List = game.modes.offered;
-    frmField.comboMode.ListIndex = game.modes.chosen;
-    frmField.comboMode.Text = game.modes.Text();
+    frmField.comboMode.List = fireModes.offered;
+    frmField.comboMode.ListIndex = fireModes.chosen;
+    frmField.comboMode.Text = fireModes.Text();
 }
 
 void BarDigits(int bar, int value) {

@@ -30,10 +30,10 @@ void PlaySoundAt(const std::string& name, int column) {
     SoundRequest sound;
     sound.fileName = "\\wav\\" + name + ".wav";
     if (!FileExists(sound.fileName)) return;
-    sound.slot = voiceCycle;
+    sound.slot = frmField.voiceCycle;
     sound.pan = (ScreenColumn(column) - CentreColumn) * PanOfColumn;
     sound.volume = -std::abs(sound.pan);
     sound.frequency = PlayedFrequency;
     TheHost().PlaySound(sound);
-    voiceCycle = voiceCycle == LastSlot ? 1 : voiceCycle + 1;
+    frmField.voiceCycle = frmField.voiceCycle == LastSlot ? 1 : frmField.voiceCycle + 1;
 }

@@ -4,10 +4,11 @@
 
 #include "platform/blit.h"
 #include "platform/code_page.h"
-#include "state/state.h"
 #include "view/depot_form.h"
 
 namespace {
+
+Pen pen;
 
 constexpr int GlyphSize = 8;   // pixels of a glyph's side
 constexpr int GlyphPitch = 9;  // from one glyph of the strip to the next
@@ -52,15 +53,15 @@ void Stamp(Picture& target, int x, int y, int glyph, bool shadow) {
 
 void Typewriter(std::string_view text, bool shadow, Picture& target, int x, int y) {
     if (x != AtThePen && y != AtThePen) {
-        lineStartX = x;
-        penX = x;
-        penY = y;
+        pen.lineStart = x;
+        pen.x = x;
+        pen.y = y;
     }
     int advance = 0;
     for (const char character : ToCodePage(text)) {
         if (character == '\r') {
-            penY += LineHeight;
-            penX = lineStartX;
+            pen.y += LineHeight;
+            pen.x = pen.lineStart;
             advance = 0;
             continue;
         }
@@ -68,11 +69,15 @@ void Typewriter(std::string_view text, bool shadow, Picture& target, int x, int 
             advance = WideAdvance;
         } else {
             const Glyph glyph = GlyphOf(character, advance);
-            Stamp(target, penX, penY, glyph.place, shadow);
+            Stamp(target, pen.x, pen.y, glyph.place, shadow);
             advance = glyph.advance;
         }
-        penX += advance;
+        pen.x += advance;
     }
+}
+
+const Pen& ThePen() {
+    return pen;
 }
 
 std::string PadNumber(int value) {

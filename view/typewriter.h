@@ -1,11 +1,21 @@
-// The bitmap typewriter: stamps glyphs of the stored strip into a picture. The pen (penX, penY) and the
-// start of its line stay from one call to the next.
+// The bitmap typewriter: stamps glyphs of the stored strip into a picture. The pen and the start of its
+// line stay from one call to the next.
 #pragma once
 
 #include <string>
 #include <string_view>
 
+#include "platform/numbers.h"
 #include "platform/picture.h"
+
+struct Pen {
+    i16 lineStart;  // where its line began
+    i16 x;
+    i16 y;
+};
+
+/// The pen where the last call left it.
+const Pen& ThePen();
 
 constexpr int AtThePen = -1;  // as a coordinate: go on where the last call ended
 

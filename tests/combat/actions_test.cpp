@@ -6,7 +6,7 @@
 #include "combat/shooting.h"
 #include "combat/things.h"
 #include "data/weapons_file.h"
-#include "platform/random.h"
+#include "state/chance.h"
 #include "tests/support/game_test.h"
 
 namespace {
@@ -102,7 +102,7 @@ TEST_F(ActionsTest, AModeChosenInTheMiddleOfABurstIsTheNextOrders) {
     ActOnTarget(900, 410);
     EXPECT_EQ(unit.items[0].roundsMain, 17);
     EXPECT_EQ(unit.items[0].roundsSecond, 20);
-    EXPECT_EQ(game.modes.Text(), "Secondary");
+    EXPECT_EQ(fireModes.Text(), "Secondary");
 }
 
 TEST_F(ActionsTest, AShellIsThirtyPelletsOfAThirtiethOfThePower) {

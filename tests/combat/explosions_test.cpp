@@ -6,7 +6,7 @@
 #include "combat/actions.h"
 #include "combat/tools.h"
 #include "data/terrain.h"
-#include "platform/random.h"
+#include "state/chance.h"
 #include "tests/support/game_test.h"
 
 namespace {

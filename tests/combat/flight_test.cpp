@@ -6,7 +6,7 @@
 
 #include "combat/things.h"
 #include "data/terrain.h"
-#include "platform/random.h"
+#include "state/chance.h"
 #include "state/operation.h"
 #include "tests/support/game_test.h"
 

@@ -1,7 +1,7 @@
 // The chance to hit, to the digit.
 #include "combat/hits.h"
 
-#include "platform/random.h"
+#include "state/chance.h"
 #include "tests/support/game_test.h"
 
 namespace {

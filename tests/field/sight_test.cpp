@@ -76,7 +76,7 @@ TEST_F(SightTest, ClicksOnTheCounterGoRoundTheSightedOnes) {
     Look(0);
     const auto click = [] {
         Dispatch({EventKind::Click, "frmField.imgEnemyCount"});
-        return game.lastSeenEnemy;
+        return lastSeenEnemy;
     };
     EXPECT_EQ(click(), 2) << "from place 0 on, past the dead one";
     EXPECT_EQ(frmField.shpSelect.Left, 34 * 20);

@@ -49,9 +49,6 @@ void ReadMap(const std::string& /*input*/) {
 }
 
 void ReadGround(const std::string& /*input*/) {
-    teamLast[PileList] = -1;
-    fieldBusy = True;  // nothing is drawn
-    frmField.cmbLog.List.clear();
     LoadGroundItems("x");
 }
 

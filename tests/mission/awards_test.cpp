@@ -49,7 +49,7 @@ TEST_F(AwardsTest, ChainsAndRepeats) {
 
 TEST_F(AwardsTest, ANewAwardIsFramedInItsFileAsLongAsTheMessageStands) {
     host.atMessage = [] {
-        EXPECT_TRUE(frmInfo.Visible && frmInfo.imgAwardBorder.Visible && frmInfo.shownUnit == 3);
+        EXPECT_TRUE(frmInfo.Visible && frmInfo.imgAwardBorder.Visible && shownUnit == 3);
         EXPECT_EQ(frmInfo.imgAwardBorder.Left, 26 + 3 * 110);
         EXPECT_EQ(frmInfo.imgAwardBorder.Top, 417 + 40);
     };

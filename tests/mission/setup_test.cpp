@@ -4,7 +4,7 @@
 #include <set>
 
 #include "data/campaign_files.h"
-#include "platform/random.h"
+#include "state/chance.h"
 #include "tests/support/game_test.h"
 #include "tools/player/orders.h"
 #include "view/field_form.h"

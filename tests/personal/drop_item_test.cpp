@@ -42,7 +42,7 @@ class DropItemTest : public GameTest {
 
     // The pointer carries `thing`, which came from nowhere.
     void Carry(const Thing& thing) {
-        frmInfo.dragSlot = 29;
+        dragSlot = 29;
         In(PointerSlot) = thing.Item();
         ShowCarried(std::make_shared<Picture>(42, 42));
     }

@@ -15,7 +15,6 @@
 #include "personal/inventory.h"
 #include "tests/support/game_test.h"
 #include "tools/field_tile.h"
-#include "tools/player/orders.h"
 
 namespace {
 
@@ -69,7 +68,7 @@ TEST_F(PersonalFileTest, AThingIsTakenUpFollowsThePointerAndGoesHome) {
     Click("frmInfo.cmdNext");
     Key(EventKind::KeyDown, EnterKey);
     EXPECT_TRUE(frmInfo.Visible) << "neither paged nor closed with a thing in hand";
-    EXPECT_EQ(frmInfo.shownUnit, 0);
+    EXPECT_EQ(shownUnit, 0);
     Dispatch({EventKind::MouseDown, "frmInfo.imgAward", 12, 1, 0, 30, 20});
     EXPECT_EQ(In(0).name, "m4");
     EXPECT_EQ(frmInfo.imgDrag.Width, 42);
@@ -219,7 +218,7 @@ TEST_F(PersonalFileTest, AnOrderToTheStoreIsGivenUpWhenAnotherSoldierWasSelected
         lastClickX = 0;
         if (paged) host.Queue({EventKind::Click, "frmInfo.cmdNext"});
         host.Queue({EventKind::CloseRequest, "frmInfo"});
-        SelectOrWalkTo(x, Self().cellY);
+        Dispatch(PressOn(x, Self().cellY, 1));
         EXPECT_EQ(curUnit, paged ? 1 : 0);
         EXPECT_EQ(lastClickX, paged ? 0 : x);
     }

@@ -7,8 +7,8 @@
 #include <set>
 
 #include "platform/arrays.h"
-#include "platform/random.h"
 #include "platform/rounding.h"
+#include "state/chance.h"
 
 namespace {
 

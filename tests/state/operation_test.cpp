@@ -68,7 +68,7 @@ TEST_F(OperationTest, WhoWasSelectedInItsMiddleAndSpentHisTimeThereHandsOverAtIt
 
 TEST_F(OperationTest, AnErrorLeavesNoOperationBehind) {
     EXPECT_THROW(RunOperation([] { throw RunTimeError(Fault::Overflow, "x"); }), RunTimeError);
-    EXPECT_EQ(game.operationDepth, 0);
+    EXPECT_EQ(operationDepth, 0);
 }
 
 }  // namespace

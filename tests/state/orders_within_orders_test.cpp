@@ -45,7 +45,7 @@ TEST_F(OrdersWithinOrders, WhoShootsAComradeGoesOnWithHisOwnModesAndFeed) {
     UnitTable[1].stance = Stand;
     ActOnTarget(230, 210);
     ASSERT_EQ(UnitTable[1].status, Dead) << "thirty pellets at arm's length";
-    EXPECT_EQ(game.modes.Text(), "Secondary");
+    EXPECT_EQ(fireModes.Text(), "Secondary");
     EXPECT_EQ(frmField.comboMode.Text, "Secondary");
     EXPECT_EQ(frmField.imgInv[0].PictureName, "\\pic\\inv\\xm8lss0.gif") << "the panel shows his own weapon";
     EXPECT_EQ(shooter.items[0].roundsMain, 20);
@@ -66,7 +66,7 @@ TEST_F(OrdersWithinOrders, TheSoldierWhoIsSelectedMeanwhileFiresWithHisOwnAndSta
     EXPECT_EQ(second.items[0].roundsSecond, 19);
     EXPECT_EQ(second.facing, South) << "the click was for him";
     EXPECT_EQ(curUnit, 1);
-    EXPECT_EQ(game.modes.weapon, "xm8lss");
+    EXPECT_EQ(fireModes.weapon, "xm8lss");
     EXPECT_EQ(frmField.comboMode.Text, "Secondary");
     EXPECT_EQ(frmField.imgBar[0].Width, second.time);
 }
@@ -104,7 +104,7 @@ TEST_F(OrdersWithinOrders, ABurstEndsWithTheWeaponThatWasTakenFromTheHand) {
     ActOnTarget(900, 210);
     EXPECT_NE(unit.items[0].name, "ak");
     EXPECT_EQ(unit.time, 200 - 2 * WeaponInfoByName("ak").time) << "two rounds were fired before";
-    EXPECT_EQ(game.modes.weapon, unit.hand.name);
+    EXPECT_EQ(fireModes.weapon, unit.hand.name);
 }
 
 TEST_F(OrdersWithinOrders, OrdersAreDroppedWhileAChargeBlows) {
@@ -174,10 +174,10 @@ TEST_F(OrdersWithinOrders, AFoldedToolIsRememberedByItsNewName) {
     Arm(1, "etool", "Dig");
     Arm(0, "etool", "Fold");
     ActOnTarget(210, 210);
-    EXPECT_EQ(game.modes.weapon, "etoolfold");
+    EXPECT_EQ(fireModes.weapon, "etoolfold");
     SelectNextUnit();
     ASSERT_EQ(curUnit, 1);
-    EXPECT_EQ(game.modes.offered, (std::vector<std::string>{"Hit", "Dig", "Fill", "Fold"}));
+    EXPECT_EQ(fireModes.offered, (std::vector<std::string>{"Hit", "Dig", "Fill", "Fold"}));
 }
 
 TEST_F(OrdersWithinOrders, ASquadInWhichNobodyCanEverActEndsWithAMessage) {

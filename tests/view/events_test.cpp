@@ -57,7 +57,7 @@ TEST_F(EventsTest, OrdersInTheComputersTurnOrWhileAChargeBlowsAreDropped) {
         curUnit = current;
         const Unit& unit = UnitTable[curUnit];
         const int time = unit.time;
-        const int orders = game.orders;
+        const int orders = orderCount;
         Dispatch({EventKind::Click, "frmField.imgStop"});
         Dispatch({EventKind::Click, "frmField.imgStance", Prone});
         Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
@@ -66,11 +66,11 @@ TEST_F(EventsTest, OrdersInTheComputersTurnOrWhileAChargeBlowsAreDropped) {
         Dispatch({EventKind::Choose, "frmField.comboMode", -1, 1});
         for (const char* opens : {"mnuInfo", "picBarWeapon"})
             Dispatch({EventKind::Click, std::string("frmField.") + opens});
-        EXPECT_FALSE(game.fireInMotion);
+        EXPECT_FALSE(fireInMotion);
         EXPECT_EQ(unit.time, time);
         EXPECT_EQ(unit.fireMode, 0);
-        EXPECT_EQ(game.orders, orders);
-        EXPECT_EQ(frmInfo.shownUnit, -1) << "no file was opened";
+        EXPECT_EQ(orderCount, orders);
+        EXPECT_EQ(shownUnit, -1) << "no file was opened";
         Dispatch({EventKind::Change, "frmField.HScrollArea", -1, 40});
         EXPECT_EQ(frmField.HScrollArea.Value, 40) << "looking is free";
     }
@@ -80,7 +80,7 @@ TEST_F(EventsTest, WhatIsHiddenOrSwitchedOffGetsNothing) {
     UnitTable[curUnit].seen[2] = 1;
     const auto shown = [] {
         Dispatch({EventKind::Click, "frmField.imgEnemyCount"});
-        return game.lastSeenEnemy == 2;
+        return lastSeenEnemy == 2;
     };
     frmField.imgEnemyCount.Visible = false;
     EXPECT_FALSE(shown());

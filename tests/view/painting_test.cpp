@@ -46,7 +46,7 @@ TEST_F(PaintingTest, ARepaintedCellIsItsUnitsNewBackgroundWhoeverIsCurrent) {
     cellGrid[5][6].tileX = BrokenTile;
     PaintCell(6, 5, area);
     EXPECT_TRUE(frmField.picBuffer[0].SameAs(Tile(15, Wooden))) << "its remains";
-    fieldBusy = True;
+    frmField.mapIsPainted = true;
     PaintCell(6, 5, area, 0, 0);
     EXPECT_TRUE(Shown().SameAs(Tile(0, 0))) << "while the map is painted units are left out";
 }

@@ -44,7 +44,7 @@ TEST_F(SoundTest, VoicesAreHeardOnlyWhenTheyAreOn) {
 }
 
 TEST_F(SoundTest, FourSlotsTakeTurnsAndAMissingFileTakesNone) {
-    voiceCycle = 1;
+    frmField.voiceCycle = 1;
     for (const char* name : {"click", "no such sound", "bump\\death2", "bump/step1", "ric\\wood", "click"})
         PlaySoundAt(name, 20);
     std::vector<int> slots;

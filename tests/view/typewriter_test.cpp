@@ -17,12 +17,12 @@ TEST_F(TypewriterTest, EachCharacterMovesThePen) {
     Picture paper(200, 60);
     for (const Case& c : Cases) {
         Typewriter(c.text, false, paper, 4, 6);
-        EXPECT_EQ(penX, 4 + c.right) << c.text;
-        EXPECT_EQ(penY, 6 + c.down) << c.text;
+        EXPECT_EQ(ThePen().x, 4 + c.right) << c.text;
+        EXPECT_EQ(ThePen().y, 6 + c.down) << c.text;
     }
     Typewriter("D\rE", false, paper, AtThePen, 50);
-    EXPECT_EQ(penX, 4 + 10) << "one coordinate at the pen is enough to go on; the line start stays";
-    EXPECT_EQ(penY, 6 + 10);
+    EXPECT_EQ(ThePen().x, 4 + 10) << "one coordinate at the pen is enough to go on; the line start stays";
+    EXPECT_EQ(ThePen().y, 6 + 10);
 }
 
 TEST_F(TypewriterTest, NumbersStandRightAlignedInFivePlaces) {

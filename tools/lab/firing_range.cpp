@@ -11,7 +11,7 @@
 #include "field/geometry.h"
 #include "field/walking.h"
 #include "personal/catalogue.h"
-#include "platform/random.h"
+#include "state/chance.h"
 #include "state/operation.h"
 #include "tools/field_tile.h"
 #include "view/events.h"
@@ -108,7 +108,7 @@ const Unit& FiringRange::Target() const {
 
 std::vector<std::string> FiringRange::ModesOf(const std::string& weapon) {
     SetUp({.weapon = weapon});
-    return game.modes.offered;
+    return fireModes.offered;
 }
 
 Score FiringRange::Fire(const Drill& drill, int orders, std::uint32_t seed) {
@@ -155,7 +155,7 @@ void FiringRange::SetUp(const Drill& drill) {
     mode = drill.mode;
     RefreshHand();
     ChooseMode(mode);
-    modeText = game.modes.Text();
+    modeText = fireModes.Text();
     const auto centre = [](int cell) { return static_cast<float>(cell * CellSize + HalfCell); };
     TurnTowards(centre(x), centre(y));
     soldier.time = soldier.agility * 2;
@@ -174,10 +174,10 @@ void FiringRange::PutBack() {
     teamLast[ChargeList] = teamLast[PileList] = -1;
     curUnit = ShooterPlace;
     frmField.cmbLog.List.clear();
-    game.openLine.clear();
+    openLine.clear();
     host.sounds.clear();
-    if (game.modes.Text() == modeText) return;
-    game.modes.weapon.clear();  // the last thing was thrown away, or folded
+    if (fireModes.Text() == modeText) return;
+    fireModes.weapon.clear();  // the last thing was thrown away, or folded
     RefreshHand();
     ChooseMode(mode);
 }

@@ -39,7 +39,7 @@ const Unit& Current() {
 }
 
 bool Carries() {
-    return frmInfo.dragSlot != NoSlot;
+    return dragSlot != NoSlot;
 }
 
 bool IsFavourite(const std::string& name) {
@@ -182,7 +182,7 @@ InputEvent RandomPlayer::Hasty() {
 }
 
 InputEvent RandomPlayer::Lasting() {
-    const int modes = static_cast<int>(game.modes.offered.size());
+    const int modes = static_cast<int>(fireModes.offered.size());
     switch (Draw(6)) {
         case 0:
             return Click("frmField.cmdNextTurn");

@@ -1,5 +1,6 @@
 #include "tools/lab/remake.h"
 
+#include "platform/controls.h"
 #include "platform/headless_host.h"
 #include "platform/run_time_error.h"
 #include "tools/lab/recorder.h"

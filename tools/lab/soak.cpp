@@ -62,9 +62,9 @@ std::string MisplacedOccupant() {
 }
 
 std::string OpenOperation() {
-    if (game.operationDepth != 0 || game.pumpedDepth != 0) return "an operation is still open";
-    if (!game.handOverAsked.empty()) return "a hand-over still waits";
-    return game.selectedMeanwhile != -1 ? "a selection still waits" : "";
+    if (operationDepth != 0 || pumpedDepth != 0) return "an operation is still open";
+    if (!handOverAsked.empty()) return "a hand-over still waits";
+    return selectedMeanwhile != -1 ? "a selection still waits" : "";
 }
 
 std::string StrayDrag() {
@@ -201,7 +201,7 @@ class Mission {
         result.seed = seed;
     }
     ~Mission() {
-        SendOrdersTo(Dispatch);
+        SendOrdersTo(nullptr);
         running = nullptr;
     }
     Mission(const Mission&) = delete;
@@ -215,7 +215,7 @@ class Mission {
                 Step();
             if (result.fault.empty()) Leave();
         } catch (const ProcessEnded&) {
-            result.end = frmField.cmbLog.Text.substr(0, frmField.cmbLog.Text.find('.'));
+            result.end = missionVerdict;
         } catch (const RunTimeError& error) {
             (IsByTheRules(error) ? result.end : result.fault) = error.what();
         } catch (const std::exception& error) {

@@ -1,146 +1,44 @@
-// The fields of the game's records by name, for whoever shows, compares or sums them up. `visit` is called
-// with a name and a value, which is a number or a text.
+// The fields of the game's records by name, for whoever shows, compares or sums them up. Each list names the
+// record's fields in their order; one too few or too many doesn't compile.
 #pragma once
 
-#include <string>
+#include <string_view>
+#include <tuple>
 
 #include "state/state.h"
 
-template <typename Visit>
-void VisitFields(const InvItem& item, Visit visit) {
-    visit("name", item.name);
-    visit("count", item.count);
-    visit("durab", item.durab);
-    visit("ammoMain", item.ammoMain);
-    visit("capMain", item.capMain);
-    visit("roundsMain", item.roundsMain);
-    visit("ammoSecond", item.ammoSecond);
-    visit("capSecond", item.capSecond);
-    visit("roundsSecond", item.roundsSecond);
-}
+// clang-format off
+#define NAME_FIELDS(Record, ...)                                               \
+    inline auto FieldsOf(const Record& record) {                               \
+        const auto& [__VA_ARGS__] = record;                                    \
+        return std::tie(__VA_ARGS__);                                          \
+    }                                                                          \
+    constexpr std::string_view NamesOf(const Record& /*record*/) { return #__VA_ARGS__; }
 
-template <typename Visit>
-void VisitFields(const Cell& cell, Visit visit) {
-    visit("occupant", cell.occupant);
-    visit("tileX", cell.tileX);
-    visit("tileY", cell.tileY);
-    visit("durab", cell.durab);
-    visit("extra", cell.extra);
-    visit("spare", cell.spare);
-    visit("block", cell.block);
-}
+NAME_FIELDS(InvItem, name, count, durab, ammoMain, capMain, roundsMain, ammoSecond, capSecond, roundsSecond)
+NAME_FIELDS(WeaponInfo, name, range, sound, power, accur, time, durab, param9, kind, modes, weaponClass,
+            ammoSecond, param13, param14, unitCount, param16, title, fullName, country)
+NAME_FIELDS(ItemKind, name, title, sizes)
+NAME_FIELDS(Award, name, title, repeatable, chained)
+NAME_FIELDS(Unit, serialNo, rank, name, country, facePrefix, faceGroup, faceNo, faceType, vitality, strength,
+            agility, perception, intelligence, mood, marksmanship, stealth, melee, sidearms, smgs, rifles,
+            machineguns, explosives, cellX, cellY, team, enemyTeam, pixelX, pixelY, facing, stance, fireMode,
+            time, health, energy, aimChance, status, wasWounded, load, hand, handCap, handRounds, items,
+            awards, spare, aiWary, aiReserve, seen, itemCount)
+NAME_FIELDS(Cell, occupant, tileX, tileY, durab, extra, spare, block)
+NAME_FIELDS(Spot, x, y)
+NAME_FIELDS(ModeChoice, offered, chosen, weapon)
+// clang-format on
 
-/// A row of the weapons file. What the rules never write after it was read is told by the row's name.
-template <typename Visit>
-void VisitFields(const WeaponInfo& row, Visit visit) {
-    visit("name", row.name);
-    visit("range", row.range);
-    visit("power", row.power);
-    visit("accur", row.accur);
-    visit("time", row.time);
-    visit("durab", row.durab);
-}
+#undef NAME_FIELDS
 
-/// All of a unit but its things.
-template <typename Visit>
-void VisitFields(const Unit& unit, Visit visit) {
-    const auto visitAll = [&visit](const std::string& name, const auto& array) {
-        for (int i = array.Lower; i <= array.Upper; ++i)
-            visit(name + "[" + std::to_string(i) + "]", array[i]);
-    };
-    visit("serialNo", unit.serialNo);
-    visit("rank", unit.rank);
-    visit("name", unit.name);
-    visit("country", unit.country);
-    visit("facePrefix", unit.facePrefix);
-    visit("faceGroup", unit.faceGroup);
-    visit("faceNo", unit.faceNo);
-    visit("faceType", unit.faceType);
-    visit("vitality", unit.vitality);
-    visit("strength", unit.strength);
-    visit("agility", unit.agility);
-    visit("perception", unit.perception);
-    visit("intelligence", unit.intelligence);
-    visit("mood", unit.mood);
-    visit("marksmanship", unit.marksmanship);
-    visit("stealth", unit.stealth);
-    visit("melee", unit.melee);
-    visit("sidearms", unit.sidearms);
-    visit("smgs", unit.smgs);
-    visit("rifles", unit.rifles);
-    visit("machineguns", unit.machineguns);
-    visit("explosives", unit.explosives);
-    visit("cellX", unit.cellX);
-    visit("cellY", unit.cellY);
-    visit("team", unit.team);
-    visit("enemyTeam", unit.enemyTeam);
-    visit("pixelX", unit.pixelX);
-    visit("pixelY", unit.pixelY);
-    visit("facing", unit.facing);
-    visit("stance", unit.stance);
-    visit("fireMode", unit.fireMode);
-    visit("time", unit.time);
-    visit("health", unit.health);
-    visit("energy", unit.energy);
-    visit("aimChance", unit.aimChance);
-    visit("status", unit.status);
-    visit("wasWounded", unit.wasWounded);
-    visit("load", unit.load);
-    VisitFields(unit.hand,
-                [&visit](const std::string& name, const auto& value) { visit("hand." + name, value); });
-    visit("handCap", unit.handCap);
-    visit("handRounds", unit.handRounds);
-    visitAll("awards", unit.awards);
-    visitAll("spare", unit.spare);
-    visit("aiWary", unit.aiWary);
-    visit("aiReserve", unit.aiReserve);
-    visitAll("seen", unit.seen);
-    visit("itemCount", unit.itemCount);
+// The flight's fields have names of the whole game, which no binding may take.
+inline auto FieldsOf(const FlightValues& values) {
+    const auto& [a, b, c, d, e, f, g] = values;
+    return std::tie(a, b, c, d, e, f, g);
 }
-
-/// The values that stand alone.
-template <typename Visit>
-void VisitValues(const GameState& state, Visit visit) {
-    for (int team = state.teamLast.Lower; team <= state.teamLast.Upper; ++team)
-        visit("teamLast[" + std::to_string(team) + "]", state.teamLast[team]);
-    for (int spot = state.landingSpots.Lower; spot <= state.landingSpots.Upper; ++spot) {
-        visit("landingSpots[" + std::to_string(spot) + "].x", state.landingSpots[spot].x);
-        visit("landingSpots[" + std::to_string(spot) + "].y", state.landingSpots[spot].y);
-    }
-    visit("curTeam", state.curTeam);
-    visit("curUnit", state.curUnit);
-    visit("money", state.money);
-    visit("voiceOn", state.voiceOn);
-    visit("weaponPage", state.weaponPage);
-    visit("feedStep", state.feedStep);
-    visit("groundPage", state.groundPage);
-    visit("lineStartX", state.lineStartX);
-    visit("penX", state.penX);
-    visit("penY", state.penY);
-    visit("voiceCycle", state.voiceCycle);
-    visit("fieldBusy", state.fieldBusy);
-    visit("walkOn", state.walkOn);
-    visit("lastClickX", state.lastClickX);
-    visit("lastClickY", state.lastClickY);
-    visit("muzzleX", state.flight.muzzleX);
-    visit("muzzleY", state.flight.muzzleY);
-    visit("impactX", state.flight.impactX);
-    visit("impactY", state.flight.impactY);
-    visit("bulletPower", state.flight.bulletPower);
-    visit("bulletAccur", state.flight.bulletAccur);
-    visit("bulletHorizon", state.flight.bulletHorizon);
-    const auto visitModes = [&visit](const std::string& name, const ModeChoice& modes) {
-        visit(name + ".weapon", modes.weapon);
-        visit(name + ".chosen", modes.chosen);
-        std::string offered;
-        for (const std::string& mode : modes.offered)
-            offered += mode + "|";
-        visit(name + ".offered", offered);
-    };
-    visitModes("modes", state.modes);
-    visitModes("selectedModes", state.selectedModes);
-    visit("orders", state.orders);
-    visit("operationDepth", state.operationDepth);
-    visit("pumpedDepth", state.pumpedDepth);
-    visit("selectedMeanwhile", state.selectedMeanwhile);
+#define NAME_FIELD(name) #name ", "
+constexpr std::string_view NamesOf(const FlightValues& /*values*/) {
+    return FLIGHT_FIELDS(NAME_FIELD);
 }
+#undef NAME_FIELD

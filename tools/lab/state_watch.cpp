@@ -3,9 +3,9 @@
 #include <initializer_list>
 #include <map>
 #include <string_view>
+#include <type_traits>
 
 #include "personal/info_form.h"
-#include "platform/random.h"
 #include "tools/lab/hash.h"
 #include "tools/lab/state_fields.h"
 #include "view/field_form.h"
@@ -13,14 +13,6 @@
 namespace {
 
 using Values = std::map<std::string, std::string>;
-
-std::string TextOf(const std::string& text) {
-    return "\"" + text + "\"";
-}
-template <typename Number>
-std::string TextOf(const Number& number) {
-    return std::to_string(static_cast<int>(number));
-}
 
 std::uint64_t HashOf(std::string_view text) {
     Fnv hash;
@@ -39,101 +31,63 @@ std::uint64_t HashOfField(const std::string& name, const std::string& value) {
     return HashOf(Joined({name, "=", value}));
 }
 
-// What the windows hold of the game's state beside the records, and how far chance has come.
+// What the windows hold that decides what an event does.
 Values WindowValues() {
-    return {{"chance.draws", std::to_string(RandomDraws())},
-            {"frmField.HScrollArea.Value", std::to_string(frmField.HScrollArea.Value)},
+    return {{"frmField.HScrollArea.Value", std::to_string(frmField.HScrollArea.Value)},
             {"frmField.VScrollArea.Value", std::to_string(frmField.VScrollArea.Value)},
-            {"frmField.imgStop.Tag", TextOf(std::string(game.fireInMotion ? "on" : "off"))},
             {"frmField.bigMapShown", std::to_string(frmField.bigMapShown ? 1 : 0)},
-            {"frmField.enemyCount", TextOf(game.enemyCount)},
-            {"frmField.lastSeenEnemy", TextOf(game.lastSeenEnemy)},
-            {"frmField.area.ToolTipText", TextOf(frmField.area.ToolTipText)},
+            {"frmField.area.ToolTipText", "\"" + frmField.area.ToolTipText + "\""},
             {"frmInfo.Visible", std::to_string(frmInfo.Visible ? 1 : 0)},
-            {"frmInfo.dragSlot", TextOf(frmInfo.dragSlot)},
-            {"frmInfo.arrowCode", TextOf(frmInfo.arrowCode)},
             {"frmInfo.timerArrow.Interval", std::to_string(frmInfo.timerArrow.Interval)}};
 }
 
-// Gathers fields under a common name.
-auto Into(Values& values, const std::string& prefix) {
-    return [&values, prefix](const std::string& name, const auto& value) {
-        values[prefix + name] = TextOf(value);
-    };
+std::string TextOf(const std::string& text) {
+    return "\"" + text + "\"";
+}
+std::string TextOf(const Random& source) {
+    return std::to_string(source.Draws());
+}
+template <typename Number>
+std::string TextOf(const Number& number) {
+    return std::to_string(static_cast<int>(number));
 }
 
-Values ItemValues(const InvItem& item, const std::string& name) {
-    Values values;
-    VisitFields(item, Into(values, name + "."));
-    return values;
-}
-
-}  // namespace
-
-struct StateWatch::Seen {
-    GameState state;
-    Values values;         // of the windows and those that stand alone
-    std::size_t told = 0;  // lines of the log
+template <typename T>
+concept Record = requires(const T& record) {
+    FieldsOf(record);
 };
 
-namespace {
+template <typename T>
+concept Table = !std::is_same_v<T, std::string> && requires(T & table) {
+    table.begin();
+};
 
-// Sums up two states, and tells their differences.
+// Sums up two states, and reports their differences. Of records the earlier one becomes the later.
 class Comparison {
   public:
     explicit Comparison(std::uint64_t& sum) : hash(sum) {}
 
-    // One record's fields as they were and are.
-    void Add(const Values& before, const Values& now) {
-        for (const auto& [name, value] : now) {
-            const auto old = before.find(name);
-            if (old != before.end() && old->second == value) continue;
-            const std::string was = old == before.end() ? "" : old->second;
-            if (old != before.end()) hash -= HashOfField(name, was);
-            hash += HashOfField(name, value);
-            lines.push_back(Joined({name, " ", was, " -> ", value}));
-        }
+    void AddValues(Values& before, Values now) {
+        for (const auto& [name, value] : now)
+            if (before[name] != value) Report(name, before[name], value);
+        before = std::move(now);
     }
 
-    // Of records the earlier one becomes the later. `makeName` is asked only for one that differs.
-    template <typename MakeName>
-    void AddItem(MakeName makeName, InvItem& before, const InvItem& now) {
-        if (before == now) return;
-        const std::string name = makeName();
-        Add(ItemValues(before, name), ItemValues(now, name));
-        before = now;
+    template <typename T>
+    void Add(const std::string& name, const T& before, const T& now) {
+        if constexpr (Record<T>)
+            AddFields(name, before, now);
+        else if constexpr (Table<T>)
+            AddPlaces(name, before, now);
+        else
+            Report(name, TextOf(before), TextOf(now));
     }
 
-    void AddUnit(int index, Unit& before, const Unit& now) {
-        if (before == now) return;
-        const std::string name = "UnitTable[" + std::to_string(index) + "].";
-        Values old;
-        Values current;
-        VisitFields(before, Into(old, name));
-        VisitFields(now, Into(current, name));
-        Add(old, current);
-        for (int slot = now.items.Lower; slot <= now.items.Upper; ++slot)
-            AddItem([&] { return name + "items[" + std::to_string(slot) + "]"; }, before.items[slot],
-                    now.items[slot]);
-        before = now;
-    }
-
-    void AddCell(int x, int y, Cell& before, const Cell& now) {
-        if (before == now) return;
-        const std::string name = "cellGrid[" + std::to_string(y) + "][" + std::to_string(x) + "].";
-        Values old;
-        Values current;
-        VisitFields(before, Into(old, name));
-        VisitFields(now, Into(current, name));
-        Add(old, current);
-        before = now;
-    }
-
-    // What the log tells since `told` of its lines.
-    void AddLog(std::size_t& told, const std::vector<std::string>& log) {
-        for (; told < log.size(); ++told) {
-            const std::string text = TextOf(log[told]);
-            hash += HashOfField("frmField.cmbLog[" + std::to_string(told) + "]", text);
+    // What the log says from line `read` on.
+    void AddLog(std::size_t& read, const std::vector<std::string>& log) {
+        for (; read < log.size(); ++read) {
+            const std::string text = TextOf(log[read]);
+            hash += HashOfField("frmField.cmbLog[" + std::to_string(read) + "]", text);
             lines.push_back("frmField.cmbLog " + text);
         }
     }
@@ -141,26 +95,59 @@ class Comparison {
     std::vector<std::string> lines;
 
   private:
+    // Names are made for what differs alone.
+    template <typename T>
+    void AddFields(const std::string& name, const T& before, const T& now) {
+        std::string_view names = NamesOf(now);
+        const auto add = [&](const auto& old, const auto& current) {
+            const std::string_view field = names.substr(0, names.find(','));
+            names.remove_prefix(std::min(field.size() + 2, names.size()));
+            if (!(old == current)) Add(Joined({name, ".", field}), old, current);
+        };
+        std::apply(
+            [&](const auto&... old) {
+                std::apply([&](const auto&... current) { (add(old, current), ...); }, FieldsOf(now));
+            },
+            FieldsOf(before));
+    }
+
+    // A place that one of the two lacks is an empty one there.
+    template <typename T>
+    void AddPlaces(const std::string& name, const T& before, const T& now) {
+        auto old = before.begin();
+        auto current = now.begin();
+        for (int place = FirstPlace<T>(); old != before.end() || current != now.end(); ++place) {
+            static const std::remove_cvref_t<decltype(*current)> nothing{};
+            const auto& was = old != before.end() ? *old++ : nothing;
+            const auto& is = current != now.end() ? *current++ : nothing;
+            if (!(was == is)) Add(Joined({name, "[", std::to_string(place), "]"}), was, is);
+        }
+    }
+
+    template <typename T>
+    static int FirstPlace() {
+        if constexpr (requires { T::Lower; })
+            return T::Lower;
+        else
+            return 0;
+    }
+
+    void Report(const std::string& name, const std::string& before, const std::string& now) {
+        hash -= HashOfField(name, before);
+        hash += HashOfField(name, now);
+        lines.push_back(Joined({name, " ", before, " -> ", now}));
+    }
+
     std::uint64_t& hash;
 };
 
-std::string Place(const char* table, int y, int x, int place) {
-    return std::string(table) + "[" + std::to_string(y) + "][" + std::to_string(x) + "][" +
-           std::to_string(place) + "]";
-}
-
-void CompareGround(Comparison& comparison, GameState& before, const GameState& now) {
-    for (int y = 0; y < FieldHeight; ++y)
-        for (int x = 0; x < FieldWidth; ++x)
-            for (int place = 0; place < CellItemSlots; ++place)
-                comparison.AddItem([&] { return Place("groundItems", y, x, place); },
-                                   before.groundItems[y][x][place], now.groundItems[y][x][place]);
-    for (int place = 0; place < CellItemSlots; ++place)
-        comparison.AddItem([place] { return "storeItems[" + std::to_string(place) + "]"; },
-                           before.storeItems[place], now.storeItems[place]);
-}
-
 }  // namespace
+
+struct StateWatch::Seen {
+    GameState state;
+    Values windows;
+    std::size_t logged = 0;  // lines of the log
+};
 
 StateWatch::StateWatch() : seen(std::make_unique<Seen>()) {
     Look();
@@ -170,16 +157,12 @@ StateWatch::~StateWatch() = default;
 
 std::vector<std::string> StateWatch::Look() {
     Comparison comparison(hash);
-    comparison.AddLog(seen->told, frmField.cmbLog.List);
-    Values values = WindowValues();
-    VisitValues(game, Into(values, ""));
-    comparison.Add(seen->values, values);
-    for (int i = game.UnitTable.Lower; i <= game.UnitTable.Upper; ++i)
-        comparison.AddUnit(i, seen->state.UnitTable[i], game.UnitTable[i]);
-    for (int y = 0; y <= FieldHeight; ++y)
-        for (int x = 0; x <= FieldWidth; ++x)
-            comparison.AddCell(x, y, seen->state.cellGrid[y][x], game.cellGrid[y][x]);
-    CompareGround(comparison, seen->state, game);
-    seen->values = std::move(values);
+    comparison.AddLog(seen->logged, frmField.cmbLog.List);
+    comparison.AddValues(seen->windows, WindowValues());
+#define COMPARE_FIELD(type, name, start) \
+    if (!(seen->state.name == game.name)) comparison.Add(#name, seen->state.name, game.name);
+    GAME_FIELDS(COMPARE_FIELD)
+#undef COMPARE_FIELD
+    seen->state = game;
     return comparison.lines;
 }

@@ -1,6 +1,9 @@
 #include "tools/player/orders.h"
 
-#include "view/events.h"
+#include "field/stances.h"
+#include "mission/mission_end.h"
+#include "mission/orders.h"
+#include "mission/turns.h"
 
 namespace {
 
@@ -11,16 +14,27 @@ constexpr int SpaceKey = 32;
 // By facing: the arrows, Page Up, Page Down, End and Home.
 constexpr int StepKeys[] = {39, 37, 38, 40, 33, 34, 35, 36};
 
-void (*orderDoor)(const InputEvent&) = Dispatch;
+void (*orderDoor)(const InputEvent&) = nullptr;
 
-void ClickCell(int button, int cellX, int cellY) {
-    orderDoor({EventKind::MouseDown, "frmField.area", -1, button, 0,
-               static_cast<float>(cellX * CellSize + HalfCell),
-               static_cast<float>(cellY * CellSize + HalfCell)});
+// The input that gives an order, and the order itself.
+template <typename Order>
+void Give(const InputEvent& event, Order order) {
+    if (orderDoor != nullptr)
+        orderDoor(event);
+    else if (BeginOrder())
+        order();
 }
 
-void PressKey(int key) {
-    orderDoor({EventKind::KeyDown, "frmField", -1, key});
+float CentreOf(int cell) {
+    return static_cast<float>(cell * CellSize + HalfCell);
+}
+
+InputEvent Press(int button, int cellX, int cellY) {
+    return {EventKind::MouseDown, "frmField.area", -1, button, 0, CentreOf(cellX), CentreOf(cellY)};
+}
+
+InputEvent Key(int code) {
+    return {EventKind::KeyDown, "frmField", -1, code};
 }
 
 }  // namespace
@@ -30,29 +44,41 @@ void SendOrdersTo(void (*door)(const InputEvent&)) {
 }
 
 void SelectOrWalkTo(int cellX, int cellY) {
-    ClickCell(LeftButton, cellX, cellY);
+    Give(Press(LeftButton, cellX, cellY), [cellX, cellY] {
+        if (!SelectAt(cellX, cellY)) GoTo(cellX, cellY, CentreOf(cellX), CentreOf(cellY));
+    });
 }
 
 void ActOn(int cellX, int cellY) {
-    ClickCell(RightButton, cellX, cellY);
+    Give(Press(RightButton, cellX, cellY), [cellX, cellY] { ActAt(CentreOf(cellX), CentreOf(cellY)); });
 }
 
 void TurnOrStepTo(Facing facing) {
-    PressKey(StepKeys[facing]);
+    Give(Key(StepKeys[facing]), [facing] {
+        PassOverUnfit();
+        StepTo(facing);
+    });
 }
 
 void TakeStance(Stance stance) {
-    orderDoor({EventKind::Click, "frmField.imgStance", stance});
+    Give({EventKind::Click, "frmField.imgStance", stance}, [stance] { SetStance(stance); });
 }
 
 void PassToNext() {
-    PressKey(SpaceKey);
+    Give(Key(SpaceKey), [] {
+        PassOverUnfit();
+        ++orderCount;
+        SelectNextUnit();
+    });
 }
 
 void EndTurn() {
-    orderDoor({EventKind::Click, "frmField.cmdNextTurn"});
+    Give({EventKind::Click, "frmField.cmdNextTurn"}, NewTurn);
 }
 
 void LeaveMission() {
-    orderDoor({EventKind::Click, "frmField.mnuExit"});
+    if (orderDoor != nullptr)
+        orderDoor({EventKind::Click, "frmField.mnuExit"});
+    else
+        EndGame();
 }

@@ -1,10 +1,10 @@
-// The orders that a player in code gives, each through the door for input like a person's.
+// The orders that a player in code gives: straight to the rules, or through a door for input like a person's.
 #pragma once
 
 #include "platform/input_event.h"
 #include "state/state.h"
 
-/// Where orders go from now on; the game's own door until then.
+/// Orders go as input through `door` from now on; nullptr, as at first, for straight to the rules.
 void SendOrdersTo(void (*door)(const InputEvent&));
 
 /// A left or right click on the middle of a cell.

@@ -5,11 +5,10 @@
 #include <limits>
 #include <stdexcept>
 
-#include "platform/headless_host.h"
+#include "platform/quiet_host.h"
 #include "state/state.h"
 #include "tools/player/orders.h"
 #include "tools/player/squad_player.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -59,19 +58,19 @@ void PlaySoldier(int soldier) {
 
 // Orders for each soldier, and the end of the turn, unless the last one's orders have brought it already. A
 // soldier without time has handed over to the next by himself.
-void PlaySimpleTurn(TurnCount& count) {
-    const int turn = count.Now();
-    for (int i = 0; i <= teamLast[SquadTeam] && count.Now() == turn; ++i) {
+void PlaySimpleTurn() {
+    const i32 turn = squadTurns;
+    for (int i = 0; i <= teamLast[SquadTeam] && squadTurns == turn; ++i) {
         const int soldier = curUnit;
         PlaySoldier(soldier);
-        if (count.Now() == turn && curUnit == soldier) PassToNext();
+        if (squadTurns == turn && curUnit == soldier) PassToNext();
     }
-    if (count.Now() == turn) EndTurn();
+    if (squadTurns == turn) EndTurn();
 }
 
 void PlayToTheEnd(int turns, ScriptedPlayer& player) {
     try {
-        while (player.Turns() <= turns)
+        while (squadTurns <= turns)
             player.PlayTurn();
         LeaveMission();
     } catch (const ProcessEnded& end) {
@@ -95,35 +94,22 @@ int WoundedOfSquad() {
     return wounded;
 }
 
-// The first word of the log's last line.
-std::string Verdict() {
-    const std::string& line = frmField.cmbLog.Text;
-    return line.substr(0, line.find('.'));
-}
-
 }  // namespace
 
-int TurnCount::Now() {
-    const auto& lines = frmField.cmbLog.List;
-    for (; read < lines.size(); ++read)
-        if (lines[read] == "New turn for team #0") ++turns;
-    return turns;
-}
-
 ScriptedPlayer::ScriptedPlayer(const Habits* habits) {
-    if (habits != nullptr) squad.emplace(*habits, [this] { return count.Now(); });
+    if (habits != nullptr) squad.emplace(*habits);
 }
 
 void ScriptedPlayer::PlayTurn() {
     if (squad)
         squad->PlayTurn();
     else
-        PlaySimpleTurn(count);
+        PlaySimpleTurn();
 }
 
 MissionResult PlayMission(int turns, const Habits* habits) {
     ScriptedPlayer player(habits);
     PlayToTheEnd(turns, player);
-    const int had = std::min(player.Turns(), turns);  // one more has begun when he leaves
-    return {Verdict(), had, WoundedOfSquad(), DeadOf(SquadTeam), DeadOf(EnemyTeam)};
+    const int had = std::min<int>(squadTurns, turns);  // one more has begun when he leaves
+    return {missionVerdict, had, WoundedOfSquad(), DeadOf(SquadTeam), DeadOf(EnemyTeam)};
 }

@@ -3,21 +3,10 @@
 // not; the players with habits know only what a person would.
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 
 #include "tools/player/squad_player.h"
-
-/// The turns that the squad has begun, by the log, which is read on from where it was read up to.
-class TurnCount {
-  public:
-    int Now();
-
-  private:
-    std::size_t read = 0;
-    int turns = 0;
-};
 
 /// Plays the running mission turn by turn.
 class ScriptedPlayer {
@@ -27,13 +16,10 @@ class ScriptedPlayer {
     ScriptedPlayer(const ScriptedPlayer&) = delete;
     ScriptedPlayer& operator=(const ScriptedPlayer&) = delete;
 
-    int Turns() { return count.Now(); }
-
     /// The orders of one turn of the squad's, to its end. What ends the process comes through.
     void PlayTurn();
 
   private:
-    TurnCount count;
     std::optional<SquadPlayer> squad;  // none: the simple player
 };
 

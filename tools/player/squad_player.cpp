@@ -63,11 +63,10 @@ const Habits* HabitsNamed(std::string_view name) {
     return row != std::end(AllHabits) ? row : nullptr;
 }
 
-SquadPlayer::SquadPlayer(const Habits& chosen, std::function<int()> turnsSoFar)
-    : habits(chosen), turns(std::move(turnsSoFar)) {}
+SquadPlayer::SquadPlayer(const Habits& chosen) : habits(chosen) {}
 
 void SquadPlayer::PlayTurn() {
-    turn = turns();
+    turn = squadTurns;
     if (!GiveAll(&SquadPlayer::Advance)) return;
     if (memory.Knows()) {
         if (!GiveAll(&SquadPlayer::Fire)) return;
@@ -82,8 +81,8 @@ bool SquadPlayer::GiveAll(Orders orders) {
         const Unit& unit = UnitTable[curUnit];
         Observe();
         (this->*orders)(unit);
-        if (turns() == turn && IsCurrent(unit)) PassToNext();
-        if (turns() != turn) return false;
+        if (squadTurns == turn && IsCurrent(unit)) PassToNext();
+        if (squadTurns != turn) return false;
     }
     return true;
 }

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <optional>
 #include <string_view>
 
@@ -31,8 +30,7 @@ const Habits* HabitsNamed(std::string_view name);
 
 class SquadPlayer {
   public:
-    /// `turnsSoFar` tells how many turns the squad has begun.
-    SquadPlayer(const Habits& habits, std::function<int()> turnsSoFar);
+    explicit SquadPlayer(const Habits& habits);
 
     /// All orders of one turn, up to its end.
     void PlayTurn();
@@ -64,7 +62,6 @@ class SquadPlayer {
     bool KeepsUp(const Unit& unit);
 
     const Habits& habits;
-    std::function<int()> turns;
     int turn = 0;
     EnemyMemory memory;
     SearchMap search;
