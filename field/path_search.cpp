@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstdlib>
 
 #include "field/geometry.h"
 #include "platform/arrays.h"
@@ -12,79 +13,104 @@ namespace {
 
 constexpr int WaveCap = 250;
 
-// The search's grid has a border of one cell around the field: field cell (x, y) lies at (x + 1, y + 1).
-constexpr int GridColumns = FieldWidth + 2;
-constexpr int GridRows = FieldHeight + 2;
-
-// One row of the grid, a bit for each column.
-struct RowBits {
-    std::uint64_t low = 0;   // columns 0 to 63
-    std::uint64_t high = 0;  // columns 64 to 77
-
-    bool Has(int column) const { return ((column < 64 ? low >> column : high >> (column - 64)) & 1) != 0; }
-    void Set(int column) { (column < 64 ? low : high) |= std::uint64_t{1} << (column % 64); }
-    void Clear(int column) { (column < 64 ? low : high) &= ~(std::uint64_t{1} << (column % 64)); }
-    bool Any() const { return (low | high) != 0; }
-
-    // Itself and its neighbours to the left and right.
-    RowBits Widened() const {
-        return {low | low << 1 | low >> 1 | high << 63, high | high << 1 | high >> 1 | low >> 63};
-    }
-    RowBits operator|(const RowBits& b) const { return {low | b.low, high | b.high}; }
-    RowBits operator&(const RowBits& b) const { return {low & b.low, high & b.high}; }
-    RowBits Without(const RowBits& b) const { return {low & ~b.low, high & ~b.high}; }
-};
-
-using Bits = std::array<RowBits, GridRows>;
-
 // Trace-back order: among equals the earlier wins, which prefers straight steps.
 constexpr std::array<PlanStep, 8> TraceOrder = {
     {{0, -1}, {1, 0}, {0, 1}, {-1, 0}, {-1, -1}, {1, -1}, {1, 1}, {-1, 1}}};
 
-// The rows of one wave between `first` and `last`; the others are empty.
-struct Wave {
-    Bits bits{};
-    int first = 0;
-    int last = 0;
-};
+bool IsFree(const Cell& cell) {
+    return cell.occupant < 0 && LetsStepThrough(cell);
+}
 
-class Search {
+// Looks for a path on which every step comes nearer to the destination, as most walks can. No wave is needed
+// then: a cell's wave is its distance, so that the first such path in trace order is the one that a trace
+// finds.
+class StraightSearch {
   public:
-    Search(int walkerColumn, int walkerRow, int column, int row) : walkerX(walkerColumn), walkerY(walkerRow) {
-        waves.reserve(64);
-        waves.emplace_back();
-        waves[0].first = waves[0].last = row + 1;
-        if (column != walkerX || row != walkerY) waves[0].bits.at(At(row + 1)).Set(column + 1);
-        firstFilled = row + 1;
-        lastFilled = row;
-        destinationX = column;
-        destinationY = row;
+    StraightSearch(int x, int y) : destinationX(x), destinationY(y) {}
+
+    // Empty where there is no such path, or where a trace along it leaves the field.
+    std::vector<PlanStep> Plan(int walkerX, int walkerY) {
+        if (!InField(walkerX, walkerY)) return {};
+        plan.reserve(static_cast<std::size_t>(DistanceFrom(walkerX, walkerY)));
+        if (!LeadsOn(walkerX, walkerY) || leavesField) return {};
+        return std::move(plan);
     }
 
-    // Whether wave `n` touches the walker.
-    bool Reaches(int n) const {
-        const Wave& wave = waves[At(n)];
-        for (int row = std::max(wave.first, walkerY); row <= std::min(wave.last, walkerY + 2); ++row)
-            if (wave.bits[At(row)].Widened().Has(walkerX + 1)) return true;
+  private:
+    int DistanceFrom(int x, int y) const {
+        return std::max(std::abs(destinationX - x), std::abs(destinationY - y));
+    }
+
+    // Whether such a path leads from the cell to the destination; if so, the plan goes on with it.
+    bool LeadsOn(int x, int y) {
+        const int left = DistanceFrom(x, y) - 1;
+        for (const PlanStep& step : TraceOrder) {
+            const int nextX = x + step.dx;
+            const int nextY = y + step.dy;
+            if (DistanceFrom(nextX, nextY) != left) continue;
+            if (left > 0 && !Enter(nextX, nextY)) continue;
+            plan.push_back(step);
+            if (left == 0 || LeadsOn(nextX, nextY)) {
+                leavesField = leavesField || x == 0 || y == 0;
+                return true;
+            }
+            plan.pop_back();
+        }
         return false;
     }
 
-    // Makes wave `n` + 1 of the cells not reached yet around wave `n`.
-    void Spread(int n) {
+    // False for a cell that is closed, or was a dead end before.
+    bool Enter(int x, int y) {
+        if (!InField(x, y) || entered[y][x] || !IsFree(cellGrid[y][x])) return false;
+        entered[y][x] = true;
+        return true;
+    }
+
+    int destinationX;
+    int destinationY;
+    Array<Array<bool, 0, FieldWidth - 1>, 0, FieldHeight - 1> entered;
+    std::vector<PlanStep> plan;
+    bool leavesField = false;
+};
+
+// The grid of the waves has a border of one cell around the field: field cell (x, y) lies at (x + 1, y + 1).
+constexpr int GridColumns = FieldWidth + 2;
+constexpr int GridRows = FieldHeight + 2;
+
+// A column of the grid, a bit for each row: a wave takes all cells of a column at once.
+using Column = std::uint64_t;
+static_assert(GridRows <= 64);
+using Columns = std::array<Column, GridColumns>;
+
+// None for a row outside the grid.
+constexpr Column Bit(int row) {
+    return row < 0 || row >= GridRows ? 0 : Column{1} << row;
+}
+
+// The cells of a column and those above and below each.
+constexpr Column Widened(Column column) {
+    return column | column << 1 | column >> 1;
+}
+
+// Spreads a wave from the destination over the free cells until it touches the walker.
+class WaveSearch {
+  public:
+    WaveSearch(int fromX, int fromY, int x, int y)
+        : walkerX(fromX), walkerY(fromY), first(x + 1), last(x + 1) {
+        waves.reserve(64);
         waves.emplace_back();
-        Wave& next = waves.back();
-        const Wave& wave = waves[At(n)];
-        next.first = std::max(wave.first - 1, 1);
-        next.last = std::min(wave.last + 1, FieldHeight);
-        FillTo(next.first, next.last);
-        for (int row = next.first; row <= next.last; ++row) {
-            const RowBits around = wave.bits[At(row - 1)] | wave.bits[At(row)] | wave.bits[At(row + 1)];
-            RowBits& free = unreached[At(row)];
-            const RowBits reached = around.Widened() & free;
-            next.bits[At(row)] = reached;
-            free = free.Without(reached);
+        LookAt(x + 1);
+        unreached[At(x + 1)] &= ~Bit(y + 1);
+        if (x != walkerX || y != walkerY) waves[0][At(x + 1)] = Bit(y + 1);
+    }
+
+    // The number of the wave that touches the walker, WaveCap if none does.
+    int Spread() {
+        for (int n = 0; n < WaveCap; ++n) {
+            if (TouchesWalker()) return n;
+            if (!SpreadOnce()) break;
         }
-        Trim(next);
+        return WaveCap;
     }
 
     // The plan back from the walker, whom wave `n` touched; WaveCap when none did.
@@ -107,38 +133,33 @@ class Search {
   private:
     static std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
-    // Rows are looked at when the wave first comes to them.
-    void FillTo(int first, int last) {
-        while (firstFilled > first)
-            Fill(--firstFilled);
-        while (lastFilled < last)
-            Fill(++lastFilled);
+    bool TouchesWalker() const {
+        Column around = 0;
+        for (int column = std::max(first, walkerX); column <= std::min(last, walkerX + 2); ++column)
+            around |= waves.back()[At(column)];
+        return (Widened(around) & Bit(walkerY + 1)) != 0;
     }
 
-    void Fill(int row) {
-        const auto& cells = cellGrid[row - 1];
-        RowBits& free = unreached[At(row)];
-        free.low = FreeBits(cells, 0, 63) << 1;
-        free.high = FreeBits(cells, 63, FieldWidth);
-        if (row == destinationY + 1) free.Clear(destinationX + 1);
-        if (row == walkerY + 1) free.Clear(walkerX + 1);
-    }
-
-    // A bit for each cell from `first` to before `last` that can be stepped on.
-    static std::uint64_t FreeBits(const Array<Cell, 0, FieldWidth>& cells, int first, int last) {
-        std::uint64_t bits = 0;
-        for (int x = first; x < last; ++x) {
-            const Cell& cell = cells[x];
-            bits |= std::uint64_t{cell.occupant < 0 && LetsStepThrough(cell)} << (x - first);
+    // Makes the next wave of the cells not reached yet around the last one; false when there are none.
+    bool SpreadOnce() {
+        if (first > 1) LookAt(--first);
+        if (last < FieldWidth) LookAt(++last);
+        waves.emplace_back();
+        const Columns& wave = waves[waves.size() - 2];
+        Columns& next = waves.back();
+        Column any = 0;
+        for (std::size_t i = At(first); i <= At(last); ++i) {
+            next[i] = Widened(wave[i - 1] | wave[i] | wave[i + 1]) & unreached[i];
+            unreached[i] &= ~next[i];
+            any |= next[i];
         }
-        return bits;
+        return any != 0;
     }
 
-    static void Trim(Wave& wave) {
-        while (wave.first < wave.last && !wave.bits[At(wave.first)].Any())
-            ++wave.first;
-        while (wave.last > wave.first && !wave.bits[At(wave.last)].Any())
-            --wave.last;
+    // Columns are looked at when the wave first comes to them.
+    void LookAt(int column) {
+        for (int y = 0; y < FieldHeight; ++y)
+            unreached[At(column)] |= Column{IsFree(cellGrid[y][column - 1])} << (y + 1);
     }
 
     // The first neighbour in trace order with the lowest value; the step before when none has one below the
@@ -162,31 +183,36 @@ class Search {
         if (column < 0 || column >= GridColumns) ThrowSubscript(column, 0, GridColumns - 1);
         if (row < 0 || row >= GridRows) ThrowSubscript(row, 0, GridRows - 1);
         if (column == 0 || row == 0) return 0;
-        const bool reached = n < WaveCap && waves[At(n)].bits[At(row)].Has(column);
+        const bool reached = At(n) < waves.size() && (waves[At(n)][At(column)] & Bit(row)) != 0;
         return reached ? n : WaveCap;
     }
 
     int walkerX;
     int walkerY;
-    int destinationX = 0;
-    int destinationY = 0;
-    Bits unreached{};  // free cells that no wave has come to
-    int firstFilled = 0;
-    int lastFilled = 0;
-    std::vector<Wave> waves;
+    int first;  // the columns that the last wave lies in
+    int last;
+    Columns unreached{};  // free cells that no wave has come to
+    std::vector<Columns> waves;
 };
+
+void Repeat(int times, const std::function<void()>& call) {
+    for (int i = 0; i < times; ++i)
+        call();
+}
 
 }  // namespace
 
 std::vector<PlanStep> SearchPath(int walkerX, int walkerY, int x, int y, int maxSteps,
                                  const std::function<void()>& afterWave) {
     if (!InField(x, y)) throw RunTimeError(Fault::Subscript, "a walk to a cell outside the field");
-    Search search(walkerX, walkerY, x, y);
-    int n = 0;
-    while (n < WaveCap && !search.Reaches(n)) {
-        search.Spread(n);
-        afterWave();
-        ++n;
+    std::vector<PlanStep> plan = StraightSearch(x, y).Plan(walkerX, walkerY);
+    if (const int length = static_cast<int>(plan.size()); length > 0) {
+        Repeat(length - 1, afterWave);
+        if (maxSteps > 0 && maxSteps < length) plan.resize(static_cast<std::size_t>(maxSteps));
+        return plan;
     }
-    return search.Trace(n, maxSteps);
+    WaveSearch search(walkerX, walkerY, x, y);
+    const int waves = search.Spread();
+    Repeat(waves, afterWave);
+    return search.Trace(waves, maxSteps);
 }
