@@ -8,7 +8,6 @@
 #include "combat/fire_modes.h"
 #include "combat/things.h"
 #include "state/state.h"
-#include "view/field_form.h"
 
 namespace {
 
@@ -25,8 +24,8 @@ void Prepare(const char* name, const std::string& mode) {
     unit.items[0].name = name;
     unit.items[0].count = 1;
     RefreshHand();
-    for (std::size_t i = 0; i < frmField.comboMode.List.size(); ++i)
-        if (frmField.comboMode.List[i] == mode) ChooseMode(static_cast<int>(i));
+    for (std::size_t i = 0; i < fireModes.offered.size(); ++i)
+        if (fireModes.offered[i] == mode) ChooseMode(static_cast<int>(i));
 }
 
 void Fire(int cells, int rounds = 200) {
@@ -36,7 +35,6 @@ void Fire(int cells, int rounds = 200) {
     unit.handRounds = rounds;
     unit.hand.durab = 900;
     unit.items[0].roundsMain = unit.items[0].roundsSecond = rounds;
-    frmField.cmbLog.List.clear();
     ActOnTarget(unit.pixelX + cells * CellSize, unit.pixelY + HalfCell);
 }
 

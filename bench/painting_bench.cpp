@@ -11,14 +11,20 @@
 
 namespace {
 
-void NewGameHeadless(benchmark::State& state) {
+void NewGameQuiet(benchmark::State& state) {
     for (auto _ : state)
         StartGame();
 }
-BENCHMARK(NewGameHeadless)->Unit(benchmark::kMillisecond);
+BENCHMARK(NewGameQuiet)->Unit(benchmark::kMillisecond);
+
+void NewGameShown(benchmark::State& state) {
+    for (auto _ : state)
+        StartShownGame();
+}
+BENCHMARK(NewGameShown)->Unit(benchmark::kMillisecond);
 
 void PaintWholeMap(benchmark::State& state) {
-    StartGame();
+    StartShownGame();
     frmField.mapIsPainted = true;
     for (auto _ : state)
         for (int y = 0; y < FieldHeight; ++y)
@@ -29,21 +35,21 @@ void PaintWholeMap(benchmark::State& state) {
 BENCHMARK(PaintWholeMap)->Unit(benchmark::kMillisecond);
 
 void RepaintCell(benchmark::State& state) {
-    StartGame();
+    StartShownGame();
     for (auto _ : state)
         PaintCell(40, 20, frmField.area.canvas);
 }
 BENCHMARK(RepaintCell);
 
 void MiniMapOfWholeField(benchmark::State& state) {
-    StartGame();
+    StartShownGame();
     for (auto _ : state)
         picStretch(frmField.area.canvas, frmField.picAreaMap.canvas, MiniMapRatio);
 }
 BENCHMARK(MiniMapOfWholeField)->Unit(benchmark::kMillisecond);
 
 void MiniMapCell(benchmark::State& state) {
-    StartGame();
+    StartShownGame();
     for (auto _ : state)
         picStretchSquare(frmField, 40, 20);
 }
@@ -51,7 +57,7 @@ BENCHMARK(MiniMapCell);
 
 // One frame of a soldier drawn in place; a step is twenty of them.
 void PaintUnitFrame(benchmark::State& state) {
-    StartGame();
+    StartShownGame();
     for (auto _ : state)
         PaintUnit(0, 0);
 }

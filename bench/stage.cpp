@@ -3,16 +3,28 @@
 #include <random>
 
 #include "field/geometry.h"
+#include "mission/setup.h"
+#include "state/quiet_audience.h"
 #include "view/start.h"
 
 namespace {
 
+constexpr int Seed = 1;
 constexpr int WallBlock = 3;  // stops steps and the view
 
 }  // namespace
 
+void LookAway() {
+    static QuietAudience audience;
+    InstallAudience(&audience);
+}
+
 void StartGame() {
-    constexpr int Seed = 1;
+    LookAway();
+    BeginGame(Seed);
+}
+
+void StartShownGame() {
     Main(Seed);
 }
 

@@ -5,8 +5,12 @@
 
 #include "state/state.h"
 
-/// Starts the game of seed 1.
+/// Starts the game of seed 1 before the quiet audience, or on its windows.
 void StartGame();
+void StartShownGame();
+
+/// Makes the quiet audience the one that the rules report to.
+void LookAway();
 
 /// Cells that a unit can stand on, the same for every run.
 std::vector<Spot> Standings(int count);

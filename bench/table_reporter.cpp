@@ -32,9 +32,11 @@ constexpr Operation Operations[] = {
     {"PaintWholeMap", "painting the whole map, 3,496 cells"},
     {"MiniMapCell", "one cell of the mini map"},
     {"MiniMapOfWholeField", "the whole mini map"},
-    {"NewGameHeadless", "a new game: files, map, landing, first selection"},
+    {"NewGameQuiet", "a new game: files, map, landing, first selection"},
+    {"NewGameShown", "the same with its windows painted"},
     {"MissionOfTheSimplePlayer", "a mission from the new game to the verdict, simple player, median of 100"},
-    {"MissionOfTheSensiblePlayer", "the same, sensible player (half of it is his thinking)"},
+    {"ShownMissionOfTheSimplePlayer", "the same with its windows painted"},
+    {"MissionOfTheSensiblePlayer", "a mission of the sensible player (most of it is his thinking)"},
 };
 
 struct Growth {

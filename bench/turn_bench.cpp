@@ -10,7 +10,7 @@
 #include "bench/stage.h"
 #include "tools/player/orders.h"
 #include "tools/player/scripted_player.h"
-#include "view/field_form.h"
+#include "mission/setup.h"
 #include "view/start.h"
 
 namespace {
@@ -21,7 +21,6 @@ void PlayComputerTurns(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         game = *begun;
-        frmField.cmbLog.List.clear();
         state.ResumeTiming();
         EndTurn();
     }
@@ -64,15 +63,16 @@ void ComputerTurnInAFight(benchmark::State& state) {
 BENCHMARK(ComputerTurnInAFight)->Apply(ByTeamSize);
 
 // From the new game to the verdict, a new seed each time; its median is the counter.
-void PlayMissions(benchmark::State& state, const Habits* habits) {
+void PlayMissions(benchmark::State& state, void (*begin)(std::uint32_t seed), const Habits* habits) {
     constexpr int Turns = 60;
     std::vector<double> times;
     std::uint32_t seed = 0;
+    LookAway();
     for (auto _ : state) {
-        const std::clock_t begin = std::clock();
-        Main(++seed);
+        const std::clock_t start = std::clock();
+        begin(++seed);
         PlayMission(Turns, habits);
-        times.push_back(static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC);
+        times.push_back(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
     }
     std::nth_element(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2),
                      times.end());
@@ -80,13 +80,18 @@ void PlayMissions(benchmark::State& state, const Habits* habits) {
 }
 
 void MissionOfTheSimplePlayer(benchmark::State& state) {
-    PlayMissions(state, nullptr);
+    PlayMissions(state, BeginGame, nullptr);
 }
 BENCHMARK(MissionOfTheSimplePlayer)->Iterations(100)->Unit(benchmark::kMillisecond);
 
 void MissionOfTheSensiblePlayer(benchmark::State& state) {
-    PlayMissions(state, HabitsNamed("sensible"));
+    PlayMissions(state, BeginGame, HabitsNamed("sensible"));
 }
 BENCHMARK(MissionOfTheSensiblePlayer)->Iterations(100)->Unit(benchmark::kMillisecond);
+
+void ShownMissionOfTheSimplePlayer(benchmark::State& state) {
+    PlayMissions(state, Main, nullptr);
+}
+BENCHMARK(ShownMissionOfTheSimplePlayer)->Iterations(100)->Unit(benchmark::kMillisecond);
 
 }  // namespace

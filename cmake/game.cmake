@@ -1,4 +1,5 @@
-# sarnoth_game: the whole game but its windows; no toolkit, no sound device.
+# sarnoth_rules: the rules alone, which link without a picture, a control or a form. sarnoth_game: the whole game but its
+# windows; no toolkit, no sound device.
 set(EMBEDDED ${CMAKE_BINARY_DIR}/embedded_files.cpp)
 add_custom_command(
     OUTPUT ${EMBEDDED}
@@ -8,7 +9,15 @@ add_custom_command(
     COMMENT "Embedding the stored pictures"
     VERBATIM)
 
-file(GLOB GAME_SOURCES CONFIGURE_DEPENDS
-    ai/*.cpp combat/*.cpp data/*.cpp field/*.cpp mission/*.cpp personal/*.cpp platform/*.cpp state/*.cpp view/*.cpp)
+set(RULES_PLATFORM code_page files game_folders host random run_time_error)
+list(TRANSFORM RULES_PLATFORM PREPEND platform/)
+list(TRANSFORM RULES_PLATFORM APPEND .cpp)
+file(GLOB RULES_SOURCES CONFIGURE_DEPENDS
+    ai/*.cpp combat/*.cpp data/*.cpp field/*.cpp mission/*.cpp state/*.cpp)
+add_library(sarnoth_rules STATIC ${RULES_SOURCES} ${RULES_PLATFORM})
+target_link_libraries(sarnoth_rules PUBLIC sarnoth_options)
+
+file(GLOB GAME_SOURCES CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} personal/*.cpp platform/*.cpp view/*.cpp)
+list(REMOVE_ITEM GAME_SOURCES ${RULES_PLATFORM})
 add_library(sarnoth_game STATIC ${GAME_SOURCES} ${EMBEDDED})
-target_link_libraries(sarnoth_game PUBLIC sarnoth_options)
+target_link_libraries(sarnoth_game PUBLIC sarnoth_rules)
