@@ -1,6 +1,7 @@
 // sarnoth-tiled: a map of the game as a map of the editor Tiled, and back.
 #include <iostream>
 
+#include "tools/command_line.h"
 #include "tools/tiled/game_map.h"
 #include "tools/tiled/tmx_format.h"
 #include "tools/tiled/tmx_reader.h"
@@ -12,19 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-enum ExitCode { Done, Failed, WrongUsage };
-
-constexpr const char* Usage = R"(usage: sarnoth-tiled export MAP FILE.tmx
-       sarnoth-tiled import FILE.tmx MAP
-
-Turns a map of the game into a map of the editor Tiled and back. MAP is the files' name without their endings,
-as game/map/49 for game/map/491.map, 492.map, 493.map and 49g.map.
-
-export also writes the tile sheet, picMap.bmp, beside FILE.tmx. import refuses what the game can't hold;
-whether a mission can be played on the map is what sarnoth-check tells.
-
-Exit code 0: done; 1: not done, standard error says why; 2: a wrong command line.
-)";
+enum ExitCode { Done, Failed };
 
 // The report of faults, and the exit code.
 ExitCode Told(const Findings& findings) {
@@ -54,17 +43,26 @@ ExitCode Import(const fs::path& source, const fs::path& stem) {
 
 }  // namespace
 
-int main(int count, char** arguments) try {
-    const std::vector<std::string> words(arguments + 1, arguments + count);
-    if (words == std::vector<std::string>{"--help"}) {
-        std::cout << Usage;
-        return Done;
-    }
-    if (words.size() == 3 && words[0] == "export") return Export(words[1], words[2]);
-    if (words.size() == 3 && words[0] == "import") return Import(words[1], words[2]);
-    std::cerr << "sarnoth-tiled: wrong arguments\nsarnoth-tiled --help tells more.\n";
-    return WrongUsage;
-} catch (const std::exception& error) {
-    std::cerr << "sarnoth-tiled: " << error.what() << "\n";
-    return Failed;
+int main(int count, char** arguments) {
+    CommandLine line("sarnoth-tiled", "Turns a map of the game into a map of the editor Tiled and back.",
+                     "Exit code 0: done; 1: not done, standard error says why; 2: a wrong command line.");
+    line.require_subcommand(1);
+    fs::path map, tmx;
+    const auto addMap = [&map](CLI::App* command) {
+        AddFile(*command, "MAP", map,
+                "the files' name without their endings, as game/map/49 for\n"
+                "game/map/491.map, 492.map, 493.map and 49g.map");
+    };
+    const auto addTmx = [&tmx](CLI::App* command) { AddFile(*command, "FILE.tmx", tmx, "the map of Tiled"); };
+    CLI::App* const out =
+        line.add_subcommand("export", "MAP to FILE.tmx, with the tile sheet, picMap.bmp, beside it.");
+    addMap(out);
+    addTmx(out);
+    CLI::App* const in =
+        line.add_subcommand("import",
+                            "FILE.tmx to MAP; refuses what the game can't hold.\n"
+                            "Whether a mission can be played on the map is what sarnoth-check shows.");
+    addTmx(in);
+    addMap(in);
+    return line.Follow(count, arguments, [&] { return out->parsed() ? Export(map, tmx) : Import(tmx, map); });
 }
