@@ -41,7 +41,8 @@ CommandLine::CommandLine(const char* program, const char* purpose, const char* e
     footer(exitCodes);
 }
 
-int CommandLine::Follow(int count, char** arguments, const Work& work) try {
+int CommandLine::Follow(int count, char** arguments, Work (*add)(CLI::App& app)) try {
+    const Work work = add(*this);
     parse(count, arguments);
     return work();
 } catch (const CLI::ParseError& error) {

@@ -17,9 +17,9 @@ class CommandLine : public CLI::App {
   public:
     CommandLine(const char* program, const char* purpose, const char* exitCodes);
 
-    /// Reads the line and does the work. Exit code 0 after --help, 1 for any other exception, which is shown,
-    /// and 2 for a wrong command line.
-    int Follow(int count, char** arguments, const Work& work);
+    /// Reads the line, with the options that `add` gives it, and does their work. Exit code 0 after --help, 1
+    /// for any exception but a ParseError, which is shown, and 2 for a wrong command line.
+    int Follow(int count, char** arguments, Work (*add)(CLI::App& app));
 };
 
 /// Both included.

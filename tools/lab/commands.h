@@ -9,7 +9,7 @@ Work AddPlay(CLI::App& command);
 /// Replays a recording without a window or in one.
 Work AddReplay(CLI::App& command);
 
-/// Writes the lines of a recording anew.
+/// Rewrites the lines of a recording.
 Work AddRecord(CLI::App& command);
 
 /// Random missions.

@@ -127,7 +127,7 @@ void AppendLegendEntry(pugi::xml_node svg, const ChartLine& line, const LineStyl
 }
 
 pugi::xml_node AppendPage(pugi::xml_document& document, const std::string& title) {
-    const pugi::xml_node svg = AppendElement(document, "svg",
+    const pugi::xml_node svg = AppendElement(document.root(), "svg",
                                              {{"xmlns", "http://www.w3.org/2000/svg"},
                                               {"viewBox", "0 0 " + Short(Width) + " " + Short(Height)},
                                               {"width", Short(Width)},

@@ -1,5 +1,5 @@
-// sarnoth-lab: the makers' program around the game: plays and records, replays, records anew, soaks, checks,
-// measures the odds, paints.
+// sarnoth-lab: the makers' program around the game: plays and records, replays, rewrites recordings, soaks,
+// checks, measures the odds, paints.
 #include <map>
 
 #include "tools/check/run_check.h"
@@ -19,7 +19,7 @@ constexpr Command Commands[] = {
      "Replays a recording and compares the state, the field's picture, the windows and the\n"
      "sounds after each event; stops at the first difference and names it."},
     {"record", AddRecord,
-     "Plays the events of a recording anew, and writes what they change now into it: for one\n"
+     "Plays the events of a recording, and rewrites it with what they change now: for one\n"
      "that was written by hand as the first three lines and events alone, or when data or\n"
      "rules were changed on purpose."},
     {"soak", AddSoak,
@@ -36,17 +36,21 @@ constexpr Command Commands[] = {
     {"shot", AddShot, "Paints a window of a new game; needs no display."},
 };
 
+Work AddCommands(CLI::App& app) {
+    app.require_subcommand(1);
+    std::map<const CLI::App*, Work> works;
+    for (const Command& command : Commands) {
+        CLI::App* const added = app.add_subcommand(command.name, command.help);
+        works[added] = command.add(*added);
+    }
+    return [&app, works] { return works.at(app.get_subcommands().front())(); };
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
     CommandLine line("sarnoth-lab", "The makers' program around the game.",
                      "The game folder is only read: every run works on a copy of its data.\n"
                      "Exit code 0: well; 1: something was found, or an error; 2: a wrong command line.");
-    line.require_subcommand(1);
-    std::map<const CLI::App*, Work> works;
-    for (const Command& command : Commands) {
-        CLI::App* const added = line.add_subcommand(command.name, command.help);
-        works[added] = command.add(*added);
-    }
-    return line.Follow(count, arguments, [&] { return works.at(line.get_subcommands().front())(); });
+    return line.Follow(count, arguments, AddCommands);
 }

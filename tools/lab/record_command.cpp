@@ -1,4 +1,4 @@
-// Writes a recording's lines anew.
+// Rewrites a recording's lines.
 #include <cstdlib>
 #include <memory>
 

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 
 #include "platform/files.h"
 #include "platform/headless_host.h"
@@ -79,6 +80,12 @@ int PlayMissions(const MissionOptions& options) {
     return options.log ? PrintLog(options, copy) : PlayAll(options, copy);
 }
 
+Work AddMissions(CLI::App& app) {
+    const auto options = std::make_shared<MissionOptions>();
+    AddMissionOptions(app, *options);
+    return [options] { return PlayMissions(*options); };
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -88,7 +95,5 @@ int main(int count, char** arguments) {
         "The same command prints the same bytes. The game folder is only read.",
         "Exit code 0: every mission ended; 1: one didn't, standard error names its seed; 2: a wrong command "
         "line.");
-    MissionOptions options;
-    AddMissionOptions(line, options);
-    return line.Follow(count, arguments, [&options] { return PlayMissions(options); });
+    return line.Follow(count, arguments, AddMissions);
 }

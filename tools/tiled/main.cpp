@@ -1,5 +1,6 @@
 // sarnoth-tiled: a map of the game as a map of the editor Tiled, and back.
 #include <iostream>
+#include <memory>
 
 #include "tools/command_line.h"
 #include "tools/tiled/game_map.h"
@@ -41,28 +42,43 @@ ExitCode Import(const fs::path& source, const fs::path& stem) {
     return Told(findings);
 }
 
+struct Files {
+    fs::path map;
+    fs::path tmx;
+};
+
+void AddMap(CLI::App& command, Files& files) {
+    AddFile(command, "MAP", files.map,
+            "the files' name without their endings, as game/map/49 for\n"
+            "game/map/491.map, 492.map, 493.map and 49g.map");
+}
+
+void AddTmx(CLI::App& command, Files& files) {
+    AddFile(command, "FILE.tmx", files.tmx, "the map of Tiled");
+}
+
+Work AddCommands(CLI::App& app) {
+    const auto files = std::make_shared<Files>();
+    app.require_subcommand(1);
+    CLI::App* const out =
+        app.add_subcommand("export", "MAP to FILE.tmx, with the tile sheet, picMap.bmp, beside it.");
+    AddMap(*out, *files);
+    AddTmx(*out, *files);
+    CLI::App* const in =
+        app.add_subcommand("import",
+                           "FILE.tmx to MAP; refuses what the game can't hold.\n"
+                           "Whether a mission can be played on the map is what sarnoth-check shows.");
+    AddTmx(*in, *files);
+    AddMap(*in, *files);
+    return [out, files] {
+        return out->parsed() ? Export(files->map, files->tmx) : Import(files->tmx, files->map);
+    };
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
     CommandLine line("sarnoth-tiled", "Turns a map of the game into a map of the editor Tiled and back.",
                      "Exit code 0: done; 1: not done, standard error says why; 2: a wrong command line.");
-    line.require_subcommand(1);
-    fs::path map, tmx;
-    const auto addMap = [&map](CLI::App* command) {
-        AddFile(*command, "MAP", map,
-                "the files' name without their endings, as game/map/49 for\n"
-                "game/map/491.map, 492.map, 493.map and 49g.map");
-    };
-    const auto addTmx = [&tmx](CLI::App* command) { AddFile(*command, "FILE.tmx", tmx, "the map of Tiled"); };
-    CLI::App* const out =
-        line.add_subcommand("export", "MAP to FILE.tmx, with the tile sheet, picMap.bmp, beside it.");
-    addMap(out);
-    addTmx(out);
-    CLI::App* const in =
-        line.add_subcommand("import",
-                            "FILE.tmx to MAP; refuses what the game can't hold.\n"
-                            "Whether a mission can be played on the map is what sarnoth-check shows.");
-    addTmx(in);
-    addMap(in);
-    return line.Follow(count, arguments, [&] { return out->parsed() ? Export(map, tmx) : Import(tmx, map); });
+    return line.Follow(count, arguments, AddCommands);
 }

@@ -18,7 +18,7 @@ class TmxWriter {
         pugi::xml_node declaration = document.append_child(pugi::node_declaration);
         declaration.append_attribute("version") = "1.0";
         declaration.append_attribute("encoding") = "UTF-8";
-        root = AppendElement(document, "map",
+        root = AppendElement(document.root(), "map",
                              {{"version", "1.8"},
                               {"orientation", "orthogonal"},
                               {"renderorder", "right-down"},
