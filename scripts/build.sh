@@ -1,8 +1,8 @@
 # Shared by ./play and ./check: installs missing packages, configures and builds.
 
 # What each purpose needs, by the distribution's names.
-packages_play="cmake ninja-build g++ ccache pkg-config qt6-base-dev libsdl2-mixer-dev libstb-dev libgif-dev libpugixml-dev fonts-dejavu-core"
-packages_check="$packages_play sox tiled libgtest-dev libbenchmark-dev libtcod-dev"
+packages_play="cmake ninja-build g++ ccache pkg-config qt6-base-dev libsdl2-mixer-dev libstb-dev libgif-dev fonts-dejavu-core"
+packages_check="$packages_play libcli11-dev nlohmann-json3-dev libpugixml-dev sox tiled libgtest-dev libbenchmark-dev libtcod-dev"
 packages_lint="clang-format clang-tidy"
 packages_clang="clang"
 packages_fuzz="clang libclang-rt-14-dev"

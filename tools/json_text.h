@@ -1,8 +1,9 @@
-// Texts as JSON writes them.
+// JSON as the tools print it.
 #pragma once
 
+#include <nlohmann/json_fwd.hpp>
 #include <string>
-#include <string_view>
 
-/// In quotes, with what JSON can't hold escaped. The text is UTF-8.
-std::string JsonQuoted(std::string_view text);
+/// A line for each value, keys in their order. Bytes that are no UTF-8, as names of files may have, are
+/// replaced.
+std::string JsonText(const nlohmann::ordered_json& json);

@@ -9,7 +9,7 @@ expect 0
 expect 0 --json --game "$game"
 says out "[]"
 expect 0 --help
-says out "usage: sarnoth-check"
+says out "Usage: sarnoth-check"
 
 mkdir game
 cp -r "$game/dat" "$game/map" game/
@@ -18,10 +18,12 @@ expect 1 --game game
 says out 'game/dat/save.dat: record 2, rank, byte 884: 255 is too much, expected a number up to 23'
 says err "1 fault"
 expect 1 --json --game game
-says out '"record": 2, "field": "rank", "byte": 884'
+for value in '"record": 2' '"field": "rank"' '"byte": 884'; do
+    says out "$value"
+done
 
 for arguments in "--gmae x" "--game" "--game /nowhere" "--sources /nowhere" "x"; do
     expect 2 $arguments
-    says err "sarnoth-check --help tells more."
+    says err "Run with --help for more information."
 done
 exit $failed

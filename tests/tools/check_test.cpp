@@ -247,7 +247,14 @@ TEST(FindingsTest, TheCaretStandsUnderTheColumnAndJsonIsEscaped) {
     finding.meant = "m";
     EXPECT_EQ(FindingsJson({finding}),
               R"([
-  {"file": "f", "line": 1, "column": 5, "wrong": "no \"w\"", "expected": "e", "meant": "m"}
+  {
+    "file": "f",
+    "line": 1,
+    "column": 5,
+    "wrong": "no \"w\"",
+    "expected": "e",
+    "meant": "m"
+  }
 ]
 )");
     finding.meant.clear();

@@ -20,7 +20,7 @@ says out "The end."
 expect 0 --seeds 3..3 --turns 1 --time
 says err "1 missions in"
 expect 0 --help
-says out "usage: sarnoth-missions"
+says out "Usage: sarnoth-missions"
 
 [ "$before" = "$(cd game && find . -type f -exec cksum {} +)" ] || complain "the game folder was written to"
 
@@ -30,13 +30,14 @@ truncate -s 1000 game/dat/save.dat
 expect 1 --seeds 8..9 --game game --json
 says err "seed 9: "
 says err "dat/save.dat"
-says out '{"seed": 9, "error": "'
+says out '"seed": 9,'
+says out '"error": "'
 
 for arguments in "--seed 1..2" "1..2" "--seeds" "--seeds 2..1" "--seeds 1..4294967296" "--turns 0" "--turns 5x" \
     "--log 1 --json" "--game /nowhere" "--player nobody"; do
     expect 2 $arguments
     [ -s out ] && complain "standard output isn't empty: $arguments"
-    says err "sarnoth-missions --help tells more."
+    says err "Run with --help for more information."
 done
 
 [ -z "$(ls "$TMPDIR")" ] || complain "a copy was left behind: $(ls "$TMPDIR")"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <nlohmann/json.hpp>
 
 #include "platform/code_page.h"
 #include "platform/quoted.h"
@@ -120,21 +121,15 @@ std::string FindingsText(const Findings& findings) {
 }
 
 std::string FindingsJson(const Findings& findings) {
-    std::string json = "[";
-    const char* separator = "\n  ";
+    auto list = nlohmann::ordered_json::array();
     for (const Finding& finding : findings) {
-        json += separator + std::string(R"({"file": )") + JsonQuoted(finding.file);
-        if (finding.line > 0)
-            json += R"(, "line": )" + std::to_string(finding.line) + R"(, "column": )" +
-                    std::to_string(finding.column);
+        nlohmann::ordered_json json = {{"file", finding.file}};
+        if (finding.line > 0) json.update({{"line", finding.line}, {"column", finding.column}});
         if (finding.record > 0)
-            json += R"(, "record": )" + std::to_string(finding.record) + R"(, "field": )" +
-                    JsonQuoted(finding.field) + R"(, "byte": )" + std::to_string(finding.byte);
-        json +=
-            R"(, "wrong": )" + JsonQuoted(finding.wrong) + R"(, "expected": )" + JsonQuoted(finding.expected);
-        if (!finding.meant.empty()) json += R"(, "meant": )" + JsonQuoted(finding.meant);
-        json += "}";
-        separator = ",\n  ";
+            json.update({{"record", finding.record}, {"field", finding.field}, {"byte", finding.byte}});
+        json.update({{"wrong", finding.wrong}, {"expected", finding.expected}});
+        if (!finding.meant.empty()) json["meant"] = finding.meant;
+        list.push_back(json);
     }
-    return json + (findings.empty() ? "]\n" : "\n]\n");
+    return JsonText(list);
 }

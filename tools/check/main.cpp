@@ -1,21 +1,13 @@
-// sarnoth-check: tells every fault in the game's data.
-#include <iostream>
-
+// sarnoth-check: shows every fault in the game's data.
 #include "tools/check/run_check.h"
-#include "tools/usage_error.h"
 
-namespace {
-
-enum ExitCode { Faults = 1, WrongUsage };
-
-}  // namespace
-
-int main(int count, char** arguments) try {
-    return RunCheck({arguments + 1, arguments + count}, {GAME_FOLDER, SOURCES_FOLDER});
-} catch (const UsageError& error) {
-    std::cerr << "sarnoth-check: " << error.what() << "\nsarnoth-check --help tells more.\n";
-    return WrongUsage;
-} catch (const std::exception& error) {
-    std::cerr << "sarnoth-check: " << error.what() << "\n";
-    return Faults;
+int main(int count, char** arguments) {
+    CommandLine line(
+        "sarnoth-check",
+        "Reads the data of the game and shows every fault in it: the file, the place, what is wrong and what "
+        "was\nexpected. Without a folder it checks the sources and the game that were built with it.",
+        "Exit code 0: no fault; 1: faults; 2: a wrong command line.");
+    return line.Follow(count, arguments, [](CLI::App& app) {
+        return AddCheck(app, {GAME_FOLDER, SOURCES_FOLDER});
+    });
 }

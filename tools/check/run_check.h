@@ -2,8 +2,8 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
-#include <vector>
+
+#include "tools/command_line.h"
 
 /// What is checked when the command line names nothing.
 struct CheckedFolders {
@@ -11,6 +11,6 @@ struct CheckedFolders {
     std::filesystem::path sources;
 };
 
-/// Prints the findings to standard output, and how many there are to standard error. Gives the exit code: 0
-/// for no fault, 1 for faults. Throws UsageError for a command line that it can't follow.
-int RunCheck(const std::vector<std::string>& arguments, const CheckedFolders& built);
+/// Adds the options of a check. Its work prints the findings to standard output, and how many there are to
+/// standard error.
+Work AddCheck(CLI::App& app, const CheckedFolders& built);

@@ -1,29 +1,22 @@
-// The commands of sarnoth-lab. Each takes the words after its name and gives the exit code: 0 for well, 1
-// when something was found. UsageError, RunTimeError and other exceptions are told by main.
+// The commands of sarnoth-lab. Each adds its options to the command's line and gives its work.
 #pragma once
 
-#include <string>
-#include <vector>
-
-using Words = std::vector<std::string>;
+#include "tools/command_line.h"
 
 /// Plays in a window and records it.
-int PlayInWindow(const Words& words, char** arguments);
+Work AddPlay(CLI::App& command);
 
 /// Replays a recording without a window or in one.
-int ReplayFile(const Words& words, char** arguments);
+Work AddReplay(CLI::App& command);
 
-/// Writes the lines of a recording anew.
-int RecordFile(const Words& words);
+/// Rewrites the lines of a recording.
+Work AddRecord(CLI::App& command);
 
-/// Random missions in several processes.
-int SoakSeeds(const Words& words);
-
-/// The data's faults, as sarnoth-check tells them.
-int CheckData(const Words& words);
+/// Random missions.
+Work AddSoak(CLI::App& command);
 
 /// The odds on the firing range.
-int MeasureOdds(const Words& words);
+Work AddOdds(CLI::App& command);
 
 /// Paints a window into a file.
-int PaintShot(const Words& words, char** arguments);
+Work AddShot(CLI::App& command);

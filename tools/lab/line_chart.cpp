@@ -4,6 +4,8 @@
 #include <iomanip>
 #include <sstream>
 
+#include "tools/xml_text.h"
+
 namespace {
 
 // Of the picture, in pixels.
@@ -50,13 +52,6 @@ std::string Short(double value) {
     return written;
 }
 
-std::string Escaped(const std::string& text) {
-    std::string escaped;
-    for (const char c : text)
-        escaped += c == '&' ? "&amp;" : c == '<' ? "&lt;" : std::string(1, c);
-    return escaped;
-}
-
 double PlaceAcross(const LineChart& chart, double x) {
     return Left + x / chart.across.last * (Right - Left);
 }
@@ -65,88 +60,102 @@ double PlaceUp(const LineChart& chart, double y) {
     return Bottom - y / chart.up.last * (Bottom - Top);
 }
 
-std::string Label(double x, double y, const char* anchor, const std::string& text) {
-    return "<text x=\"" + Short(x) + "\" y=\"" + Short(y) + "\" text-anchor=\"" + anchor + "\">" +
-           Escaped(text) + "</text>\n";
+void AppendLabel(pugi::xml_node svg, double x, double y, const char* anchor, const std::string& text) {
+    AppendElement(svg, "text", {{"x", Short(x)}, {"y", Short(y)}, {"text-anchor", anchor}}, text);
 }
 
-std::string GridLine(double x1, double y1, double x2, double y2) {
-    return "<path class=\"grid\" d=\"M" + Short(x1) + " " + Short(y1) + "L" + Short(x2) + " " + Short(y2) +
-           "\"/>\n";
+void AppendGridLine(pugi::xml_node svg, double x1, double y1, double x2, double y2) {
+    AppendElement(
+        svg, "path",
+        {{"class", "grid"}, {"d", "M" + Short(x1) + " " + Short(y1) + "L" + Short(x2) + " " + Short(y2)}});
 }
 
-std::string Axes(const LineChart& chart) {
+void AppendAxes(pugi::xml_node svg, const LineChart& chart) {
     constexpr double LabelGap = 8;
     constexpr double LabelDrop = 19;
     constexpr double HalfLetter = 4.5;
     constexpr double TitleDrop = 44;
-    std::string axes;
     for (double x = 0; x <= chart.across.last; x += chart.across.step) {
         const double at = PlaceAcross(chart, x);
-        axes += GridLine(at, Top, at, Bottom) + Label(at, Bottom + LabelDrop, "middle", Short(x));
+        AppendGridLine(svg, at, Top, at, Bottom);
+        AppendLabel(svg, at, Bottom + LabelDrop, "middle", Short(x));
     }
     for (double y = 0; y <= chart.up.last; y += chart.up.step) {
         const double at = PlaceUp(chart, y);
-        axes += GridLine(Left, at, Right, at) + Label(Left - LabelGap, at + HalfLetter, "end", Short(y));
+        AppendGridLine(svg, Left, at, Right, at);
+        AppendLabel(svg, Left - LabelGap, at + HalfLetter, "end", Short(y));
     }
-    axes += "<path class=\"axis\" d=\"M" + Short(Left) + " " + Short(Top) + "V" + Short(Bottom) + "H" +
-            Short(Right) + "\"/>\n";
-    axes += Label((Left + Right) / 2, Bottom + TitleDrop, "middle", chart.across.title);
-    axes += "<text transform=\"translate(20 " + Short((Top + Bottom) / 2) +
-            ") rotate(-90)\" text-anchor=\"middle\">" + Escaped(chart.up.title) + "</text>\n";
-    return axes;
+    AppendElement(svg, "path",
+                  {{"class", "axis"},
+                   {"d", "M" + Short(Left) + " " + Short(Top) + "V" + Short(Bottom) + "H" + Short(Right)}});
+    AppendLabel(svg, (Left + Right) / 2, Bottom + TitleDrop, "middle", chart.across.title);
+    AppendElement(svg, "text",
+                  {{"transform", "translate(20 " + Short((Top + Bottom) / 2) + ") rotate(-90)"},
+                   {"text-anchor", "middle"}},
+                  chart.up.title);
 }
 
-std::string Mark(const LineStyle& style, double x, double y) {
-    return "<path transform=\"translate(" + Short(x) + " " + Short(y) + ")\" d=\"" + style.mark +
-           "\" fill=\"" + style.colour + "\"/>\n";
+void AppendMark(pugi::xml_node svg, const LineStyle& style, double x, double y) {
+    AppendElement(svg, "path",
+                  {{"transform", "translate(" + Short(x) + " " + Short(y) + ")"},
+                   {"d", style.mark},
+                   {"fill", style.colour}});
 }
 
-std::string Stroke(const LineStyle& style, const std::string& path) {
-    return "<path class=\"line\" d=\"" + path + "\" stroke=\"" + style.colour + "\" stroke-dasharray=\"" +
-           style.dashes + "\"/>\n";
+void AppendStroke(pugi::xml_node svg, const LineStyle& style, const std::string& path) {
+    AppendElement(
+        svg, "path",
+        {{"class", "line"}, {"d", path}, {"stroke", style.colour}, {"stroke-dasharray", style.dashes}});
 }
 
-std::string Drawn(const LineChart& chart, const ChartLine& line, const LineStyle& style) {
+void AppendLine(pugi::xml_node svg, const LineChart& chart, const ChartLine& line, const LineStyle& style) {
     std::string path;
-    std::string marks;
-    for (const ChartPoint& point : line.points) {
-        const double x = PlaceAcross(chart, point.x);
-        const double y = PlaceUp(chart, point.y);
-        path += (path.empty() ? "M" : "L") + Short(x) + " " + Short(y);
-        marks += Mark(style, x, y);
-    }
-    return Stroke(style, path) + marks;
+    for (const ChartPoint& point : line.points)
+        path += (path.empty() ? "M" : "L") + Short(PlaceAcross(chart, point.x)) + " " +
+                Short(PlaceUp(chart, point.y));
+    AppendStroke(svg, style, path);
+    for (const ChartPoint& point : line.points)
+        AppendMark(svg, style, PlaceAcross(chart, point.x), PlaceUp(chart, point.y));
 }
 
-std::string LegendEntry(const ChartLine& line, const LineStyle& style, double y) {
+void AppendLegendEntry(pugi::xml_node svg, const ChartLine& line, const LineStyle& style, double y) {
     constexpr double Sample = 34;
     constexpr double TextGap = 9;
-    return Stroke(style, "M" + Short(LegendLeft) + " " + Short(y) + "h" + Short(Sample)) +
-           Mark(style, LegendLeft + Sample / 2, y) +
-           Label(LegendLeft + Sample + TextGap, y + MarkSize, "start", line.name);
+    AppendStroke(svg, style, "M" + Short(LegendLeft) + " " + Short(y) + "h" + Short(Sample));
+    AppendMark(svg, style, LegendLeft + Sample / 2, y);
+    AppendLabel(svg, LegendLeft + Sample + TextGap, y + MarkSize, "start", line.name);
+}
+
+pugi::xml_node AppendPage(pugi::xml_document& document, const std::string& title) {
+    const pugi::xml_node svg = AppendElement(document.root(), "svg",
+                                             {{"xmlns", "http://www.w3.org/2000/svg"},
+                                              {"viewBox", "0 0 " + Short(Width) + " " + Short(Height)},
+                                              {"width", Short(Width)},
+                                              {"height", Short(Height)},
+                                              {"font-family", "DejaVu Sans, Verdana, sans-serif"},
+                                              {"font-size", "13"},
+                                              {"fill", "#222222"}});
+    AppendElement(svg, "style", {},
+                  ".grid{stroke:#d9d6cc}.axis{stroke:#555555;fill:none}.line{fill:none;stroke-width:2}");
+    AppendElement(svg, "rect", {{"width", "100%"}, {"height", "100%"}, {"rx", "6"}, {"fill", "#fbfaf5"}});
+    AppendElement(svg, "title", {}, title);
+    AppendElement(svg, "text",
+                  {{"x", Short(Left)}, {"y", "30"}, {"font-size", "16"}, {"font-weight", "bold"}}, title);
+    return svg;
 }
 
 }  // namespace
 
 std::string ChartSvg(const LineChart& chart) {
-    std::string svg =
-        "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " + Short(Width) + " " + Short(Height) +
-        "\" width=\"" + Short(Width) + "\" height=\"" + Short(Height) +
-        "\" font-family=\"DejaVu Sans, Verdana, sans-serif\" font-size=\"13\" fill=\"#222222\">\n"
-        "<style>.grid{stroke:#d9d6cc}.axis{stroke:#555555;fill:none}"
-        ".line{fill:none;stroke-width:2}</style>\n"
-        "<rect width=\"100%\" height=\"100%\" rx=\"6\" fill=\"#fbfaf5\"/>\n<title>" +
-        Escaped(chart.title) +
-        "</title>\n"
-        "<text x=\"" +
-        Short(Left) + "\" y=\"30\" font-size=\"16\" font-weight=\"bold\">" + Escaped(chart.title) +
-        "</text>\n" + Axes(chart);
+    pugi::xml_document document;
+    const pugi::xml_node svg = AppendPage(document, chart.title);
+    AppendAxes(svg, chart);
     double legendY = Top + MarkSize;
     for (std::size_t i = 0; i < chart.lines.size(); ++i) {
         const LineStyle& style = Styles.at(i);
-        svg += Drawn(chart, chart.lines[i], style) + LegendEntry(chart.lines[i], style, legendY);
+        AppendLine(svg, chart, chart.lines[i], style);
+        AppendLegendEntry(svg, chart.lines[i], style, legendY);
         legendY += LegendStep;
     }
-    return svg + "</svg>\n";
+    return XmlText(document, "");
 }

@@ -1,4 +1,4 @@
-// Line charts as SVG, written by hand: readable on light and dark pages, and by the colour-blind, since lines
+// Line charts as SVG: readable on light and dark pages, and by the colour-blind, since lines
 // differ in colour, dashes and marks.
 #pragma once
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <sstream>
+#include <nlohmann/json.hpp>
 #include <string_view>
 
 #include "tools/json_text.h"
@@ -15,22 +15,23 @@ bool IsHarmless(const std::string& mode) {
     return std::find(HarmlessModes.begin(), HarmlessModes.end(), mode) != HarmlessModes.end();
 }
 
-std::string DrillJson(const Drill& drill) {
-    std::ostringstream json;
-    json << R"("weapon": )" << JsonQuoted(drill.weapon) << R"(, "mode": )" << drill.mode << R"(, "east": )"
-         << drill.east << R"(, "south": )" << drill.south << R"(, "shooterStance": )" << drill.shooterStance
-         << R"(, "targetStance": )" << drill.targetStance << R"(, "targetFacing": )" << drill.targetFacing
-         << R"(, "screen": )" << JsonQuoted(drill.screen.name);
-    return json.str();
-}
-
-std::string ScoreJson(const Score& score) {
-    std::ostringstream json;
-    json << R"("orders": )" << score.orders << R"(, "hitting": )" << score.hitting << R"(, "hits": )"
-         << score.hits << R"(, "damage": )" << score.damage << R"(, "disabled": )" << score.disabled
-         << R"(, "killed": )" << score.killed << R"(, "time": )" << score.time << R"(, "energy": )"
-         << score.energy;
-    return json.str();
+nlohmann::ordered_json FiredJson(const Drill& drill, const Score& score) {
+    return {{"weapon", drill.weapon},
+            {"mode", drill.mode},
+            {"east", drill.east},
+            {"south", drill.south},
+            {"shooterStance", drill.shooterStance},
+            {"targetStance", drill.targetStance},
+            {"targetFacing", drill.targetFacing},
+            {"screen", drill.screen.name},
+            {"orders", score.orders},
+            {"hitting", score.hitting},
+            {"hits", score.hits},
+            {"damage", score.damage},
+            {"disabled", score.disabled},
+            {"killed", score.killed},
+            {"time", score.time},
+            {"energy", score.energy}};
 }
 
 }  // namespace
@@ -67,16 +68,11 @@ std::vector<ToldOrder> OddsStudy::OrdersOf(const std::string& weapon, const std:
 }
 
 std::string OddsStudy::Json() const {
-    std::ostringstream json;
-    json << R"({"orders": )" << orders << R"(, "seed": )" << seed << R"(, "shooter": )"
-         << JsonQuoted(range.Shooter().name) << R"(, "drills": [)";
-    const char* separator = "\n  ";
-    for (const Fired& one : fired) {
-        json << separator << "{" << DrillJson(one.drill) << ", " << ScoreJson(one.score) << "}";
-        separator = ",\n  ";
-    }
-    json << "\n]}\n";
-    return json.str();
+    auto drills = nlohmann::ordered_json::array();
+    for (const Fired& one : fired)
+        drills.push_back(FiredJson(one.drill, one.score));
+    return JsonText(
+        {{"orders", orders}, {"seed", seed}, {"shooter", range.Shooter().name}, {"drills", drills}});
 }
 
 double PercentOf(int count, const Score& score) {

@@ -3,12 +3,12 @@
 #include <fstream>
 #include <functional>
 #include <iostream>
+#include <memory>
 
 #include "desktop/game_window.h"
 #include "personal/personal_file.h"
 #include "platform/files.h"
 #include "platform/host.h"
-#include "tools/arguments.h"
 #include "tools/game_copy.h"
 #include "tools/lab/commands.h"
 #include "tools/lab/recorder.h"
@@ -16,6 +16,8 @@
 #include "view/events.h"
 #include "view/mini_map.h"
 #include "view/start.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -34,8 +36,14 @@ std::function<int(int exitCode)> Removing(const GameCopy& copy) {
     };
 }
 
-int ReplayInWindow(const Recording& recording, const std::string& pictures, const GameCopy& copy,
-                   char** arguments) {
+// The toolkit takes the name that main had.
+int RunWindow(const WindowRun& run) {
+    char name[] = "sarnoth-lab";
+    char* arguments[] = {name, nullptr};
+    return RunInWindow(arguments, run);
+}
+
+int ReplayInWindow(const Recording& recording, const fs::path& pictures, const GameCopy& copy) {
     Replay replay(recording, pictures);
     bool byTheGame = true;
     const auto playBack = [&](int pump) {
@@ -50,62 +58,107 @@ int ReplayInWindow(const Recording& recording, const std::string& pictures, cons
         copy.RemoveAll();
         return replay.Result().difference.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
     };
-    return RunInWindow(arguments, {.begin = [&replay] { replay.Start(); },
-                                   .dispatch = [](const InputEvent&) {},
-                                   .playBack = playBack,
-                                   .atEnd = atEnd});
+    return RunWindow({.begin = [&replay] { replay.Start(); },
+                      .dispatch = [](const InputEvent&) {},
+                      .playBack = playBack,
+                      .atEnd = atEnd});
 }
 
-}  // namespace
+struct PlayOptions {
+    std::uint32_t seed = 1;
+    fs::path record;  // empty for none
+    fs::path game = GAME_FOLDER;
+};
 
-int PlayInWindow(const Words& words, char** arguments) {
-    const Arguments given(words, {"--seed", "--record", "--game"}, {}, 0);
-    const GameCopy copy(given.Text("--game", GAME_FOLDER));
-    const std::uint32_t seed = given.Number("--seed", 1);
+int Play(const PlayOptions& options) {
+    const GameCopy copy(options.game);
     std::ofstream file;
     Recorder::Sink sink;
-    if (given.Has("--record")) {
-        file.open(given.Text("--record", ""));
-        if (!file) throw UsageError("can't write " + given.Text("--record", ""));
-        file << RecordingHead(seed) << std::endl;
+    if (!options.record.empty()) {
+        file.open(options.record);
+        if (!file) throw CLI::ValidationError("--record", "can't write " + options.record.string());
+        file << RecordingHead(options.seed) << std::endl;
         // The process may end at any line.
         sink = [&file](const std::string& line) { file << line << std::endl; };
     }
     Recorder recorder(sink);
     SetProgramFolder(copy.Path());
-    return RunInWindow(arguments, {.begin = [&] { recorder.Start(seed); },
-                                   .dispatch = [&](const InputEvent& event) { recorder.Dispatch(event); },
-                                   .atEnd = Removing(copy)});
+    return RunWindow({.begin = [&] { recorder.Start(options.seed); },
+                      .dispatch = [&](const InputEvent& event) { recorder.Dispatch(event); },
+                      .atEnd = Removing(copy)});
 }
 
-int ReplayFile(const Words& words, char** arguments) {
-    const Arguments given(words, {"--game", "--pictures"}, {"--window"}, 1);
-    const std::string pictures = given.Text("--pictures", "");
-    const Recording recording = ReadRecording(given.Plain()[0]);
-    const GameCopy copy(given.Text("--game", GAME_FOLDER));
+struct ReplayOptions {
+    fs::path file;
+    bool window = false;
+    fs::path pictures;  // empty for none
+    fs::path game = GAME_FOLDER;
+};
+
+int ReplayFile(const ReplayOptions& options) {
+    const Recording recording = ReadRecording(options.file);
+    const GameCopy copy(options.game);
     SetProgramFolder(copy.Path());
-    if (given.Has("--window")) return ReplayInWindow(recording, pictures, copy, arguments);
-    const ReplayResult result = ReplayHeadless(recording, pictures);
+    if (options.window) return ReplayInWindow(recording, options.pictures, copy);
+    const ReplayResult result = ReplayHeadless(recording, options.pictures);
     Tell(result);
     return result.difference.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-int PaintShot(const Words& words, char** arguments) {
-    const Arguments given(words, {"--seed", "--window", "--game"}, {}, 1);
-    const GameCopy copy(given.Text("--game", GAME_FOLDER));
-    const std::string window = given.Text("--window", "field");
-    if (window != "field" && window != "info" && window != "map")
-        throw UsageError("no window \"" + window + "\"");
+struct ShotOptions {
+    fs::path file;
+    std::uint32_t seed = 1;
+    std::string window = "field";
+    fs::path game = GAME_FOLDER;
+};
+
+int PaintShot(const ShotOptions& options) {
+    const GameCopy copy(options.game);
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    const std::uint32_t seed = given.Number("--seed", 1);
     const auto begin = [&] {
-        Main(seed);
-        if (window == "info") LoadInfo();
-        if (window == "map") ToggleBigMap();
-        const bool saved = SaveWindow(window == "info" ? "frmInfo" : "frmField", given.Plain()[0]);
-        if (!saved) std::cerr << "sarnoth-lab: can't write " << given.Plain()[0] << "\n";
+        Main(options.seed);
+        if (options.window == "info") LoadInfo();
+        if (options.window == "map") ToggleBigMap();
+        const bool saved = SaveWindow(options.window == "info" ? "frmInfo" : "frmField", options.file);
+        if (!saved) std::cerr << "sarnoth-lab: can't write " << options.file.string() << "\n";
         TheHost().EndProcess(saved ? EXIT_SUCCESS : EXIT_FAILURE);
     };
     SetProgramFolder(copy.Path());
-    return RunInWindow(arguments, {.begin = begin, .dispatch = Dispatch, .atEnd = Removing(copy)});
+    return RunWindow({.begin = begin, .dispatch = Dispatch, .atEnd = Removing(copy)});
+}
+
+}  // namespace
+
+Work AddPlay(CLI::App& command) {
+    const auto options = std::make_shared<PlayOptions>();
+    AddSeed(command, options->seed);
+    command.add_option("--record", options->record, "writes every event with what it changed into it")
+        ->type_name("FILE");
+    AddGame(command, options->game);
+    return [options] { return Play(*options); };
+}
+
+Work AddReplay(CLI::App& command) {
+    const auto options = std::make_shared<ReplayOptions>();
+    AddFile(command, "FILE", options->file, "the recording");
+    command.add_flag("--window", options->window, "in a window, to look at");
+    command
+        .add_option("--pictures", options->pictures,
+                    "where the field looks different, its two pictures are painted there as\n"
+                    "recorded.png and replayed.png")
+        ->type_name("FOLDER");
+    AddGame(command, options->game);
+    return [options] { return ReplayFile(*options); };
+}
+
+Work AddShot(CLI::App& command) {
+    const auto options = std::make_shared<ShotOptions>();
+    AddFile(command, "FILE.png", options->file, "the picture");
+    AddSeed(command, options->seed);
+    command.add_option("--window", options->window, "field, info or map")
+        ->type_name("NAME")
+        ->check(CLI::IsMember({"field", "info", "map"}).description(""))
+        ->capture_default_str();
+    AddGame(command, options->game);
+    return [options] { return PaintShot(*options); };
 }

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
+#include <memory>
 
 #include "platform/files.h"
 #include "platform/headless_host.h"
@@ -10,13 +11,14 @@
 #include "tools/missions/options.h"
 #include "tools/missions/summary.h"
 #include "tools/missions/watchdog.h"
+#include "tools/player/squad_player.h"
 #include "view/events.h"
 #include "view/field_form.h"
 #include "view/start.h"
 
 namespace {
 
-enum ExitCode { AllEnded, SomeFailed, WrongUsage };
+enum ExitCode { AllEnded, SomeFailed };
 
 using Clock = std::chrono::steady_clock;
 
@@ -25,8 +27,8 @@ void Report(std::uint32_t seed, const std::string& error) {
 }
 
 PlayedMission Play(std::uint32_t seed, const MissionOptions& options, const GameCopy& copy) {
-    const Watchdog watchdog(options.limit, [seed, &options, &copy] {
-        Report(seed, "the mission hasn't ended after " + std::to_string(options.limit.count()) + " s");
+    const Watchdog watchdog(std::chrono::seconds(options.limit), [seed, &options, &copy] {
+        Report(seed, "the mission hasn't ended after " + std::to_string(options.limit) + " s");
         copy.RemoveAll();
         std::_Exit(SomeFailed);
     });
@@ -35,7 +37,7 @@ PlayedMission Play(std::uint32_t seed, const MissionOptions& options, const Game
     mission.seed = seed;
     try {
         Main(seed);
-        mission.result = PlayMission(options.turns, options.habits);
+        mission.result = PlayMission(options.turns, HabitsNamed(options.player));
         const std::string& verdict = mission.result.verdict;
         if (std::find(Verdicts.begin(), Verdicts.end(), verdict) == Verdicts.end())
             mission.error = "ended as \"" + verdict + "\"";
@@ -72,25 +74,26 @@ ExitCode PlayAll(const MissionOptions& options, const GameCopy& copy) {
     return ended ? AllEnded : SomeFailed;
 }
 
-ExitCode PlayMissions(const MissionOptions& options) {
-    const GameCopy copy(options.game.empty() ? GAME_FOLDER : options.game);
+int PlayMissions(const MissionOptions& options) {
+    const GameCopy copy(options.game);
     SetProgramFolder(copy.Path());
     return options.log ? PrintLog(options, copy) : PlayAll(options, copy);
 }
 
+Work AddMissions(CLI::App& app) {
+    const auto options = std::make_shared<MissionOptions>();
+    AddMissionOptions(app, *options);
+    return [options] { return PlayMissions(*options); };
+}
+
 }  // namespace
 
-int main(int count, char** arguments) try {
-    const MissionOptions options = ReadMissionOptions({arguments + 1, arguments + count});
-    if (options.help) {
-        std::cout << MissionUsage;
-        return AllEnded;
-    }
-    return PlayMissions(options);
-} catch (const UsageError& error) {
-    std::cerr << "sarnoth-missions: " << error.what() << "\nsarnoth-missions --help tells more.\n";
-    return WrongUsage;
-} catch (const std::exception& error) {
-    std::cerr << "sarnoth-missions: " << error.what() << "\n";
-    return SomeFailed;
+int main(int count, char** arguments) {
+    CommandLine line(
+        "sarnoth-missions",
+        "Plays whole missions without a window, one for each seed, and shows how they ended.\n"
+        "The same command prints the same bytes. The game folder is only read.",
+        "Exit code 0: every mission ended; 1: one didn't, standard error names its seed; 2: a wrong command "
+        "line.");
+    return line.Follow(count, arguments, AddMissions);
 }

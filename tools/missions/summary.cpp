@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <iomanip>
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string_view>
 
 #include "tools/json_text.h"
 
 namespace {
+
+using Json = nlohmann::ordered_json;
 
 // What is told about some of the missions; without missions the other figures mean nothing.
 struct Figures {
@@ -89,30 +92,29 @@ std::string Row(const std::string& name, const Figures& figures) {
     return row.str();
 }
 
-std::string FiguresJson(const Figures& figures) {
+Json FiguresJson(const Figures& figures) {
     if (figures.missions == 0)
-        return R"({"missions": 0, "share": 0, "turns": null, "mean": null, "costly": null})";
-    std::ostringstream json;
-    json << std::fixed << std::setprecision(4) << R"({"missions": )" << figures.missions << R"(, "share": )"
-         << figures.share << R"(, "turns": {"minimum": )" << figures.least << R"(, "median": )"
-         << figures.median << R"(, "percentile90": )" << figures.ninetieth << R"(, "maximum": )"
-         << figures.most << R"(}, "mean": {"squadWounded": )" << figures.squadWounded << R"(, "squadDead": )"
-         << figures.squadDead << R"(, "enemiesDead": )" << figures.enemiesDead << R"(}, "costly": )"
-         << figures.costly << "}";
-    return json.str();
+        return {{"missions", 0}, {"share", 0}, {"turns", nullptr}, {"mean", nullptr}, {"costly", nullptr}};
+    return {{"missions", figures.missions},
+            {"share", figures.share},
+            {"turns",
+             {{"minimum", figures.least},
+              {"median", figures.median},
+              {"percentile90", figures.ninetieth},
+              {"maximum", figures.most}}},
+            {"mean",
+             {{"squadWounded", figures.squadWounded},
+              {"squadDead", figures.squadDead},
+              {"enemiesDead", figures.enemiesDead}}},
+            {"costly", figures.costly}};
 }
 
-std::string PlayedJson(const PlayedMission& mission) {
-    std::ostringstream json;
-    json << R"({"seed": )" << mission.seed;
+Json PlayedJson(const PlayedMission& mission) {
+    if (!mission.error.empty()) return {{"seed", mission.seed}, {"error", mission.error}};
     const MissionResult& result = mission.result;
-    if (mission.error.empty())
-        json << R"(, "verdict": )" << JsonQuoted(result.verdict) << R"(, "turns": )" << result.turns
-             << R"(, "squadWounded": )" << result.squadWounded << R"(, "squadDead": )" << result.squadDead
-             << R"(, "enemiesDead": )" << result.enemiesDead << "}";
-    else
-        json << R"(, "error": )" << JsonQuoted(mission.error) << "}";
-    return json.str();
+    return {{"seed", mission.seed},          {"verdict", result.verdict},
+            {"turns", result.turns},         {"squadWounded", result.squadWounded},
+            {"squadDead", result.squadDead}, {"enemiesDead", result.enemiesDead}};
 }
 
 }  // namespace
@@ -127,14 +129,12 @@ std::string MissionTable(const std::vector<PlayedMission>& missions) {
 }
 
 std::string MissionJson(const std::vector<PlayedMission>& missions) {
-    std::string json = "{\n";
+    Json json;
     for (const char* verdict : Verdicts)
-        json += "  " + JsonQuoted(verdict) + ": " + FiguresJson(FiguresOf(missions, verdict)) + ",\n";
-    json += "  \"All\": " + FiguresJson(FiguresOf(missions, "")) + ",\n  \"missions\": [";
-    const char* separator = "\n    ";
-    for (const PlayedMission& mission : missions) {
-        json += separator + PlayedJson(mission);
-        separator = ",\n    ";
-    }
-    return json + "\n  ]\n}\n";
+        json[verdict] = FiguresJson(FiguresOf(missions, verdict));
+    json["All"] = FiguresJson(FiguresOf(missions, ""));
+    json["missions"] = Json::array();
+    for (const PlayedMission& mission : missions)
+        json["missions"].push_back(PlayedJson(mission));
+    return JsonText(json);
 }

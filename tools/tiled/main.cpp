@@ -1,6 +1,8 @@
 // sarnoth-tiled: a map of the game as a map of the editor Tiled, and back.
 #include <iostream>
+#include <memory>
 
+#include "tools/command_line.h"
 #include "tools/tiled/game_map.h"
 #include "tools/tiled/tmx_format.h"
 #include "tools/tiled/tmx_reader.h"
@@ -12,19 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-enum ExitCode { Done, Failed, WrongUsage };
-
-constexpr const char* Usage = R"(usage: sarnoth-tiled export MAP FILE.tmx
-       sarnoth-tiled import FILE.tmx MAP
-
-Turns a map of the game into a map of the editor Tiled and back. MAP is the files' name without their endings,
-as game/map/49 for game/map/491.map, 492.map, 493.map and 49g.map.
-
-export also writes the tile sheet, picMap.bmp, beside FILE.tmx. import refuses what the game can't hold;
-whether a mission can be played on the map is what sarnoth-check tells.
-
-Exit code 0: done; 1: not done, standard error says why; 2: a wrong command line.
-)";
+enum ExitCode { Done, Failed };
 
 // The report of faults, and the exit code.
 ExitCode Told(const Findings& findings) {
@@ -52,19 +42,43 @@ ExitCode Import(const fs::path& source, const fs::path& stem) {
     return Told(findings);
 }
 
+struct Files {
+    fs::path map;
+    fs::path tmx;
+};
+
+void AddMap(CLI::App& command, Files& files) {
+    AddFile(command, "MAP", files.map,
+            "the files' name without their endings, as game/map/49 for\n"
+            "game/map/491.map, 492.map, 493.map and 49g.map");
+}
+
+void AddTmx(CLI::App& command, Files& files) {
+    AddFile(command, "FILE.tmx", files.tmx, "the map of Tiled");
+}
+
+Work AddCommands(CLI::App& app) {
+    const auto files = std::make_shared<Files>();
+    app.require_subcommand(1);
+    CLI::App* const out =
+        app.add_subcommand("export", "MAP to FILE.tmx, with the tile sheet, picMap.bmp, beside it.");
+    AddMap(*out, *files);
+    AddTmx(*out, *files);
+    CLI::App* const in =
+        app.add_subcommand("import",
+                           "FILE.tmx to MAP; refuses what the game can't hold.\n"
+                           "Whether a mission can be played on the map is what sarnoth-check shows.");
+    AddTmx(*in, *files);
+    AddMap(*in, *files);
+    return [out, files] {
+        return out->parsed() ? Export(files->map, files->tmx) : Import(files->tmx, files->map);
+    };
+}
+
 }  // namespace
 
-int main(int count, char** arguments) try {
-    const std::vector<std::string> words(arguments + 1, arguments + count);
-    if (words == std::vector<std::string>{"--help"}) {
-        std::cout << Usage;
-        return Done;
-    }
-    if (words.size() == 3 && words[0] == "export") return Export(words[1], words[2]);
-    if (words.size() == 3 && words[0] == "import") return Import(words[1], words[2]);
-    std::cerr << "sarnoth-tiled: wrong arguments\nsarnoth-tiled --help tells more.\n";
-    return WrongUsage;
-} catch (const std::exception& error) {
-    std::cerr << "sarnoth-tiled: " << error.what() << "\n";
-    return Failed;
+int main(int count, char** arguments) {
+    CommandLine line("sarnoth-tiled", "Turns a map of the game into a map of the editor Tiled and back.",
+                     "Exit code 0: done; 1: not done, standard error says why; 2: a wrong command line.");
+    return line.Follow(count, arguments, AddCommands);
 }
