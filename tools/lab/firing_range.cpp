@@ -10,13 +10,11 @@
 #include "data/weapons_file.h"
 #include "field/geometry.h"
 #include "field/walking.h"
+#include "mission/setup.h"
 #include "personal/catalogue.h"
 #include "state/chance.h"
 #include "state/operation.h"
 #include "tools/field_tile.h"
-#include "view/events.h"
-#include "view/field_form.h"
-#include "view/start.h"
 
 namespace {
 
@@ -72,18 +70,11 @@ InvItem Loaded(const std::string& weapon) {
     return item;
 }
 
-// A hit may also cost nothing, or give back: what only strokes him counts as a miss.
-bool TellsOfWound(const std::string& line) {
-    static constexpr std::string_view Before = " and bring ";
-    const std::size_t at = line.rfind(Before);
-    return line.ends_with(" points of damage") && at != std::string::npos &&
-           std::stoi(line.substr(at + Before.size())) > 0;
-}
-
 }  // namespace
 
-FiringRange::FiringRange() : host(Dispatch) {
-    Main(1);
+FiringRange::FiringRange() {
+    InstallAudience(&hits);
+    BeginGame(1);
     ClearField();
     ClearGround();
     UnitTable[ShooterPlace] = MiddleMarksman();
@@ -123,10 +114,8 @@ Score FiringRange::Fire(const Drill& drill, int orders, std::uint32_t seed) {
         HoldHandOver([x, y] { ActOnTarget(x, y); });
         const Unit& firing = UnitTable[ShooterPlace];
         const Unit& aimedAt = UnitTable[TargetPlace];
-        const auto& lines = frmField.cmbLog.List;
-        const auto hits = static_cast<int>(std::count_if(lines.begin(), lines.end(), TellsOfWound));
-        score.hitting += hits > 0 ? 1 : 0;
-        score.hits += hits;
+        score.hitting += hits.count > 0 ? 1 : 0;
+        score.hits += hits.count;
         score.damage += target.health - aimedAt.health;
         score.killed += aimedAt.status == Dead ? 1 : 0;
         score.disabled += aimedAt.status == Dead || aimedAt.status == Immobile ? 1 : 0;
@@ -173,9 +162,8 @@ void FiringRange::PutBack() {
     groundItems[target.cellY][target.cellX] = {};
     teamLast[ChargeList] = teamLast[PileList] = -1;
     curUnit = ShooterPlace;
-    frmField.cmbLog.List.clear();
     openLine.clear();
-    host.sounds.clear();
+    hits.count = 0;
     if (fireModes.Text() == modeText) return;
     fireModes.weapon.clear();  // the last thing was thrown away, or folded
     RefreshHand();

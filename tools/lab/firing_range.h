@@ -8,7 +8,8 @@
 #include <vector>
 
 #include "data/terrain.h"
-#include "platform/headless_host.h"
+#include "platform/quiet_host.h"
+#include "state/quiet_audience.h"
 #include "state/state.h"
 
 /// Whole columns of one tile across the line of fire, counted in cells from the target's own, which is 0.
@@ -52,8 +53,11 @@ struct Score {
 
 class FiringRange {
   public:
-    /// Starts a game with the data of the program's folder, and installs a host for as long as it lives.
+    /// Starts a game with the data of the program's folder, and installs a host and an audience for as long as it lives.
     FiringRange();
+    ~FiringRange() { InstallAudience(nullptr); }
+    FiringRange(const FiringRange&) = delete;
+    FiringRange& operator=(const FiringRange&) = delete;
 
     /// The soldier of the squad with the middle marksmanship, who fires.
     const Unit& Shooter() const;
@@ -70,7 +74,14 @@ class FiringRange {
     void SetUp(const Drill& drill);
     void PutBack();
 
-    HeadlessHost host;
+    // A hit may also cost nothing, or give back: what only strokes him counts as a miss.
+    struct HitCounter : QuietAudience {
+        void UnitHurt(int damage) override { count += damage > 0 ? 1 : 0; }
+        int count = 0;
+    };
+
+    QuietHost host;
+    HitCounter hits;
     int mode = 0;
     std::string modeText;
     Unit shooter;

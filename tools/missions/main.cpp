@@ -5,16 +5,15 @@
 #include <iostream>
 #include <memory>
 
+#include "mission/setup.h"
 #include "platform/files.h"
-#include "platform/headless_host.h"
+#include "platform/quiet_host.h"
+#include "state/quiet_audience.h"
 #include "tools/game_copy.h"
 #include "tools/missions/options.h"
 #include "tools/missions/summary.h"
 #include "tools/missions/watchdog.h"
 #include "tools/player/squad_player.h"
-#include "view/events.h"
-#include "view/field_form.h"
-#include "view/start.h"
 
 namespace {
 
@@ -32,11 +31,11 @@ PlayedMission Play(std::uint32_t seed, const MissionOptions& options, const Game
         copy.RemoveAll();
         std::_Exit(SomeFailed);
     });
-    const HeadlessHost host(Dispatch);
+    const QuietHost host;
     PlayedMission mission;
     mission.seed = seed;
     try {
-        Main(seed);
+        BeginGame(seed);
         mission.result = PlayMission(options.turns, HabitsNamed(options.player));
         const std::string& verdict = mission.result.verdict;
         if (std::find(Verdicts.begin(), Verdicts.end(), verdict) == Verdicts.end())
@@ -50,10 +49,16 @@ PlayedMission Play(std::uint32_t seed, const MissionOptions& options, const Game
     return mission;
 }
 
+// Prints the log as it is written.
+class LogPrinter : public QuietAudience {
+  public:
+    void LineLogged(const std::string& line) override { std::cout << line << "\n"; }
+};
+
 ExitCode PrintLog(const MissionOptions& options, const GameCopy& copy) {
+    LogPrinter printer;
+    InstallAudience(&printer);
     const PlayedMission mission = Play(*options.log, options, copy);
-    for (const std::string& line : frmField.cmbLog.List)
-        std::cout << line << "\n";
     return mission.error.empty() ? AllEnded : SomeFailed;
 }
 
@@ -64,6 +69,8 @@ void PrintSpeed(std::size_t missions, std::chrono::duration<double> time) {
 
 ExitCode PlayAll(const MissionOptions& options, const GameCopy& copy) {
     const Clock::time_point start = Clock::now();
+    QuietAudience nobody;
+    InstallAudience(&nobody);
     std::vector<PlayedMission> missions;
     for (std::uint64_t seed = options.seeds.first; seed <= options.seeds.last; ++seed)
         missions.push_back(Play(static_cast<std::uint32_t>(seed), options, copy));
