@@ -25,31 +25,49 @@ TCODMap PeerMap() {
 
 constexpr int SightRadius = 26;  // cells, as far as our fan reaches
 
-// Looks as the game does them, with the enemies on the way noted and the window told.
-void LookAround(benchmark::State& state) {
+// Calls `look` from 64 places in turn, every facing.
+template <typename LookFrom>
+void LookAround(benchmark::State& state, LookFrom look) {
     const std::vector<Spot> places = Standings(64);
-    Unit& looker = UnitTable[0];
-    curUnit = 0;
     std::size_t i = 0;
     for (auto _ : state) {
-        looker.cellX = places[i % places.size()].x;
-        looker.cellY = places[i % places.size()].y;
-        looker.facing = static_cast<int>(i % FacingCount);
-        UnitLookEnemies();
+        look(places[i % places.size()], static_cast<int>(i % FacingCount));
         ++i;
     }
 }
 
+void CastFanFrom(Spot place, int facing) {
+    int cells = 0;
+    CastFan(facing, place.x, place.y, [&cells](int x, int y) {
+        ++cells;
+        return InField(x, y) && LetsViewThrough(cellGrid[y][x]);
+    });
+    benchmark::DoNotOptimize(cells);
+}
+
 void Look(benchmark::State& state) {
     StartGame();
-    LookAround(state);
+    LookAround(state, CastFanFrom);
 }
 BENCHMARK(Look);
+
+// Most looks find nobody within reach whom they could sight, and cast no fan.
+void LookOfAUnit(benchmark::State& state) {
+    StartGame();
+    curUnit = 0;
+    LookAround(state, [](Spot place, int facing) {
+        UnitTable[0].cellX = place.x;
+        UnitTable[0].cellY = place.y;
+        UnitTable[0].facing = facing;
+        UnitLookEnemies();
+    });
+}
+BENCHMARK(LookOfAUnit);
 
 void LookByFill(benchmark::State& state) {
     StartGame();
     WallOff(static_cast<int>(state.range(0)));
-    LookAround(state);
+    LookAround(state, CastFanFrom);
 }
 BENCHMARK(LookByFill)->DenseRange(0, 40, 10);
 

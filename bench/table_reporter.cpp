@@ -16,9 +16,10 @@ struct Operation {
 };
 
 constexpr Operation Operations[] = {
-    {"Look", "a look: the fan of 27 rays from 64 places, every facing, with the enemies noted",
-     "PeerFieldOfView/algorithm:2",
+    {"Look", "a look: the fan of 27 rays from 64 places, every facing", "PeerFieldOfView/algorithm:2",
      "its fastest field of view at the fan's radius of 26 cells (shadow casting)"},
+    {"LookOfAUnit",
+     "a unit's look in a mission's first turn, which mostly finds nobody within its fan's reach"},
     {"Search", "the path search of a walk, with the event pump after each wave", "PeerAStar",
      "its A* over the same walks"},
     {"SingleShotOver40Cells", "a bullet's flight over 40 cells"},

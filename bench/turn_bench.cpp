@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "bench/stage.h"
+#include "mission/setup.h"
 #include "tools/player/orders.h"
 #include "tools/player/scripted_player.h"
-#include "mission/setup.h"
 #include "view/start.h"
 
 namespace {

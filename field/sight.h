@@ -9,6 +9,9 @@
 /// all units.
 constexpr int SightPerception = 150;
 
+/// Cells from the looker's to the farthest that a ray may come to, along either axis.
+constexpr int SightReach = 26;
+
 /// A cell relative to the looker's.
 struct FanStep {
     std::int8_t dx;

@@ -1,6 +1,8 @@
 #include "field/sightings.h"
 
+#include <algorithm>
 #include <bitset>
+#include <cstdlib>
 
 #include "field/geometry.h"
 #include "field/sight.h"
@@ -10,28 +12,31 @@
 
 namespace {
 
-// Where the living enemies of a unit stand, so that most cells of a fan need no look at them one by one.
-class EnemyCells {
+// The enemies whom a look may bring into the looker's record: living, not in it yet, and where its fan may
+// reach. Most looks find none, and cast no fan.
+class Candidates {
   public:
-    explicit EnemyCells(int team) : first(FirstOf(team)), last(first + teamLast[team]) {
-        for (int e = first; e <= last; ++e) {
-            const Unit& enemy = UnitTable[e];
-            if (enemy.status != Dead && InField(enemy.cellX, enemy.cellY))
-                occupied[Place(enemy.cellX, enemy.cellY)] = true;
+    explicit Candidates(const Unit& looker) : first(FirstOf(looker.enemyTeam)) {
+        for (int place = 0; place <= teamLast[looker.enemyTeam]; ++place) {
+            const Unit& enemy = UnitTable[first + place];
+            if (enemy.status == Dead || looker.seen[place] != 0 || !MayReach(looker, enemy)) continue;
+            occupied[Place(enemy.cellX, enemy.cellY)] = true;
+            ++left;
         }
     }
 
-    // Whether a living enemy stands on this cell of the field.
+    bool Any() const { return left > 0; }
     bool Any(int x, int y) const { return occupied[Place(x, y)]; }
 
-    // Notes the living enemies on a cell in the looker's record.
-    void Note(Unit& looker, int x, int y) const {
-        for (int e = first; e <= last; ++e) {
-            const Unit& enemy = UnitTable[e];
+    // Notes those on a cell in the looker's record.
+    void Note(Unit& looker, int x, int y) {
+        for (int place = 0; place <= teamLast[looker.enemyTeam]; ++place) {
+            const Unit& enemy = UnitTable[first + place];
             if (enemy.status == Dead || enemy.cellX != x || enemy.cellY != y) continue;
-            i16& seen = looker.seen[e - first];
+            i16& seen = looker.seen[place];
             if (seen != 0) continue;
             seen = 1;
+            --left;
             TheAudience().UnitSighted(x, y);
             EnemyCounter("add");
             EnemyCounter("show");
@@ -39,12 +44,22 @@ class EnemyCells {
     }
 
   private:
+    // Within the fan's reach, and not behind the looker; a cell more to all sides for what is rounded.
+    static bool MayReach(const Unit& looker, const Unit& enemy) {
+        const int dx = enemy.cellX - looker.cellX;
+        const int dy = enemy.cellY - looker.cellY;
+        if (!InField(enemy.cellX, enemy.cellY)) return false;
+        if (std::max(std::abs(dx), std::abs(dy)) > SightReach + 1) return false;
+        const FacingWay way = WayOf(looker.facing);
+        return dx * way.dx + dy * way.dy >= -2;
+    }
+
     static std::size_t Place(int x, int y) {
         return static_cast<std::size_t>(y) * FieldWidth + static_cast<std::size_t>(x);
     }
 
     int first;
-    int last;
+    int left = 0;
     std::bitset<std::size_t{FieldWidth} * FieldHeight> occupied;
 };
 
@@ -60,12 +75,13 @@ void ClearCounter(Unit& unit) {
 void UnitLookEnemies() {
     Unit& looker = UnitTable[curUnit];
     looker.perception = SightPerception;
-    const EnemyCells enemies(looker.enemyTeam);
-    CastFan(looker.facing, looker.cellX, looker.cellY, [&](int x, int y) {
-        if (!InField(x, y)) return false;
-        if (enemies.Any(x, y)) enemies.Note(looker, x, y);
-        return LetsViewThrough(cellGrid[y][x]);
-    });
+    if (Candidates enemies(looker); enemies.Any()) {
+        CastFan(looker.facing, looker.cellX, looker.cellY, [&](int x, int y) {
+            if (!InField(x, y)) return false;
+            if (enemies.Any(x, y)) enemies.Note(looker, x, y);
+            return LetsViewThrough(cellGrid[y][x]);
+        });
+    }
     TheAudience().ShowNow();
 }
 

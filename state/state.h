@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/arrays.h"
+#include "platform/lazy.h"
 #include "platform/numbers.h"
 #include "platform/random.h"
 #include "platform/rounding.h"
@@ -131,7 +132,7 @@ struct Unit {
     WeaponInfo hand;
     i16 handCap;
     i16 handRounds;
-    Array<InvItem, 0, 100> items;  // slot 0 is the thing in hand
+    Lazy<Array<InvItem, 0, 100>> items;  // slot 0 is the thing in hand
     Array<i16, 0, 25> awards;      // how many of each, by row of awardTable
     Array<i16, 0, 30> spare;
     i16 aiWary;
@@ -198,7 +199,7 @@ struct FlightValues {
 using Units = Array<Unit, 0, UnitCount - 1>;
 using TeamLasts = Array<i16, 0, 9>;
 using CellGrid = Array<Array<Cell, 0, FieldWidth>, 0, FieldHeight>;
-using Pile = Array<InvItem, 0, CellItemSlots - 1>;
+using Pile = Lazy<Array<InvItem, 0, CellItemSlots - 1>>;
 using LandingSpots = Array<Spot, -20, 40>;
 using ItemKinds = Array<ItemKind, 0, 23>;
 using RankNames = Array<std::string, 0, 47>;

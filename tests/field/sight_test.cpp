@@ -1,11 +1,13 @@
 // The sight fan against a plain transcription of its rule, and the way round those who were sighted.
 #include "field/sight.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "data/terrain.h"
 #include "field/geometry.h"
 #include "field/sightings.h"
+#include "state/chance.h"
 #include "tests/support/game_test.h"
 
 namespace {
@@ -53,6 +55,33 @@ TEST_F(SightTest, EveryFacingFromEveryCellOfTheMapExaminesTheSameCells) {
                 });
                 ASSERT_EQ(visits, PlainLook(facing, x, y)) << x << ", " << y << " facing " << facing;
             }
+}
+
+// The computer's whole team around a soldier, each within the fan's reach or a little beyond.
+TEST_F(SightTest, WhoeverStandsWhereTheFanComesIsSightedAndNobodyElse) {
+    StartGame();
+    teamLast[EnemyTeam] = TeamStride - 1;
+    for (int round = 0; round < 300; ++round) {
+        const int x = RandomInt(FieldWidth - 1, 0);
+        const int y = RandomInt(FieldHeight - 1, 0);
+        PutUnit(0, x, y);
+        UnitTable[0].facing = RandomInt(FacingCount - 1, 0);
+        for (int place = 0; place < TeamStride; ++place) {
+            const int column = std::clamp(x + RandomInt(29, -29), 0, FieldWidth - 1);
+            PutUnit(FirstOf(EnemyTeam) + place, column,
+                    std::clamp(y + RandomInt(29, -29), 0, FieldHeight - 1));
+        }
+        curUnit = 0;
+        EnemyCounter("clear");
+        Look(0);
+        const Cells visits = PlainLook(UnitTable[0].facing, x, y);
+        for (int place = 0; place < TeamStride; ++place) {
+            const Unit& enemy = UnitTable[FirstOf(EnemyTeam) + place];
+            const std::pair<int, int> cell(enemy.cellX, enemy.cellY);
+            const bool reached = std::find(visits.begin(), visits.end(), cell) != visits.end();
+            ASSERT_EQ(UnitTable[0].seen[place] == 1, reached) << x << ", " << y << ": " << place;
+        }
+    }
 }
 
 TEST_F(SightTest, WhoStandsInAWoodIsSightedAndHidesWhoIsBehindIt) {
