@@ -6,6 +6,7 @@
 #include <string>
 
 #include "combat/hits.h"
+#include "combat/trail.h"
 #include "data/map.h"
 #include "data/terrain.h"
 #include "field/geometry.h"
@@ -187,13 +188,6 @@ void BulletFly(int x0, int y0, int x1, int y1) {
     impactX = CellOfPixel(x.place);
     impactY = CellOfPixel(y.place);
     if (InField(impactX, impactY)) BulletInCell(impactX, impactY);
-}
-
-void BulletTrail(std::string_view mode) {
-    if (mode == "finalize")
-        DelayThen(1, [] { TheAudience().TrailChanged("finalize"); });
-    else
-        TheAudience().TrailChanged(mode);
 }
 
 void BulletInCell(int x, int y) {

@@ -3,16 +3,9 @@
 // which a blast uses too.
 #pragma once
 
-#include <string_view>
-
 /// Flies from pixel (x0, y0) toward pixel (x1, y1) with the shared bullet values and leaves where it ended in
 /// impactX and impactY, which may lie outside the field.
 void BulletFly(int x0, int y0, int x1, int y1);
-
-/// The trail on the field: "initialize" begins one, "return" takes its newest stretch away for a repaint and
-/// "store" puts it back after it, "finalize" shows the whole for a moment and takes it away. Without a flight
-/// the two in the middle do nothing.
-void BulletTrail(std::string_view mode);
 
 /// Applies the bullet to a cell of the field and to who stands there, and wears it down.
 void BulletInCell(int x, int y);

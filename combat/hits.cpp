@@ -5,8 +5,8 @@
 #include <cmath>
 #include <string>
 
-#include "combat/flight.h"
 #include "combat/things.h"
+#include "combat/trail.h"
 #include "field/geometry.h"
 #include "field/moving.h"
 #include "platform/rounding.h"

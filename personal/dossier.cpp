@@ -7,7 +7,6 @@
 #include "data/campaign_files.h"
 #include "data/countries_file.h"
 #include "personal/info_form.h"
-#include "personal/personal_file.h"
 #include "platform/code_page.h"
 #include "platform/rounding.h"
 #include "state/state.h"
@@ -137,19 +136,4 @@ void StatBar(int value, int y, Form& form) {
 
 void ShowButtonFace() {
     frmInfo.picB1.canvas = *frmDepot.imgBut[std::stoi(frmInfo.picB1.Tag)].Picture;
-}
-
-void picB1_MouseDown() {
-    PlaySoundAt("click", AtScreenCentre);
-    frmInfo.picB1.canvas = *frmDepot.imgBut[std::stoi(frmInfo.picB1.Tag) + 1].Picture;
-}
-
-void picB1_MouseUp() {
-    const bool second = frmInfo.picB1.Tag == "6";
-    frmInfo.picB1.Tag = second ? "8" : "6";
-    ShowButtonFace();
-    frmInfo.Picture2.Visible = !second;
-    if (!second) return;
-    groundPage = 0;
-    CloseInfo();
 }

@@ -16,7 +16,5 @@ void FillInfoPanel();
 /// below it: `value` times 1.5 and 10 pixels long, from yellow to dark.
 void StatBar(int value, int y, Form& form);
 
-/// The picture button: the first click brings the information panel, the second leaves the file.
+/// Shows the picture button at rest, with its present face.
 void ShowButtonFace();
-void picB1_MouseDown();
-void picB1_MouseUp();

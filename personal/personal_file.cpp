@@ -15,7 +15,9 @@
 #include "platform/host.h"
 #include "state/operation.h"
 #include "state/state.h"
+#include "view/depot_form.h"
 #include "view/field_form.h"
+#include "view/sound.h"
 
 namespace {
 
@@ -93,6 +95,21 @@ void PageUnit(int step) {
         curUnit = next;
         LoadInfo();
     });
+}
+
+void picB1_MouseDown() {
+    PlaySoundAt("click", AtScreenCentre);
+    frmInfo.picB1.canvas = *frmDepot.imgBut[std::stoi(frmInfo.picB1.Tag) + 1].Picture;
+}
+
+void picB1_MouseUp() {
+    const bool second = frmInfo.picB1.Tag == "6";
+    frmInfo.picB1.Tag = second ? "8" : "6";
+    ShowButtonFace();
+    frmInfo.Picture2.Visible = !second;
+    if (!second) return;
+    groundPage = 0;
+    CloseInfo();
 }
 
 void personal::Form_KeyDown(int code, int shift) {

@@ -15,6 +15,10 @@ bool CloseInfo();
 /// pointer carries something.
 void PageUnit(int step);
 
+/// The picture button: the first click brings the information panel, the second leaves the file.
+void picB1_MouseDown();
+void picB1_MouseUp();
+
 namespace personal {
 
 /// Enter closes; the catalogue's keys step through it. `shift` as in InputEvent.

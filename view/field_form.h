@@ -7,6 +7,9 @@
 
 constexpr int UnitPlaces = 40;  // units that are ever drawn: the squad and the computer's team
 
+constexpr int ViewLeft = 20;  // where the field is seen on the window, and stands when nothing is scrolled
+constexpr int ViewTop = 10;
+
 struct FieldForm : Form {
     FieldForm();
 

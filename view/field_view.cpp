@@ -9,6 +9,24 @@
 
 namespace {
 
+constexpr int WindowColumns = 38;  // cells in view
+constexpr int WindowRows = 23;
+
+// The first cell in view along one axis, with the clicked one in the middle. The far end is where it was
+// before the near one was held. ODDITY: every second pixel of the mini map lies half a cell further, and the
+// view stops there between two cells.
+double FirstInView(int pixel, int inView, int cells) {
+    const double wanted = pixel / static_cast<double>(MiniMapCellSize) - FloorDivide(inView, 2);
+    const double last = inView + wanted - 1;
+    double first = wanted < 0 ? 0 : wanted;
+    if (last > cells - 1) first += cells - 1 - last;
+    return first;
+}
+
+void ScrollToCell(ScrollBar& bar, double cell) {
+    SetScrollValue(bar, static_cast<int>(RoundHalfEven(cell * CellSize)));
+}
+
 int ScrollPlace(float place, const ScrollBar& bar) {
     const float held = std::min(std::max(place, 0.0F), static_cast<float>(bar.Max));
     return static_cast<int>(RoundHalfEven(static_cast<double>(held)));
@@ -67,4 +85,9 @@ bool SelectionFrames(const Unit& unit) {
 void MarkCurrentUnit() {
     frmField.imgMarkH.Left = frmField.area.Left + UnitTable[curUnit].pixelX;
     frmField.imgMarkV.Top = frmField.area.Top + UnitTable[curUnit].pixelY;
+}
+
+void MapClick(int x, int y) {
+    ScrollToCell(frmField.HScrollArea, FirstInView(x, WindowColumns, FieldWidth));
+    ScrollToCell(frmField.VScrollArea, FirstInView(y, WindowRows, FieldHeight));
 }

@@ -5,15 +5,15 @@
 struct ScrollBar;
 struct Unit;
 
-constexpr int ViewLeft = 20;  // where the field is seen on the window, and stands when nothing is scrolled
-constexpr int ViewTop = 10;
-
 /// A bar of the main window came to a value, held within the bar: moves the field, and on a whole cell the
 /// mini map's lit window.
 void SetScrollValue(ScrollBar& bar, int value);
 
 /// The bar's thumb is over `value`: the field follows in whole cells.
 void ScrollThumb(ScrollBar& bar, int value);
+
+/// Centres the view on a pixel of the mini map, as far as the field goes.
+void MapClick(int x, int y);
 
 /// Walking away from the middle of the window pulls the view along.
 void FollowWalker(const Unit& unit, int dx, int dy);

@@ -1,31 +1,12 @@
 #include "view/mini_map.h"
 
 #include "platform/blit.h"
-#include "platform/rounding.h"
 #include "state/state.h"
 #include "view/field_form.h"
-#include "view/field_view.h"
 
 namespace {
 
-constexpr int WindowColumns = 38;  // cells in view
-constexpr int WindowRows = 23;
 constexpr int BigMapRatio = 2;
-
-// The first cell in view along one axis, with the clicked one in the middle. The far end is where it was
-// before the near one was held. ODDITY: every second pixel of the mini map lies half a cell further, and the
-// view stops there between two cells.
-double FirstInView(int pixel, int inView, int cells) {
-    const double wanted = pixel / static_cast<double>(MiniMapCellSize) - FloorDivide(inView, 2);
-    const double last = inView + wanted - 1;
-    double first = wanted < 0 ? 0 : wanted;
-    if (last > cells - 1) first += cells - 1 - last;
-    return first;
-}
-
-void ScrollToCell(ScrollBar& bar, double cell) {
-    SetScrollValue(bar, static_cast<int>(RoundHalfEven(cell * CellSize)));
-}
 
 }  // namespace
 
@@ -56,9 +37,8 @@ void RefreshMiniMapWindow() {
     picMicroMapHilite();
 }
 
-void MapClick(int x, int y) {
-    ScrollToCell(frmField.HScrollArea, FirstInView(x, WindowColumns, FieldWidth));
-    ScrollToCell(frmField.VScrollArea, FirstInView(y, WindowRows, FieldHeight));
+void MiniMapCell(FieldForm& form, int x, int y) {
+    if (!form.mapIsPainted) picStretchSquare(form, x, y);
 }
 
 void ToggleBigMap() {

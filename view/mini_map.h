@@ -19,8 +19,8 @@ void picStretchSquare(FieldForm& form, int x, int y);
 void picMicroMapHilite();
 void RefreshMiniMapWindow();
 
-/// Centres the view on a pixel of the mini map, as far as the field goes.
-void MapClick(int x, int y);
+/// Passes a repainted cell on to the mini map, but for the time when the whole map is painted.
+void MiniMapCell(FieldForm& form, int x, int y);
 
 /// Shows the big map, or takes it away. It is a still, drawn when it is shown.
 void ToggleBigMap();

@@ -8,11 +8,10 @@
 #include "view/depot_form.h"
 #include "view/field_form.h"
 #include "view/mini_map.h"
+#include "view/sprites.h"
 #include "view/unit_painting.h"
 
 namespace {
-
-constexpr int SpritesInRow = 32;
 
 // The column of the sheet that shows a tile.
 int ShownTile(int tileX) {
@@ -37,21 +36,4 @@ void PaintCell(int x, int y, Picture& target, int tileX, int tileY) {
     // The unit gets the new picture for its background, so that it stays when the unit goes.
     SaveBackground(cell.occupant);
     PaintUnitAtCell(x, y);
-}
-
-void PaintSprite(int sprite, int pixelX, int pixelY) {
-    const int sourceX = sprite % SpritesInRow * CellSize;
-    const int sourceY = sprite / SpritesInRow * CellSize;
-    PaintMasked(frmField.area.canvas, pixelX, pixelY, frmDepot.picSprites.canvas, sourceX, sourceY);
-}
-
-// Masks fill the lower half of each sheet, a sprite's at its own place.
-void PaintMasked(Picture& target, int pixelX, int pixelY, const Picture& sheet, int spriteX, int spriteY) {
-    const int maskY = spriteY + sheet.Height() / 2;
-    BitBlt(target, pixelX, pixelY, CellSize, CellSize, sheet, spriteX, maskY, RasterOp::SRCAND);
-    BitBlt(target, pixelX, pixelY, CellSize, CellSize, sheet, spriteX, spriteY, RasterOp::SRCINVERT);
-}
-
-void MiniMapCell(FieldForm& form, int x, int y) {
-    if (!frmField.mapIsPainted) picStretchSquare(form, x, y);
 }

@@ -11,7 +11,7 @@
 #include "view/field_view.h"
 #include "view/mini_map.h"
 #include "view/overlays.h"
-#include "view/painting.h"
+#include "view/sprites.h"
 
 namespace {
 

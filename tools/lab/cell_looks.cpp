@@ -8,6 +8,7 @@
 #include "view/depot_form.h"
 #include "view/field_form.h"
 #include "view/painting.h"
+#include "view/sprites.h"
 
 namespace {
 
