@@ -72,7 +72,7 @@ void FieldAudience::UnitMovedUnseen(int dx, int dy) {
     MoveUnseen(dx, dy);
 }
 
-// The log tells of it, and the bars.
+// The log and the bars show it.
 void FieldAudience::UnitHurt(int /*damage*/) {}
 
 void FieldAudience::UnitSighted(int x, int y) {

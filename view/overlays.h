@@ -7,7 +7,7 @@
 
 struct ImageControl;
 
-// Does with an overlay's control what the audience is told of the overlay.
+// What the rules report of an overlay, done to its control.
 void PutOverlay(Overlay overlay, int x, int y);
 void ShowOverlayFrame(Overlay overlay, int frame);
 void RestOverlay(Overlay overlay);

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-/// Does to the trail what the audience is told of it.
+/// Changes the trail as Audience::TrailChanged says.
 void ChangeTrail(std::string_view mode);
 
 /// Draws a pixel of the trail of the flight that runs.

@@ -7,6 +7,7 @@
 #include <set>
 
 #include "platform/arrays.h"
+#include "platform/lazy.h"
 #include "platform/rounding.h"
 #include "state/chance.h"
 
@@ -39,6 +40,25 @@ TEST(BoundedArrays, AnIndexOutsideTheDeclaredBoundsIsAnError) {
     EXPECT_EQ(spots[-20] + spots[40], 3);
     EXPECT_THROW(spots[-21], RunTimeError);
     EXPECT_THROW(spots[41], RunTimeError);
+}
+
+TEST(LazyTables, ReadAsNewOnesUntilTheyAreWrittenAndCopiesAreTheirOwn) {
+    using Places = Lazy<Array<i16, 0, 3>>;
+    Places places;
+    const Places empty;
+    EXPECT_EQ(empty[3], 0);
+    EXPECT_THROW(empty[4], RunTimeError);
+    places[3] = 7;
+    Places copy = places;
+    copy[3] = 8;
+    EXPECT_EQ(places[3], 7);
+    EXPECT_FALSE(copy == places);
+    copy = places;
+    EXPECT_TRUE(copy == places);
+    places = empty;
+    EXPECT_EQ(places[3], 0);
+    places[0] = 0;
+    EXPECT_TRUE(places == empty) << "one that was made, and holds nothing";
 }
 
 // The generator is the standard's mt19937, whose 10,000th value from the seed 5489 the standard itself

@@ -59,11 +59,11 @@ TEST_F(AudienceTest, AShotReportsItsTrailAndItsSufferer) {
     UnitTable[0].health = UnitTable[20].health = 90;
     InstallAudience(&audience);
     ActOnTarget(UnitTable[20].pixelX + HalfCell, UnitTable[20].pixelY + HalfCell);
-    const std::string told = audience.Take();
+    const std::string reported = audience.Take();
     const std::size_t glass =
-        told.find("pixels\nsound bump\\glass2 at 35\ntrail return\ncell 35,20\ntrail store\n");
-    EXPECT_NE(glass, std::string::npos) << told;
-    EXPECT_NE(told.find("trail finalize\n", glass), std::string::npos) << told;
+        reported.find("pixels\nsound bump\\glass2 at 35\ntrail return\ncell 35,20\ntrail store\n");
+    EXPECT_NE(glass, std::string::npos) << reported;
+    EXPECT_NE(reported.find("trail finalize\n", glass), std::string::npos) << reported;
 }
 
 TEST_F(AudienceTest, AFlashThatEventsBeginEndsTheOneBefore) {
