@@ -1,15 +1,13 @@
 // The window of a soldier's file, driven through the door that its events come by.
 #include "personal/personal_file.h"
-#include "combat/fire_modes.h"
-
-#include <sstream>
 
 #include "combat/actions.h"
 #include "combat/explosions.h"
+#include "combat/fire_modes.h"
 #include "combat/things.h"
+#include "data/new_item.h"
 #include "data/terrain.h"
 #include "data/weapons_file.h"
-#include "personal/catalogue.h"
 #include "personal/dragging.h"
 #include "personal/info_form.h"
 #include "personal/inventory.h"
@@ -330,31 +328,6 @@ TEST_F(PersonalFileTest, TheBinWaitsOverTheWholePlaceOfTheHandAndThrowsWhatIsInI
     EXPECT_EQ(In(0).name, "");
     EXPECT_EQ(In(0).durab, 17) << "the condition stays";
     EXPECT_EQ(frmInfo.imgFlag.PictureName + frmInfo.imgFlag.ToolTipText, "") << "nobody made nothing";
-}
-
-TEST_F(PersonalFileTest, NewThingsHaveTheFeedsOfTheirNameOrKind) {
-    struct Case {
-        const char* names;
-        int main, rounds, second;
-    };
-    // clang-format off
-    constexpr Case Cases[] = {
-        {"mm1", 0, 0, 12}, {"m203 m4m203 steyrm203 xm8xm320 famasm203 crossbow airpipe", 0, 0, 1}, {"xm8lss nova spas", 0, 0, 6},
-        {"mkey rem870s", 0, 0, 5}, {"super90 rem870m", 0, 0, 7}, {"jackham", 0, 0, 10}, {"rem870l rem870gs", 0, 0, 8},
-        {"thronives", 3, 3, 0}, {"shuriken shaken", 4, 4, 0}, {"anschutz", 25, 0, 0}, {"anslgw anslgg anslgs", 1, 0, 0},
-        {"american", 220, 0, 0}, {"luger lahti", 8, 0, 0}, {"smle smlet", 10, 0, 0}, {"5nato", 10, 10, 0}, {"helmet", 100, 100, 0},
-        {"m67 knife", 1, 1, 0}, {"m4 map", 0, 0, 0}};
-    // clang-format on
-    for (const Case& c : Cases) {
-        std::istringstream names(c.names);
-        for (std::string name; names >> name;) {
-            const InvItem item = MakeItem(WeaponInfoByName(name));
-            EXPECT_EQ(item.capMain, c.main) << name;
-            EXPECT_EQ(item.capSecond, c.second) << name;
-            EXPECT_EQ(item.roundsMain, c.rounds) << name;
-        }
-    }
-    EXPECT_EQ(MakeItem(WeaponInfoByName("thronives")).durab, 300);
 }
 
 TEST_F(PersonalFileTest, PagingGoesRoundTheFitOnesAndTheSelectionFollows) {

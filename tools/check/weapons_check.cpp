@@ -6,6 +6,7 @@
 
 #include "campaign_rules.h"
 #include "data/tables.h"
+#include "data/weapon_keys.h"
 #include "nearest.h"
 #include "platform/quoted.h"
 #include "tools/check/weapon_row.h"
@@ -269,7 +270,7 @@ class WeaponsCheck {
     }
 
     void CheckNamedKeys() {
-        for (const NamedKey& named : NamedKeys()) {
+        for (const WeaponKey& named : WeaponKeys()) {
             const auto found = std::find_if(rows.begin(), rows.end(),
                                             [&](const WeaponRow& row) { return row.Key() == named.key; });
             if (found != rows.end())
@@ -279,16 +280,16 @@ class WeaponsCheck {
         }
     }
 
-    void CheckNeed(const WeaponRow& row, const NamedKey& named) {
-        const std::size_t column = named.feed == Need::Second ? SecondColumn : ClassColumn;
-        if (named.feed != Need::Nothing && row.Text(column).empty())
+    void CheckNeed(const WeaponRow& row, const WeaponKey& named) {
+        const std::size_t column = named.needed == NeededFeed::Second ? SecondColumn : ClassColumn;
+        if (named.needed != NeededFeed::None && row.Text(column).empty())
             Add(row.Cell(column),
                 Shortened(row.Key()) + " has no feed here, and the game says that it " + named.why,
                 "a kind of ammunition");
     }
 
     // Told at the row that was meant, if one has a like name and no picture under it.
-    void ReportMissing(const NamedKey& named) {
+    void ReportMissing(const WeaponKey& named) {
         const std::string meant = Nearest(named.key, strangers);
         const SourcePlace end{static_cast<int>(text.lines.size()) + 1, 1};
         text.faults.Add({meant.empty() ? end : keys.at(meant), "no row is named " + Quoted(named.key),
