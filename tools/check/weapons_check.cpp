@@ -5,6 +5,7 @@
 #include <map>
 
 #include "campaign_rules.h"
+#include "data/mode_words.h"
 #include "data/tables.h"
 #include "data/weapon_keys.h"
 #include "nearest.h"
@@ -18,7 +19,7 @@ namespace {
 
 constexpr std::size_t MaxKey = 10;  // a key's field in the binary files
 constexpr int MaxNumber = 32767;
-constexpr std::size_t BurstPlace = 2, SecondaryPlace = 4, ModeCount = 7;
+constexpr std::size_t ModeCount = ModesOfRow.size();
 const std::vector<std::string> Kinds = {"m", "w", "a", "i", "s"};
 // Feeds whose things are weapons themselves and have a row under another key.
 const std::vector<std::string> OwnFeeds = {"knife", "gren"};
@@ -232,7 +233,7 @@ class WeaponsCheck {
         }
         if (modes.text == "0000000") Add(modes, Shortened(row.Key()) + " offers no mode", "at least one");
         if (modes.text[SecondaryPlace] == '1' && row.Text(SecondColumn).empty())
-            Add(row.Cell(SecondColumn), "the mode \"Secondary\" without a second feed",
+            Add(row.Cell(SecondColumn), "the mode " + Quoted(SecondaryMode) + " without a second feed",
                 "a kind of ammunition");
     }
 
