@@ -8,6 +8,7 @@
 #include "data/weapons_file.h"
 #include "personal/info_form.h"
 #include "personal/inventory.h"
+#include "platform/keys.h"
 #include "platform/rounding.h"
 #include "view/slots.h"
 
@@ -23,10 +24,10 @@ struct CatalogueKey {
 };
 
 constexpr std::array<CatalogueKey, 4> CatalogueKeys = {{
-    {38, PreviousRow, PreviousFeed},   // up
-    {104, PreviousRow, PreviousFeed},  // 8 of the number pad
-    {40, NextRow, NextFeed},           // down
-    {98, NextRow, NextFeed},           // 2 of the number pad
+    {UpKey, PreviousRow, PreviousFeed},
+    {Pad8Key, PreviousRow, PreviousFeed},
+    {DownKey, NextRow, NextFeed},
+    {Pad2Key, NextRow, NextFeed},
 }};
 
 InvItem& Held() {
