@@ -59,9 +59,8 @@ void AiReload() {
 }
 
 void AiReserveTime() {
-    constexpr int TimeOfStance = 4;
     Unit& unit = Self();
-    unit.aiReserve = unit.stance * TimeOfStance;
+    unit.aiReserve = unit.stance * StanceTime;
     if (unit.aiWary == True) unit.aiReserve = unit.aiReserve * 2;
     unit.aiReserve += WeaponInfoByName(unit.hand.name).time;
 }

@@ -6,6 +6,7 @@
 #include "combat/fire_modes.h"
 #include "combat/shooting.h"
 #include "combat/tools.h"
+#include "data/mode_words.h"
 #include "field/geometry.h"
 #include "state/audience.h"
 #include "state/costs.h"
@@ -39,11 +40,11 @@ void UseTool(int targetX, int targetY) {
     const std::string mode = fireModes.Text();
     // ODDITY: a refused spadeful leaves this line open, so the next one in the log begins with it.
     AddToLog("dig it: ", 0);
-    if (mode == "Fold") Refold("fold", "etoolfold", 0);
-    if (mode == "Unfold") Refold("unfold", "etool", 1);
-    if (mode == "Dig") Dig("dig", -Spadeful);
-    if (mode == "Fill") Dig("fill", Spadeful);
-    if (mode == "Hit") {
+    if (mode == FoldMode) Refold("fold", "etoolfold", 0);
+    if (mode == UnfoldMode) Refold("unfold", "etool", 1);
+    if (mode == DigMode) Dig("dig", -Spadeful);
+    if (mode == FillMode) Dig("fill", Spadeful);
+    if (mode == HitMode) {
         AddToLog("hit", 1);
         MeleeHit(targetX, targetY);
     }

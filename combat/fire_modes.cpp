@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "combat/families.h"
+#include "data/mode_words.h"
 #include "data/weapons_file.h"
 #include "state/audience.h"
 #include "state/state.h"
@@ -15,29 +16,25 @@ namespace {
 // clang-format off
 struct ToolModes {
     std::string_view name;  // of the held tool
-    std::array<const char*, 4> modes;
+    std::array<std::string_view, 4> modes;
 };
 
 constexpr ToolModes Tools[] = {
-    {"bsl",       {"Hit", "Dig", "Fill"}},
-    {"mpl",       {"Hit", "Dig", "Fill"}},
-    {"etool",     {"Hit", "Dig", "Fill", "Fold"}},
-    {"etoolfold", {"Unfold"}},
-    {"med",       {"Cure"}},
+    {"bsl",       {HitMode, DigMode, FillMode}},
+    {"mpl",       {HitMode, DigMode, FillMode}},
+    {"etool",     {HitMode, DigMode, FillMode, FoldMode}},
+    {"etoolfold", {UnfoldMode}},
+    {"med",       {CureMode}},
 };
 // clang-format on
 
-// By place of WeaponInfo::modes.
-constexpr std::array<const char*, 7> ModeNames = {"Aimed shot", "Snap shot", "Burst", "Full auto",
-                                                  "Secondary",  "Hit",       "Throw"};
-constexpr int BurstPlace = 2;
-
-std::vector<std::string> ModesOfRow(const WeaponInfo& row) {
+std::vector<std::string> ModesOf(const WeaponInfo& row) {
     std::vector<std::string> modes;
-    for (int place = 0; place <= row.modes.Upper; ++place) {
-        if (row.modes[place] <= 0) continue;
-        std::string text = ModeNames[static_cast<std::size_t>(place)];
-        if (place == BurstPlace) text += " [" + std::to_string(row.modes[place]) + "]";
+    for (std::size_t place = 0; place < ModesOfRow.size(); ++place) {
+        const int digit = row.modes[static_cast<int>(place)];
+        if (digit <= 0) continue;
+        std::string text(ModesOfRow[place]);
+        if (place == BurstPlace) text += " [" + std::to_string(digit) + "]";
         modes.push_back(text);
     }
     return modes;
@@ -47,15 +44,11 @@ std::vector<std::string> OfferedModes(const std::string& name) {
     for (const ToolModes& tool : Tools) {
         if (tool.name != name) continue;
         std::vector<std::string> modes;
-        for (const char* mode : tool.modes)
-            if (mode != nullptr) modes.emplace_back(mode);
+        for (const std::string_view mode : tool.modes)
+            if (!mode.empty()) modes.emplace_back(mode);
         return modes;
     }
-    return ModesOfRow(WeaponInfoByName(name));
-}
-
-bool UsesSecondFeed(std::string_view family) {
-    return family == "bloop" || family == "shot" || family == "dart";
+    return ModesOf(WeaponInfoByName(name));
 }
 
 void CopyFeed(std::string_view direction, i16& cap, i16& rounds, u8& itemCap, u8& itemRounds) {
@@ -87,7 +80,7 @@ void ChooseMode(int index) {
 void HandSync(std::string_view direction) {
     Unit& unit = UnitTable[curUnit];
     InvItem& held = unit.items[0];
-    if (UsesSecondFeed(ActionFamily()))
+    if (FamilyNamed(ActionFamily()).secondFeed)
         CopyFeed(direction, unit.handCap, unit.handRounds, held.capSecond, held.roundsSecond);
     else
         CopyFeed(direction, unit.handCap, unit.handRounds, held.capMain, held.roundsMain);

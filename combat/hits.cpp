@@ -7,6 +7,7 @@
 
 #include "combat/things.h"
 #include "combat/trail.h"
+#include "data/mode_words.h"
 #include "field/geometry.h"
 #include "field/moving.h"
 #include "platform/rounding.h"
@@ -82,7 +83,7 @@ void TakeDamage(int shooter, Unit& target) {
 
 // The current unit has died.
 void Die(const Unit& unit) {
-    const bool flying = fireModes.Text() != "Hit";
+    const bool flying = fireModes.Text() != HitMode;
     if (flying) BulletTrail("return");
     PaintUnit(0, 0);
     DropAll(curUnit);

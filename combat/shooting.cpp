@@ -5,8 +5,10 @@
 #include <string>
 
 #include "combat/explosions.h"
+#include "combat/families.h"
 #include "combat/flight.h"
 #include "combat/things.h"
+#include "data/mode_words.h"
 #include "data/weapons_file.h"
 #include "field/geometry.h"
 #include "platform/rounding.h"
@@ -18,42 +20,18 @@
 
 namespace {
 
-constexpr int PelletsOfShell = 30;
 constexpr int FullAutoRounds = 20;
-constexpr int BurstPlace = 2;  // of WeaponInfo::modes: the rounds of a burst
-
-struct FamilyWord {
-    std::string_view family;
-    const char* log;     // what the log says
-    const char* launch;  // the sound of a secondary barrel besides the shot's own
-};
-
-// clang-format off
-constexpr FamilyWord FamilyWords[] = {
-    {"shot",    "shotgun party",    "weapons\\shot"},
-    {"bloop",   "bloop'em",         "weapons\\bloop"},
-    {"gren",    "fire in the hole", nullptr},
-    {"charge",  "kaboom",           nullptr},
-    {"throw",   "throw it",         nullptr},
-    {"dart",    "psst",             nullptr},
-    {"varmint", "varmint",          nullptr},
-};
 
 struct Offset {
     int x;
     int y;
 };
 
+// clang-format off
 // Where the muzzle is, from the left top corner of the unit's cell, by facing.
 constexpr std::array<Offset, FacingCount> Muzzles = {
     {{20, 10}, {0, 10}, {10, 0}, {10, 20}, {20, 0}, {20, 20}, {0, 20}, {0, 0}}};
 // clang-format on
-
-const FamilyWord* WordOf(std::string_view family) {
-    for (const FamilyWord& word : FamilyWords)
-        if (word.family == family) return &word;
-    return nullptr;
-}
 
 void PlaceMuzzle(const Unit& unit) {
     const Offset& muzzle = Muzzles.at(static_cast<std::size_t>(int{unit.facing}));
@@ -62,14 +40,14 @@ void PlaceMuzzle(const Unit& unit) {
 }
 
 int RoundsOf(const std::string& mode, const WeaponInfo& hand) {
-    if (mode >= "Burst [0]" && mode <= "Burst [9]") return WeaponInfoByName(hand.name).modes[BurstPlace];
-    return mode == "Full auto" ? FullAutoRounds : 1;
+    if (mode.starts_with(BurstMode)) return WeaponInfoByName(hand.name).modes[static_cast<int>(BurstPlace)];
+    return mode == FullAutoMode ? FullAutoRounds : 1;
 }
 
-void SoundLaunch(const Unit& unit, const FamilyWord* word) {
-    if (word == nullptr || word->launch == nullptr || fireModes.Text() != "Secondary") return;
+void SoundLaunch(const Unit& unit, const Family& family) {
+    if (family.launch == nullptr || fireModes.Text() != SecondaryMode) return;
     if (unit.time >= unit.hand.time && unit.handRounds >= 1)
-        TheAudience().SoundPlayed(word->launch, AtCurrentUnit);
+        TheAudience().SoundPlayed(family.launch, AtCurrentUnit);
 }
 
 // Pays for one round; the first refusal ends the order.
@@ -118,11 +96,10 @@ i16 Scattered(int pixel, int scatter) {
 
 // ODDITY: each bullet scatters around the point that the one before it was aimed at, while the distance still
 // counts from the cell first aimed at; so a burst wanders off the longer it lasts.
-void FireBullet(const Unit& unit, Aim& aim, std::string_view family) {
-    bulletPower = unit.hand.power;
+void FireBullet(const Unit& unit, Aim& aim, const Family& family) {
+    bulletPower = unit.hand.power / static_cast<double>(family.pellets);
     bulletAccur = unit.hand.accur;
     bulletHorizon = unit.hand.range * CellSize;
-    if (family == "shot") bulletPower = unit.hand.power / static_cast<double>(PelletsOfShell);
     const int scatter = ScatterOf(unit, DistanceTo(unit, aim));
     aim.x = Scattered(aim.x, scatter);
     aim.y = Scattered(aim.y, scatter);
@@ -143,7 +120,7 @@ void LayDown(const InvItem& held) {
 // What an order fires. Events in its middle may put something else into the hand: no more rounds are fired
 // then, and what flies already is still this.
 struct Fired {
-    std::string_view family;
+    const Family& family;
     WeaponInfo hand;
     InvItem item;
 
@@ -152,37 +129,35 @@ struct Fired {
 
 void EndOrder(const Fired& fired) {
     Unit& unit = UnitTable[curUnit];
-    const std::string_view family = fired.family;
-    const bool lies = family == "throw" || family == "charge";
-    const bool bursts = family == "gren" || family == "bloop";
+    const AtEnd end = fired.family.atEnd;
+    const bool bursts = end == AtEnd::Bursts;
     const bool inField = InField(impactX, impactY);
     const bool held = fired.IsHeldBy(unit);
-    if (lies) LayDown(fired.item);
+    if (end == AtEnd::LiesThere || end == AtEnd::IsSet) LayDown(fired.item);
     if (bursts && !held) unit.hand = fired.hand;
     if (bursts) ChargeBlow(impactX, impactY);
-    if (family == "throw" && inField) WeaponAdd(impactX, impactY);
-    if (family == "charge" && inField) ChargeAdd(impactX, impactY);
-    const bool usedUp = held && (lies || family == "gren") && unit.items[0].roundsMain == 0;
+    if (end == AtEnd::LiesThere && inField) WeaponAdd(impactX, impactY);
+    if (end == AtEnd::IsSet && inField) ChargeAdd(impactX, impactY);
+    const bool usedUp = held && fired.family.usesThingUp && unit.items[0].roundsMain == 0;
     if (usedUp) ClearItem(0);
     if (usedUp || !held) RefreshHand();
 }
 
 }  // namespace
 
-void ShootAt(int x, int y, std::string_view family) {
+void ShootAt(int x, int y, std::string_view familyWord) {
     const Unit& unit = UnitTable[curUnit];
+    const Family& family = FamilyNamed(familyWord);
     Aim aim{x, y, CellOfPixel(x), CellOfPixel(y)};
-    const FamilyWord* word = WordOf(family);
     PlaceMuzzle(unit);
-    if (word != nullptr) AddToLog(word->log, 1);
+    if (family.log != nullptr) AddToLog(family.log, 1);
     const int rounds = RoundsOf(fireModes.Text(), unit.hand);
-    const int pellets = family == "shot" ? PelletsOfShell : 1;
     const Fired fired{family, unit.hand, unit.items[0]};
-    SoundLaunch(unit, word);
+    SoundLaunch(unit, family);
     for (int round = 0; round < rounds; ++round) {
         if (!fired.IsHeldBy(unit) || !PayRound(unit)) return;
         TheAudience().SoundPlayed("weapons\\" + unit.hand.sound, AtCurrentUnit);
-        for (int pellet = 0; pellet < pellets; ++pellet)
+        for (int pellet = 0; pellet < family.pellets; ++pellet)
             FireBullet(unit, aim, family);
     }
     EndOrder(fired);

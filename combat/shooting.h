@@ -4,6 +4,6 @@
 
 #include <string_view>
 
-/// All rounds of the current unit's order at the field pixel (x, y), for a family that `family` names; empty
-/// shoots too.
-void ShootAt(int x, int y, std::string_view family);
+/// All rounds of the current unit's order at the field pixel (x, y), for a family of
+/// combat/families; any other word, and none, is a plain shot.
+void ShootAt(int x, int y, std::string_view familyWord);

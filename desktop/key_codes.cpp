@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "platform/keys.h"
+
 namespace {
 
 struct KeyRow {
@@ -12,59 +14,56 @@ struct KeyRow {
 
 constexpr KeyRow NamedKeys[] = {
     // clang-format off
-    // key               code
-    {Qt::Key_Backspace,     8},
-    {Qt::Key_Tab,           9},
-    {Qt::Key_Backtab,       9},
-    {Qt::Key_Clear,        12},
-    {Qt::Key_Return,       13},
-    {Qt::Key_Enter,        13},
-    {Qt::Key_Shift,        16},
-    {Qt::Key_Control,      17},
-    {Qt::Key_Alt,          18},
-    {Qt::Key_Pause,        19},
-    {Qt::Key_CapsLock,     20},
-    {Qt::Key_Escape,       27},
-    {Qt::Key_Space,        32},
-    {Qt::Key_PageUp,       33},
-    {Qt::Key_PageDown,     34},
-    {Qt::Key_End,          35},
-    {Qt::Key_Home,         36},
-    {Qt::Key_Left,         37},
-    {Qt::Key_Up,           38},
-    {Qt::Key_Right,        39},
-    {Qt::Key_Down,         40},
-    {Qt::Key_Insert,       45},
-    {Qt::Key_Delete,       46},
-    {Qt::Key_NumLock,     144},
-    {Qt::Key_ScrollLock,  145},
-    {Qt::Key_Semicolon,   186},
-    {Qt::Key_Equal,       187},
-    {Qt::Key_Comma,       188},
-    {Qt::Key_Minus,       189},
-    {Qt::Key_Period,      190},
-    {Qt::Key_Slash,       191},
-    {Qt::Key_QuoteLeft,   192},
-    {Qt::Key_BracketLeft, 219},
-    {Qt::Key_Backslash,   220},
-    {Qt::Key_BracketRight,221},
-    {Qt::Key_Apostrophe,  222},
+    // the toolkit's          ours
+    {Qt::Key_Backspace,     BackspaceKey},
+    {Qt::Key_Tab,           TabKey},
+    {Qt::Key_Backtab,       TabKey},
+    {Qt::Key_Clear,         ClearKey},
+    {Qt::Key_Return,        EnterKey},
+    {Qt::Key_Enter,         EnterKey},
+    {Qt::Key_Shift,         ShiftKey},
+    {Qt::Key_Control,       ControlKey},
+    {Qt::Key_Alt,           AltKey},
+    {Qt::Key_Pause,         PauseKey},
+    {Qt::Key_CapsLock,      CapsLockKey},
+    {Qt::Key_Escape,        EscapeKey},
+    {Qt::Key_Space,         SpaceKey},
+    {Qt::Key_PageUp,        PageUpKey},
+    {Qt::Key_PageDown,      PageDownKey},
+    {Qt::Key_End,           EndKey},
+    {Qt::Key_Home,          HomeKey},
+    {Qt::Key_Left,          LeftKey},
+    {Qt::Key_Up,            UpKey},
+    {Qt::Key_Right,         RightKey},
+    {Qt::Key_Down,          DownKey},
+    {Qt::Key_Insert,        InsertKey},
+    {Qt::Key_Delete,        DeleteKey},
+    {Qt::Key_NumLock,       NumLockKey},
+    {Qt::Key_ScrollLock,    ScrollLockKey},
+    {Qt::Key_Semicolon,     SemicolonKey},
+    {Qt::Key_Equal,         EqualKey},
+    {Qt::Key_Comma,         CommaKey},
+    {Qt::Key_Minus,         MinusKey},
+    {Qt::Key_Period,        PeriodKey},
+    {Qt::Key_Slash,         SlashKey},
+    {Qt::Key_QuoteLeft,     BackquoteKey},
+    {Qt::Key_BracketLeft,   OpenBracketKey},
+    {Qt::Key_Backslash,     BackslashKey},
+    {Qt::Key_BracketRight,  CloseBracketKey},
+    {Qt::Key_Apostrophe,    ApostropheKey},
     // clang-format on
 };
 
 constexpr KeyRow KeypadSigns[] = {
     // clang-format off
-    {Qt::Key_Asterisk, 106},
-    {Qt::Key_Plus,     107},
-    {Qt::Key_Minus,    109},
-    {Qt::Key_Period,   110},
-    {Qt::Key_Comma,    110},
-    {Qt::Key_Slash,    111},
+    {Qt::Key_Asterisk,      PadMultiplyKey},
+    {Qt::Key_Plus,          PadAddKey},
+    {Qt::Key_Minus,         PadSubtractKey},
+    {Qt::Key_Period,        PadDecimalKey},
+    {Qt::Key_Comma,         PadDecimalKey},
+    {Qt::Key_Slash,         PadDivideKey},
     // clang-format on
 };
-
-constexpr int KeypadZero = 96;
-constexpr int FirstFunctionKey = 112;
 
 // What stands on the keys of a keyboard, row by row, from the scan code of the row's first key.
 struct KeyboardRow {
@@ -89,12 +88,12 @@ int Find(const KeyRow (&table)[Rows], int key) {
 int CodeOfKey(int key) {
     if (key >= Qt::Key_A && key <= Qt::Key_Z) return key;
     if (key >= Qt::Key_0 && key <= Qt::Key_9) return key;
-    if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return FirstFunctionKey + key - Qt::Key_F1;
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return F1Key + key - Qt::Key_F1;
     return Find(NamedKeys, key);
 }
 
 int CodeOnKeypad(int key) {
-    if (key >= Qt::Key_0 && key <= Qt::Key_9) return KeypadZero + key - Qt::Key_0;
+    if (key >= Qt::Key_0 && key <= Qt::Key_9) return Pad0Key + key - Qt::Key_0;
     return Find(KeypadSigns, key);
 }
 
@@ -119,8 +118,8 @@ int KeyCode(const QKeyEvent& event) {
 
 int ShiftState(Qt::KeyboardModifiers modifiers) {
     int state = 0;
-    if (modifiers & Qt::ShiftModifier) state += 1;
-    if (modifiers & Qt::ControlModifier) state += 2;
-    if (modifiers & Qt::AltModifier) state += 4;
+    if (modifiers & Qt::ShiftModifier) state += ShiftHeld;
+    if (modifiers & Qt::ControlModifier) state += ControlHeld;
+    if (modifiers & Qt::AltModifier) state += AltHeld;
     return state;
 }

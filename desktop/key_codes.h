@@ -3,9 +3,8 @@
 
 #include <QKeyEvent>
 
-/// The virtual key code of the event's key: letters and digits as their capitals' ASCII codes, 96 to 105 for
-/// the digits of the keypad. 0 for a key that has none.
+/// The code of the event's key, as platform/keys has them; 0 for a key that has none.
 int KeyCode(const QKeyEvent& event);
 
-/// 1 Shift, 2 Ctrl, 4 Alt, added up.
+/// The modifiers that are held, added up.
 int ShiftState(Qt::KeyboardModifiers modifiers);

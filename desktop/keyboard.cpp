@@ -15,10 +15,10 @@
 #include "desktop/stop_order.h"
 #include "desktop/stops.h"
 #include "desktop/tips.h"
+#include "platform/keys.h"
 
 namespace {
 
-constexpr int TabKey = 9;
 constexpr int LongStep = 5;  // with Shift
 
 // What a key does to the pointer: a step, or a press.
@@ -30,15 +30,15 @@ struct PointerKey {
 
 constexpr PointerKey PointerKeys[] = {
     // clang-format off
-    // key            step        press
-    { 87,            { 0, -1}, Qt::NoButton},     // W
-    { 65,            {-1,  0}, Qt::NoButton},     // A
-    { 83,            { 0,  1}, Qt::NoButton},     // S
-    { 68,            { 1,  0}, Qt::NoButton},     // D
-    { 45,            { 0,  0}, Qt::LeftButton},   // Insert
-    { 46,            { 0,  0}, Qt::RightButton},  // Delete
-    { 96,            { 0,  0}, Qt::LeftButton},   // the same on the number pad
-    {110,            { 0,  0}, Qt::RightButton},
+    // key            step      button
+    {'W',            { 0, -1}, Qt::NoButton},
+    {'A',            {-1,  0}, Qt::NoButton},
+    {'S',            { 0,  1}, Qt::NoButton},
+    {'D',            { 1,  0}, Qt::NoButton},
+    {InsertKey,      { 0,  0}, Qt::LeftButton},
+    {DeleteKey,      { 0,  0}, Qt::RightButton},
+    {Pad0Key,        { 0,  0}, Qt::LeftButton},  // the same keys on the number pad
+    {PadDecimalKey,  { 0,  0}, Qt::RightButton},
     // clang-format on
 };
 

@@ -6,15 +6,15 @@
 
 #include "desktop/key_codes.h"
 #include "desktop/scale.h"
+#include "platform/keys.h"
 
 namespace {
 
-// 1 left, 2 right, 4 middle, added up.
 int ButtonCode(Qt::MouseButtons buttons) {
     int code = 0;
-    if (buttons & Qt::LeftButton) code += 1;
-    if (buttons & Qt::RightButton) code += 2;
-    if (buttons & Qt::MiddleButton) code += 4;
+    if (buttons & Qt::LeftButton) code += LeftButton;
+    if (buttons & Qt::RightButton) code += RightButton;
+    if (buttons & Qt::MiddleButton) code += MiddleButton;
     return code;
 }
 

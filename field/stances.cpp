@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr float StanceStepCost = 4;
-constexpr float SwitchCost = 4;
 constexpr int SwitchColumn = 30;  // where the switch's voice sounds
 
 }  // namespace
@@ -23,7 +21,7 @@ void SetStance(int newStance) {
     RunOperation([newStance] {
         Unit& unit = UnitTable[curUnit];
         const int steps = std::abs(unit.stance - newStance);
-        if (!Spend(StanceStepCost * static_cast<float>(steps), "time")) return;
+        if (!Spend(static_cast<float>(StanceTime * steps), "time")) return;
         TheAudience().StanceChanged(newStance);
         unit.stance = newStance;
         PaintUnit(0, 0);
@@ -34,7 +32,7 @@ void SetStance(int newStance) {
 
 void SwitchFiring() {
     RunOperation([] {
-        if (!Spend(SwitchCost, "time")) return;
+        if (!Spend(SwitchingTime, "time")) return;
         fireInMotion = !fireInMotion;
         TheAudience().FiringSwitched();
         ShowStatus("stance");

@@ -1,6 +1,5 @@
 #include "field/walking.h"
 
-#include <array>
 #include <cstdlib>
 
 #include "field/geometry.h"
@@ -14,23 +13,6 @@
 #include "state/state.h"
 
 namespace {
-
-struct StepCost {
-    int time;
-    int energy;
-};
-
-// clang-format off
-constexpr std::array<StepCost, 4> StepCosts = {{
-    // time  energy            cost of one step, by stance
-    {    8,     6 },         // prone
-    {    6,     5 },         // crouch
-    {    4,     1 },         // stand
-    {    2,     3 },         // run
-}};
-// clang-format on
-
-constexpr float TurnCost = 1;  // time for 45 degrees
 
 const StepCost& CostOfStep(const Unit& unit) {
     return StepCosts.at(static_cast<std::size_t>(int{unit.stance}));
@@ -72,12 +54,12 @@ bool Step(Unit& unit, int dir) {
 
 // ODDITY: a turn that runs out of time stops on its way and doesn't look, and yet counts as done.
 bool Turn(Unit& unit, int dir) {
-    if (!Spend(TurnCost, "time")) return false;
+    if (!Spend(TurnTime, "time")) return false;
     for (;;) {
         unit.facing = TurnedBy45(unit.facing, dir);
         PaintUnit(0, 0);
         if (unit.facing == dir) break;
-        if (!Spend(TurnCost, "time")) return true;
+        if (!Spend(TurnTime, "time")) return true;
     }
     UnitLookEnemies();
     return true;

@@ -2,6 +2,27 @@
 // by any other route; the computer player uses the same three.
 #pragma once
 
+#include <array>
+
+/// What one step costs; the energy is doubled for who carries more than his strength.
+struct StepCost {
+    int time;
+    int energy;
+};
+
+// clang-format off
+/// By stance.
+constexpr std::array<StepCost, 4> StepCosts = {{
+    // time  energy
+    {    8,     6 },  // prone
+    {    6,     5 },  // crouch
+    {    4,     1 },  // stand
+    {    2,     3 },  // run
+}};
+// clang-format on
+
+constexpr int TurnTime = 1;  // for 45 degrees
+
 /// Turns the current unit to the one of eight directions that is nearest to a pixel of the field.
 void TurnTowards(float px, float py);
 

@@ -27,10 +27,6 @@ void PassToNextTeam() {
     } while (teamLast[curTeam] == -1);
 }
 
-int TimeOfTurn(const Unit& unit) {
-    return unit.agility * 2;
-}
-
 // ODDITY: energy that passes twice the strength jumps to three times it; a rested soldier suddenly has
 // plenty.
 void Refill(Unit& unit) {
@@ -112,6 +108,10 @@ void Grant(i16 Unit::*purse, const char* what) {
 }
 
 }  // namespace
+
+int TimeOfTurn(const Unit& unit) {
+    return unit.agility * 2;
+}
 
 void NewTurn() {
     ChargeTick();

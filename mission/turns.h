@@ -2,6 +2,11 @@
 // routines call one another and go on after the inner call has returned.
 #pragma once
 
+struct Unit;
+
+/// The time that a unit has at the beginning of its turn.
+int TimeOfTurn(const Unit& unit);
+
 /// The next team's turn: refills its units and selects the first that can act.
 void NewTurn();
 

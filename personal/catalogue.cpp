@@ -2,12 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
+#include "data/new_item.h"
 #include "data/tables.h"
 #include "data/weapons_file.h"
 #include "personal/info_form.h"
 #include "personal/inventory.h"
+#include "platform/keys.h"
 #include "platform/rounding.h"
 #include "view/slots.h"
 
@@ -16,50 +17,6 @@ namespace {
 constexpr int KeyPause = 800;    // milliseconds before a held key steps again, once one was let go
 constexpr int ArrowPause = 400;  // the same for an arrow under the mouse
 
-// Feeds of new things whose row's kind doesn't tell. Magazines and rounds of the main feed alike.
-struct NewFeed {
-    std::string_view name;
-    int main;
-    int rounds;
-    int second;
-};
-
-// clang-format off
-constexpr std::array<NewFeed, 30> NewFeeds = {{
-    // name        main rounds second
-    {"mm1",          0,  0, 12},
-    {"m203",         0,  0,  1},
-    {"m4m203",       0,  0,  1},
-    {"steyrm203",    0,  0,  1},
-    {"xm8xm320",     0,  0,  1},
-    {"famasm203",    0,  0,  1},
-    {"xm8lss",       0,  0,  6},
-    {"nova",         0,  0,  6},
-    {"spas",         0,  0,  6},
-    {"mkey",         0,  0,  5},
-    {"rem870s",      0,  0,  5},
-    {"super90",      0,  0,  7},
-    {"rem870m",      0,  0,  7},
-    {"jackham",      0,  0, 10},
-    {"rem870l",      0,  0,  8},
-    {"rem870gs",     0,  0,  8},
-    {"thronives",    3,  3,  0},
-    {"shuriken",     4,  4,  0},
-    {"shaken",       4,  4,  0},
-    {"crossbow",     0,  0,  1},
-    {"airpipe",      0,  0,  1},
-    {"anschutz",    25,  0,  0},
-    {"anslgw",       1,  0,  0},
-    {"anslgg",       1,  0,  0},
-    {"anslgs",       1,  0,  0},
-    {"american",   220,  0,  0},
-    {"luger",        8,  0,  0},
-    {"lahti",        8,  0,  0},
-    {"smle",        10,  0,  0},
-    {"smlet",       10,  0,  0},
-}};
-// clang-format on
-
 struct CatalogueKey {
     int code;
     CatalogueStep step;
@@ -67,10 +24,10 @@ struct CatalogueKey {
 };
 
 constexpr std::array<CatalogueKey, 4> CatalogueKeys = {{
-    {38, PreviousRow, PreviousFeed},   // up
-    {104, PreviousRow, PreviousFeed},  // 8 of the number pad
-    {40, NextRow, NextFeed},           // down
-    {98, NextRow, NextFeed},           // 2 of the number pad
+    {UpKey, PreviousRow, PreviousFeed},
+    {Pad8Key, PreviousRow, PreviousFeed},
+    {DownKey, NextRow, NextFeed},
+    {Pad2Key, NextRow, NextFeed},
 }};
 
 InvItem& Held() {
@@ -149,26 +106,6 @@ void StepCatalogue() {
     }
     ShowSlot(0, frmInfo);
     ShowOrigin();
-}
-
-InvItem MakeItem(const WeaponInfo& row) {
-    InvItem item;
-    item.name = row.name;
-    item.durab = row.durab;
-    item.ammoMain = row.weaponClass;
-    item.ammoSecond = row.ammoSecond;
-    item.count = row.unitCount;
-    for (const NewFeed& feed : NewFeeds) {
-        if (feed.name != row.name) continue;
-        item.capMain = feed.main;
-        item.roundsMain = feed.rounds;
-        item.capSecond = feed.second;
-        return item;
-    }
-    if (row.kind == "a" || row.kind == "i") item.capMain = ItemKindByName(row.weaponClass).sizes[0];
-    if (row.kind == "w") item.capMain = 1;
-    item.roundsMain = item.capMain;
-    return item;
 }
 
 void imgUpDn_MouseDown(int arrow) {

@@ -2,17 +2,12 @@
 // in the soldier's hand, at no price. A key or arrow that is held steps on by itself, faster and faster.
 #pragma once
 
-#include "state/state.h"
-
 /// The step that is held down, as arrowCode has it.
 enum CatalogueStep { NoStep, PreviousRow, NextRow, PreviousFeed, NextFeed };
 
 /// Does the step of arrowCode: weaponPage goes to the next row and a new thing made from it replaces slot 0,
 /// or its feed gets the next size.
 void StepCatalogue();
-
-/// A new thing of a row, with the feeds that such things come with.
-InvItem MakeItem(const WeaponInfo& row);
 
 /// An arrow, 1 to 3, is pressed and let go.
 void imgUpDn_MouseDown(int arrow);

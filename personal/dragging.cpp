@@ -5,6 +5,7 @@
 
 #include "data/weapons_file.h"
 #include "personal/inventory.h"
+#include "platform/keys.h"
 #include "platform/picture_file.h"
 #include "platform/rounding.h"
 #include "state/state.h"
@@ -160,7 +161,6 @@ void personal::Form_MouseMove(float x, float y) {
 }
 
 void personal::Form_MouseDown(int button, float x, float y) {
-    constexpr int RightButton = 2;
     const int slot = SlotAt(x, y);
     if (button != RightButton)
         PressAt(slot);

@@ -28,7 +28,7 @@ namespace personal {
 /// Names what lies under the pointer, lights up when the carried thing fits it, and draws that along.
 void Form_MouseMove(float x, float y);
 
-/// The right button (2) takes a magazine out of a weapon, any other takes up, lays down and trades.
+/// The right button takes a magazine out of a weapon, any other takes up, lays down and trades.
 void Form_MouseDown(int button, float x, float y);
 
 }  // namespace personal

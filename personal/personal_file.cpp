@@ -13,6 +13,7 @@
 #include "personal/info_form.h"
 #include "personal/inventory.h"
 #include "platform/host.h"
+#include "platform/keys.h"
 #include "state/operation.h"
 #include "state/state.h"
 #include "view/depot_form.h"
@@ -113,7 +114,6 @@ void picB1_MouseUp() {
 }
 
 void personal::Form_KeyDown(int code, int shift) {
-    constexpr int EnterKey = 13;
     if (code == EnterKey)
         CloseInfo();
     else

@@ -22,9 +22,8 @@ struct InputEvent {
     EventKind kind = EventKind::KeyDown;
     std::string control;  // "frmField", "frmField.area", "frmField.imgStance"
     int index = -1;       // place in a control array, -1 for a control on its own
-    int code =
-        0;  // key code; mouse button, 1 left, 2 right, 4 middle, those held added up in a move; index; value
-    int shift = 0;  // 1 Shift, 2 Ctrl, 4 Alt, added up
+    int code = 0;  // key or mouse button, as platform/keys has them, in a move the buttons held; index; value
+    int shift = 0;  // modifiers held
     float x = 0;    // pixels within the control
     float y = 0;
 

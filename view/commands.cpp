@@ -11,6 +11,7 @@
 #include "mission/orders.h"
 #include "mission/turns.h"
 #include "personal/personal_file.h"
+#include "platform/keys.h"
 #include "platform/rounding.h"
 #include "state/state.h"
 #include "view/field_form.h"
@@ -34,28 +35,28 @@ void StepKey(int dir) {
 }
 
 constexpr KeyCommand KeyCommands[] = {
-    {13, [](int) { OpenInfo(); }, 0},        // Enter
-    {27, [](int) { TimeSpendAll(); }, 0},    // Esc
-    {32, [](int) { SelectNextUnit(); }, 0},  // Space
-    {33, StepKey, NorthEast},                // Page Up
-    {34, StepKey, SouthEast},                // Page Down
-    {35, StepKey, SouthWest},                // End
-    {36, StepKey, NorthWest},                // Home
-    {37, StepKey, West},                     // the arrows
-    {38, StepKey, North},
-    {39, StepKey, East},
-    {40, StepKey, South},
-    {97, StepKey, SouthWest},  // the number pad
-    {98, StepKey, South},
-    {99, StepKey, SouthEast},
-    {100, StepKey, West},
-    {102, StepKey, East},
-    {103, StepKey, NorthWest},
-    {104, StepKey, North},
-    {105, StepKey, NorthEast},
-    {219, StepMode, -1},                          // [
-    {77, [](int) { ToggleBigMap(); }, 0, false},  // M
-    {221, StepMode, +1},                          // ]
+    {EnterKey, [](int) { OpenInfo(); }, 0},
+    {EscapeKey, [](int) { TimeSpendAll(); }, 0},
+    {SpaceKey, [](int) { SelectNextUnit(); }, 0},
+    {PageUpKey, StepKey, NorthEast},
+    {PageDownKey, StepKey, SouthEast},
+    {EndKey, StepKey, SouthWest},
+    {HomeKey, StepKey, NorthWest},
+    {LeftKey, StepKey, West},
+    {UpKey, StepKey, North},
+    {RightKey, StepKey, East},
+    {DownKey, StepKey, South},
+    {Pad1Key, StepKey, SouthWest},
+    {Pad2Key, StepKey, South},
+    {Pad3Key, StepKey, SouthEast},
+    {Pad4Key, StepKey, West},
+    {Pad6Key, StepKey, East},
+    {Pad7Key, StepKey, NorthWest},
+    {Pad8Key, StepKey, North},
+    {Pad9Key, StepKey, NorthEast},
+    {OpenBracketKey, StepMode, -1},
+    {'M', [](int) { ToggleBigMap(); }, 0, false},
+    {CloseBracketKey, StepMode, +1},
 };
 
 int CellUnder(float pixel) {
@@ -91,8 +92,8 @@ void Form_KeyDown(int code) {
 }
 
 void area_MouseDown(int button, float x, float y) {
-    if (button == 1) OrderByClick(CellUnder(x), CellUnder(y), x, y);
-    if (button == 2) ActAt(x, y);
+    if (button == LeftButton) OrderByClick(CellUnder(x), CellUnder(y), x, y);
+    if (button == RightButton) ActAt(x, y);
 }
 
 void area_MouseMove(float x, float y) {

@@ -7,7 +7,7 @@ struct Form;
 /// A key was pressed on the main window; `code` is its virtual key code.
 void Form_KeyDown(int code);
 
-/// A mouse button, 1 left or 2 right, was pressed on the field at a pixel of it.
+/// A mouse button was pressed on the field at a pixel of it.
 void area_MouseDown(int button, float x, float y);
 
 /// The pointer moved over the field.

@@ -6,6 +6,7 @@
 
 #include "combat/things.h"
 #include "data/terrain.h"
+#include "platform/keys.h"
 #include "state/chance.h"
 #include "state/operation.h"
 #include "tests/support/game_test.h"
@@ -137,7 +138,7 @@ TEST_F(FlightTest, AShotInTheMiddleOfAnotherLeavesItItsTrailAndStrength) {
     cellGrid[3][8].tileY = Various;
     cellGrid[3][8].tileX = 10;
     Load(100, 2000);
-    host.Queue(PressOn(3, 13, 2), host.pumps + 2);
+    host.Queue(PressOn(3, 13, RightButton), host.pumps + 2);
     RunOperation([] { BulletFly(80, 70, 270, 70); });
     EXPECT_EQ(UnitTable[0].handRounds, 29) << "the other shot was fired";
     EXPECT_EQ(bulletPower, 100);

@@ -3,6 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QMessageBox>
 
+#include "platform/keys.h"
 #include "test_form.h"
 
 namespace {
@@ -135,7 +136,7 @@ TEST_F(DesktopTest, AModalFormThatIsHiddenAndShownWithinAnEventStaysWithoutAFlic
         answer = [&](const InputEvent& event) {
             if (event.kind != EventKind::KeyDown) return;
             dialog.Visible = false;
-            if (event.code == 13) return;
+            if (event.code == EnterKey) return;
             dialog.Visible = true;
             if (nested) host.ShowModal(dialog);
         };

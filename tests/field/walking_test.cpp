@@ -2,6 +2,7 @@
 #include "field/walking.h"
 
 #include "data/terrain.h"
+#include "platform/keys.h"
 #include "tests/support/game_test.h"
 
 namespace {
@@ -170,9 +171,9 @@ TEST_F(WalkingTest, ANewerOrderEndsAWalkOrItsSearchAndIsNotLost) {
         int current, cellX, cellY;
     };
     const Case cases[] = {
-        {"a click after eleven steps", PressOn(30, 40, 1), 30, 1, 0, 41, 20},
-        {"two clicks in the search", PressOn(30, 15, 1), 5, 2, 0, 30, 15},
-        {"a selection after three steps", PressOn(10, 10, 1), 22, 1, 1, 33, 20},
+        {"a click after eleven steps", PressOn(30, 40, LeftButton), 30, 1, 0, 41, 20},
+        {"two clicks in the search", PressOn(30, 15, LeftButton), 5, 2, 0, 30, 15},
+        {"a selection after three steps", PressOn(10, 10, LeftButton), 22, 1, 1, 33, 20},
     };
     for (const Case& c : cases) {
         ClearField();
@@ -183,7 +184,7 @@ TEST_F(WalkingTest, ANewerOrderEndsAWalkOrItsSearchAndIsNotLost) {
         lastClickY = 20;
         for (int i = 0; i < c.clicks; ++i)
             host.Queue(c.event, host.pumps + c.pumps);
-        Dispatch(PressOn(50, 20, 1));
+        Dispatch(PressOn(50, 20, LeftButton));
         EXPECT_EQ(curUnit, c.current) << c.what;
         EXPECT_EQ(unit.facing == East, c.current == 1) << c.what << ": no more step was begun";
         EXPECT_EQ(unit.cellX, c.cellX) << c.what;

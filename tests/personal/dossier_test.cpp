@@ -3,6 +3,7 @@
 
 #include "personal/info_form.h"
 #include "personal/personal_file.h"
+#include "platform/keys.h"
 #include "tests/support/game_test.h"
 #include "view/depot_form.h"
 #include "view/stored_pictures.h"
@@ -71,10 +72,10 @@ TEST_F(DossierTest, TheButtonBringsTheInformationAndThenLeavesTheFile) {
     const auto face = [](int place) { return frmInfo.picB1.canvas.SameAs(*frmDepot.imgBut[place].Picture); };
     EXPECT_TRUE(face(8) && !frmInfo.Picture2.Visible);
     for (const auto& [pressed, released] : {std::pair{9, 6}, {7, 8}}) {
-        Dispatch({EventKind::MouseDown, "frmInfo.picB1", -1, 1});
+        Dispatch({EventKind::MouseDown, "frmInfo.picB1", -1, LeftButton});
         EXPECT_TRUE(face(pressed)) << pressed;
         EXPECT_EQ(host.sounds.back().fileName, "\\wav\\click.wav");
-        Dispatch({EventKind::MouseUp, "frmInfo.picB1", -1, 1});
+        Dispatch({EventKind::MouseUp, "frmInfo.picB1", -1, LeftButton});
         EXPECT_TRUE(face(released)) << released;
         EXPECT_EQ(frmInfo.Picture2.Visible, released == 6);
     }

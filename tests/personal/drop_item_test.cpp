@@ -1,6 +1,6 @@
 // What happens when one thing is laid on another, case by case.
+#include "data/new_item.h"
 #include "data/weapons_file.h"
-#include "personal/catalogue.h"
 #include "personal/dragging.h"
 #include "personal/info_form.h"
 #include "personal/personal_file.h"

@@ -1,26 +1,21 @@
 // The window of a soldier's file, driven through the door that its events come by.
 #include "personal/personal_file.h"
-#include "combat/fire_modes.h"
-
-#include <sstream>
 
 #include "combat/actions.h"
 #include "combat/explosions.h"
+#include "combat/fire_modes.h"
 #include "combat/things.h"
+#include "data/new_item.h"
 #include "data/terrain.h"
 #include "data/weapons_file.h"
-#include "personal/catalogue.h"
 #include "personal/dragging.h"
 #include "personal/info_form.h"
 #include "personal/inventory.h"
+#include "platform/keys.h"
 #include "tests/support/game_test.h"
 #include "tools/field_tile.h"
 
 namespace {
-
-constexpr int EnterKey = 13;
-constexpr int UpKey = 38;
-constexpr int DownKey = 40;
 
 class PersonalFileTest : public GameTest {
   protected:
@@ -32,14 +27,14 @@ class PersonalFileTest : public GameTest {
     Unit& Self() { return UnitTable[curUnit]; }
     InvItem& In(int slot) { return Self().items[slot]; }
 
-    static void At(EventKind kind, float x, float y, int button = 1) {
+    static void At(EventKind kind, float x, float y, int button = LeftButton) {
         Dispatch({kind, "frmInfo", -1, button, 0, x, y});
     }
-    static void On(EventKind kind, int slot, int button = 1) {
+    static void On(EventKind kind, int slot, int button = LeftButton) {
         const ImageControl& image = frmInfo.imgInv[slot];
         At(kind, static_cast<float>(image.Left + 5), static_cast<float>(image.Top + 5), button);
     }
-    static void Press(int slot, int button = 1) { On(EventKind::MouseDown, slot, button); }
+    static void Press(int slot, int button = LeftButton) { On(EventKind::MouseDown, slot, button); }
     static void Key(EventKind kind, int code, int shift = 0) { Dispatch({kind, "frmInfo", -1, code, shift}); }
     static void Strike(int code, int shift = 0) {
         Key(EventKind::KeyDown, code, shift);
@@ -69,7 +64,7 @@ TEST_F(PersonalFileTest, AThingIsTakenUpFollowsThePointerAndGoesHome) {
     Key(EventKind::KeyDown, EnterKey);
     EXPECT_TRUE(frmInfo.Visible) << "neither paged nor closed with a thing in hand";
     EXPECT_EQ(shownUnit, 0);
-    Dispatch({EventKind::MouseDown, "frmInfo.imgAward", 12, 1, 0, 30, 20});
+    Dispatch({EventKind::MouseDown, "frmInfo.imgAward", 12, LeftButton, 0, 30, 20});
     EXPECT_EQ(In(0).name, "m4");
     EXPECT_EQ(frmInfo.imgDrag.Width, 42);
     Press(0);
@@ -84,22 +79,22 @@ TEST_F(PersonalFileTest, AThingIsTakenUpFollowsThePointerAndGoesHome) {
 
 TEST_F(PersonalFileTest, TheRightButtonTakesTheMagazineOut) {
     LoadInfo();
-    Press(0, 2);
+    Press(0, RightButton);
     EXPECT_EQ(In(0).capMain, 0);
     EXPECT_EQ(In(PointerSlot).name, "5nato");
     EXPECT_EQ(In(PointerSlot).roundsMain, 30);
     EXPECT_EQ(frmInfo.imgDrag.Top, 218) << "it comes up where the weapon lies";
     At(EventKind::MouseMove, 300, 100, 0);
     EXPECT_EQ(std::pair(frmInfo.imgDrag.Left, frmInfo.imgDrag.Top), std::pair(300 - 21, 100 - 21));
-    Press(1, 2);
+    Press(1, RightButton);
     EXPECT_EQ(In(1).capMain, 31) << "one thing at a time";
     Press(0);
     EXPECT_EQ(In(0).roundsMain, 30);
     EXPECT_EQ(std::tuple(frmInfo.imgDrag.Left, frmInfo.imgDrag.Top, frmInfo.imgDrag.Width),
               std::tuple(328, 168, 42));
-    Press(4, 2);
+    Press(4, RightButton);
     EXPECT_FALSE(Dragging()) << "a helmet has no magazine";
-    Press(4, 4);
+    Press(4, MiddleButton);
     EXPECT_TRUE(Dragging()) << "any other button takes up";
 }
 
@@ -218,7 +213,7 @@ TEST_F(PersonalFileTest, AnOrderToTheStoreIsGivenUpWhenAnotherSoldierWasSelected
         lastClickX = 0;
         if (paged) host.Queue({EventKind::Click, "frmInfo.cmdNext"});
         host.Queue({EventKind::CloseRequest, "frmInfo"});
-        Dispatch(PressOn(x, Self().cellY, 1));
+        Dispatch(PressOn(x, Self().cellY, LeftButton));
         EXPECT_EQ(curUnit, paged ? 1 : 0);
         EXPECT_EQ(lastClickX, paged ? 0 : x);
     }
@@ -234,7 +229,7 @@ TEST_F(PersonalFileTest, WhatFliesKeepsItsPowerAndNoMoreIsFiredWhenTheWeaponIsPu
         Self().time = 80;
         host.Queue({EventKind::Click, "frmField.picBarWeapon"}, host.pumps + 1);
         for (const float x : {200.0F, 35.0F})  // from the hand into the place beside it
-            host.Queue({EventKind::MouseDown, "frmInfo", -1, 1, 0, x, 225});
+            host.Queue({EventKind::MouseDown, "frmInfo", -1, LeftButton, 0, x, 225});
         host.Queue({EventKind::KeyDown, "frmInfo", -1, EnterKey});
         ActOnTarget(6 * 20 + 10, 30);
         EXPECT_EQ(In(1).name, thing);
@@ -276,7 +271,7 @@ TEST_F(PersonalFileTest, TheCatalogueStepsThroughItsRowsAndSizes) {
     Strike(DownKey);
     EXPECT_EQ(In(0).name, weaponTable.back().name) << "the last one stays";
     weaponPage = WeaponIndex("knife") - 1;
-    Strike(98);
+    Strike(Pad2Key);
     EXPECT_EQ(In(0).name, "knife");
     EXPECT_FALSE(frmInfo.imgUpDn[2].Visible || frmInfo.imgUpDn[3].Visible) << "it has no sizes";
     weaponPage = 2;
@@ -299,9 +294,9 @@ TEST_F(PersonalFileTest, AHeldKeyStepsFasterAndFaster) {
     Key(EventKind::KeyUp, DownKey);
     EXPECT_FALSE(frmInfo.timerArrow.Enabled);
     const int page = weaponPage;
-    Dispatch({EventKind::MouseDown, "frmInfo.imgUpDn", 1, 1});
+    Dispatch({EventKind::MouseDown, "frmInfo.imgUpDn", 1, LeftButton});
     EXPECT_TRUE(frmInfo.timerArrow.Enabled);
-    Dispatch({EventKind::MouseUp, "frmInfo.imgUpDn", 1, 1, 0, 500, -20});  // wherever that is
+    Dispatch({EventKind::MouseUp, "frmInfo.imgUpDn", 1, LeftButton, 0, 500, -20});  // wherever that is
     Dispatch({EventKind::Timer, "frmInfo.timerArrow"});
     EXPECT_EQ(weaponPage, page + 1);
     EXPECT_EQ(frmInfo.timerArrow.Interval, 400) << "an arrow waits half as long as a key";
@@ -332,31 +327,6 @@ TEST_F(PersonalFileTest, TheBinWaitsOverTheWholePlaceOfTheHandAndThrowsWhatIsInI
     EXPECT_EQ(frmInfo.imgFlag.PictureName + frmInfo.imgFlag.ToolTipText, "") << "nobody made nothing";
 }
 
-TEST_F(PersonalFileTest, NewThingsHaveTheFeedsOfTheirNameOrKind) {
-    struct Case {
-        const char* names;
-        int main, rounds, second;
-    };
-    // clang-format off
-    constexpr Case Cases[] = {
-        {"mm1", 0, 0, 12}, {"m203 m4m203 steyrm203 xm8xm320 famasm203 crossbow airpipe", 0, 0, 1}, {"xm8lss nova spas", 0, 0, 6},
-        {"mkey rem870s", 0, 0, 5}, {"super90 rem870m", 0, 0, 7}, {"jackham", 0, 0, 10}, {"rem870l rem870gs", 0, 0, 8},
-        {"thronives", 3, 3, 0}, {"shuriken shaken", 4, 4, 0}, {"anschutz", 25, 0, 0}, {"anslgw anslgg anslgs", 1, 0, 0},
-        {"american", 220, 0, 0}, {"luger lahti", 8, 0, 0}, {"smle smlet", 10, 0, 0}, {"5nato", 10, 10, 0}, {"helmet", 100, 100, 0},
-        {"m67 knife", 1, 1, 0}, {"m4 map", 0, 0, 0}};
-    // clang-format on
-    for (const Case& c : Cases) {
-        std::istringstream names(c.names);
-        for (std::string name; names >> name;) {
-            const InvItem item = MakeItem(WeaponInfoByName(name));
-            EXPECT_EQ(item.capMain, c.main) << name;
-            EXPECT_EQ(item.capSecond, c.second) << name;
-            EXPECT_EQ(item.roundsMain, c.rounds) << name;
-        }
-    }
-    EXPECT_EQ(MakeItem(WeaponInfoByName("thronives")).durab, 300);
-}
-
 TEST_F(PersonalFileTest, PagingGoesRoundTheFitOnesAndTheSelectionFollows) {
     UnitTable[1].status = Dead;
     UnitTable[2].status = Immobile;
@@ -366,7 +336,7 @@ TEST_F(PersonalFileTest, PagingGoesRoundTheFitOnesAndTheSelectionFollows) {
         RefreshHand();
         ChooseMode(1);
     }
-    host.Queue({EventKind::KeyDown, "frmField", -1, 32});  // the field stands still meanwhile
+    host.Queue({EventKind::KeyDown, "frmField", -1, SpaceKey});  // the field stands still meanwhile
     for (const int step : {-1, -1, 1, 1, 1, -1, 1})
         host.Queue({EventKind::Click, step < 0 ? "frmInfo.cmdPrev" : "frmInfo.cmdNext"});
     OpenInfo();

@@ -7,12 +7,12 @@
 #include "field/walking.h"
 #include "mission/turns.h"
 #include "personal/info_form.h"
+#include "platform/keys.h"
 #include "state/operation.h"
 #include "tests/support/game_test.h"
 
 namespace {
 
-constexpr int SpaceKey = 32;
 constexpr int FlashPumps = 10;  // five passes, two waits each
 
 class OrdersWithinOrders : public GameTest {
@@ -58,7 +58,7 @@ TEST_F(OrdersWithinOrders, TheSoldierWhoIsSelectedMeanwhileFiresWithHisOwnAndSta
     Unit& second = Arm(1, "xm8lss", "Secondary");
     Unit& first = Arm(0, "ak", "Burst");
     AtPump(1, Key(SpaceKey));
-    AtPump(2 + FlashPumps, PressOn(10, 30, 2));
+    AtPump(2 + FlashPumps, PressOn(10, 30, RightButton));
     ActOnTarget(900, 210);
     EXPECT_EQ(first.items[0].roundsMain, 17) << "all three rounds";
     EXPECT_EQ(first.facing, East);
@@ -73,7 +73,7 @@ TEST_F(OrdersWithinOrders, TheSoldierWhoIsSelectedMeanwhileFiresWithHisOwnAndSta
 
 TEST_F(OrdersWithinOrders, WhoFallsWhileHeIsSelectedHandsOverAndTakesNoMoreOrders) {
     Arm(0, "ak", "Burst");
-    const InputEvent order = PressOn(10, 40, 2);
+    const InputEvent order = PressOn(10, 40, RightButton);
     RunOperation([&order] {
         PumpKeepingOrder([] { SelectNextUnit(); });
         UnitTable[1].status = Dead;
@@ -100,7 +100,7 @@ TEST_F(OrdersWithinOrders, ABurstEndsWithTheWeaponThatWasTakenFromTheHand) {
     Unit& unit = Arm(0, "ak", "Full auto");
     unit.time = 200;
     AtPump(2, {EventKind::Click, "frmField.picBarWeapon"});
-    AtPump(2, {EventKind::KeyDown, "frmInfo", -1, 40});  // the catalogue puts something else there
+    AtPump(2, {EventKind::KeyDown, "frmInfo", -1, DownKey});  // the catalogue puts something else there
     ActOnTarget(900, 210);
     EXPECT_NE(unit.items[0].name, "ak");
     EXPECT_EQ(unit.time, 200 - 2 * WeaponInfoByName("ak").time) << "two rounds were fired before";
@@ -112,7 +112,7 @@ TEST_F(OrdersWithinOrders, OrdersAreDroppedWhileAChargeBlows) {
     ChargeAdd(30, 30);
     UnitTable[ChargeBase].time = 10;
     for (const InputEvent& order :
-         {Key(SpaceKey), PressOn(40, 40, 2), InputEvent{EventKind::Click, "frmField.picBarWeapon"},
+         {Key(SpaceKey), PressOn(40, 40, RightButton), InputEvent{EventKind::Click, "frmField.picBarWeapon"},
           InputEvent{EventKind::Click, "frmField.cmdNextTurn"}})
         AtPump(1, order);
     NewTurn();
@@ -127,15 +127,15 @@ TEST_F(OrdersWithinOrders, OnlyOrdersEndAWalk) {
         InputEvent event;
         bool ends;
     };
-    const Case cases[] = {{Key(16), false},   // Shift
-                          {Key(101), false},  // 5 of the number pad
-                          {Key(87), false},   // W
-                          {Key(77), false},   // M, the map
-                          {PressOn(1, 1, 4), false},
+    const Case cases[] = {{Key(ShiftKey), false},
+                          {Key(Pad5Key), false},
+                          {Key('W'), false},
+                          {Key('M'), false},  // the map
+                          {PressOn(1, 1, MiddleButton), false},
                           {Key(SpaceKey), true},
-                          {Key(38), true},
-                          {Key(221), true},
-                          {PressOn(60, 10, 2), true},
+                          {Key(UpKey), true},
+                          {Key(CloseBracketKey), true},
+                          {PressOn(60, 10, RightButton), true},
                           {{EventKind::Click, "frmField.cmdNextTurn"}, true}};
     for (const Case& c : cases) {
         PutUnit(0, 10, 10);
@@ -164,7 +164,7 @@ TEST_F(OrdersWithinOrders, TheFrameIsHiddenWhereTheSoldierHasLeft) {
     curUnit = 0;
     RefreshHand();
     host.pumps = 0;
-    AtPump(4, Key(39));  // one step east in the second pass, while it is shown
+    AtPump(4, Key(RightKey));  // one step east in the second pass, while it is shown
     ScrollToUnit(0);
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(host.pumps, FlashPumps) << "the passes stay";

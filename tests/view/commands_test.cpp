@@ -3,6 +3,7 @@
 #include "state/status.h"
 
 #include "data/weapons_file.h"
+#include "platform/keys.h"
 #include "tests/support/game_test.h"
 #include "view/panel.h"
 
@@ -27,9 +28,10 @@ TEST_F(CommandsTest, ArrowsAndTheNumberPadTakeAStep) {
     struct Case {
         int key, facing, dx, dy;
     };
-    constexpr Case Cases[] = {{33, NorthEast, 1, -1},   {35, SouthWest, -1, 1}, {37, West, -1, 0},
-                              {40, South, 0, 1},        {98, South, 0, 1},      {101, East, 0, 0},
-                              {103, NorthWest, -1, -1}, {102, East, 1, 0}};
+    constexpr Case Cases[] = {{PageUpKey, NorthEast, 1, -1}, {EndKey, SouthWest, -1, 1},
+                              {LeftKey, West, -1, 0},        {DownKey, South, 0, 1},
+                              {Pad2Key, South, 0, 1},        {Pad5Key, East, 0, 0},
+                              {Pad7Key, NorthWest, -1, -1},  {Pad6Key, East, 1, 0}};
     for (const Case& c : Cases) {
         ClearField();
         PutUnit(0, 30, 20);
@@ -41,11 +43,11 @@ TEST_F(CommandsTest, ArrowsAndTheNumberPadTakeAStep) {
 }
 
 TEST_F(CommandsTest, EscGivesUpTheTurnAndMovesOnTwice) {
-    Press(27);
+    Press(EscapeKey);
     EXPECT_EQ(unit.time, 0);
     EXPECT_EQ(curUnit, 2) << "the panel hands over, then the key does";
     UnitTable[2].status = Dead;
-    Press(39);
+    Press(RightKey);
     EXPECT_EQ(curUnit, 1) << "a key on a soldier who can't act goes to the next one";
     EXPECT_EQ(UnitTable[1].cellX, 11);
 }
@@ -88,13 +90,13 @@ TEST_F(CommandsTest, TheSwitchChangesTheReadOutOfAccuracy) {
 
 TEST_F(CommandsTest, BracketsGoThroughTheModesAndStopAtTheEnds) {
     Hold("ak");
-    Press(219);
+    Press(OpenBracketKey);
     EXPECT_EQ(frmField.comboMode.ListIndex, 0);
     for (int i = 0; i < 6; ++i)
-        Press(221);
+        Press(CloseBracketKey);
     EXPECT_EQ(frmField.comboMode.Text, "Full auto");
     for (int i = 0; i < 3; ++i)
-        Press(32);
+        Press(SpaceKey);
     ASSERT_EQ(curUnit, 0);
     EXPECT_EQ(frmField.comboMode.ListIndex, 3) << "kept between selections";
     Dispatch({EventKind::Choose, "frmField.comboMode", -1, 1});

@@ -5,6 +5,7 @@
 
 #include "personal/info_form.h"
 #include "personal/personal_file.h"
+#include "platform/keys.h"
 #include "tests/support/game_test.h"
 
 namespace {
@@ -61,8 +62,8 @@ TEST_F(EventsTest, OrdersInTheComputersTurnOrWhileAChargeBlowsAreDropped) {
         Dispatch({EventKind::Click, "frmField.imgStop"});
         Dispatch({EventKind::Click, "frmField.imgStance", Prone});
         Dispatch({EventKind::Click, "frmField.cmdNextTurn"});
-        Dispatch({EventKind::KeyDown, "frmField", -1, 27});
-        Dispatch({EventKind::MouseDown, "frmField.area", -1, 2, 0, 700, 300});
+        Dispatch({EventKind::KeyDown, "frmField", -1, EscapeKey});
+        Dispatch({EventKind::MouseDown, "frmField.area", -1, RightButton, 0, 700, 300});
         Dispatch({EventKind::Choose, "frmField.comboMode", -1, 1});
         for (const char* opens : {"mnuInfo", "picBarWeapon"})
             Dispatch({EventKind::Click, std::string("frmField.") + opens});

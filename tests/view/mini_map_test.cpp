@@ -1,6 +1,7 @@
 // The mini map: where a click brings the view, the lit window, and the big map.
 #include "view/mini_map.h"
 
+#include "platform/keys.h"
 #include "tests/support/game_test.h"
 #include "view/painting.h"
 
@@ -10,7 +11,7 @@ class MiniMapTest : public GameTest {
   protected:
     MiniMapTest() { StartGame(); }
 
-    static void OnMap(EventKind kind, float x, float y, int buttons = 1) {
+    static void OnMap(EventKind kind, float x, float y, int buttons = LeftButton) {
         Dispatch({kind, "frmField.picAreaMap", -1, buttons, 0, x, y});
     }
 };
@@ -34,7 +35,7 @@ TEST_F(MiniMapTest, AClickCentresTheView) {
     }
     OnMap(EventKind::MouseMove, 0, 0, 0);
     EXPECT_EQ(frmField.HScrollArea.Value, 40) << "just moving does nothing";
-    OnMap(EventKind::MouseMove, 150, 90, 4);
+    OnMap(EventKind::MouseMove, 150, 90, MiddleButton);
     EXPECT_EQ(frmField.HScrollArea.Value, 760) << "moving with any button down scrolls";
 }
 
@@ -54,8 +55,8 @@ TEST_F(MiniMapTest, TheLitWindowFollowsTheViewAndTheField) {
 
 TEST_F(MiniMapTest, TheBigMapCoversTheFieldAndSwallowsKeys) {
     const int unit = curUnit;
-    for (const int key : {77, 27, 32}) {
-        Dispatch({EventKind::KeyDown, "frmField", -1, 77});
+    for (const int key : {int{'M'}, int{EscapeKey}, int{SpaceKey}}) {
+        Dispatch({EventKind::KeyDown, "frmField", -1, 'M'});
         EXPECT_TRUE(frmField.picAreaWhole.Visible);
         Dispatch({EventKind::KeyDown, "frmField", -1, key});
         EXPECT_FALSE(frmField.picAreaWhole.Visible) << key;

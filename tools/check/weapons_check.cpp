@@ -5,7 +5,9 @@
 #include <map>
 
 #include "campaign_rules.h"
+#include "data/mode_words.h"
 #include "data/tables.h"
+#include "data/weapon_keys.h"
 #include "nearest.h"
 #include "platform/quoted.h"
 #include "tools/check/weapon_row.h"
@@ -17,7 +19,7 @@ namespace {
 
 constexpr std::size_t MaxKey = 10;  // a key's field in the binary files
 constexpr int MaxNumber = 32767;
-constexpr std::size_t BurstPlace = 2, SecondaryPlace = 4, ModeCount = 7;
+constexpr std::size_t ModeCount = ModesOfRow.size();
 const std::vector<std::string> Kinds = {"m", "w", "a", "i", "s"};
 // Feeds whose things are weapons themselves and have a row under another key.
 const std::vector<std::string> OwnFeeds = {"knife", "gren"};
@@ -231,7 +233,7 @@ class WeaponsCheck {
         }
         if (modes.text == "0000000") Add(modes, Shortened(row.Key()) + " offers no mode", "at least one");
         if (modes.text[SecondaryPlace] == '1' && row.Text(SecondColumn).empty())
-            Add(row.Cell(SecondColumn), "the mode \"Secondary\" without a second feed",
+            Add(row.Cell(SecondColumn), "the mode " + Quoted(SecondaryMode) + " without a second feed",
                 "a kind of ammunition");
     }
 
@@ -269,7 +271,7 @@ class WeaponsCheck {
     }
 
     void CheckNamedKeys() {
-        for (const NamedKey& named : NamedKeys()) {
+        for (const WeaponKey& named : WeaponKeys()) {
             const auto found = std::find_if(rows.begin(), rows.end(),
                                             [&](const WeaponRow& row) { return row.Key() == named.key; });
             if (found != rows.end())
@@ -279,16 +281,16 @@ class WeaponsCheck {
         }
     }
 
-    void CheckNeed(const WeaponRow& row, const NamedKey& named) {
-        const std::size_t column = named.feed == Need::Second ? SecondColumn : ClassColumn;
-        if (named.feed != Need::Nothing && row.Text(column).empty())
+    void CheckNeed(const WeaponRow& row, const WeaponKey& named) {
+        const std::size_t column = named.needed == NeededFeed::Second ? SecondColumn : ClassColumn;
+        if (named.needed != NeededFeed::None && row.Text(column).empty())
             Add(row.Cell(column),
                 Shortened(row.Key()) + " has no feed here, and the game says that it " + named.why,
                 "a kind of ammunition");
     }
 
     // Told at the row that was meant, if one has a like name and no picture under it.
-    void ReportMissing(const NamedKey& named) {
+    void ReportMissing(const WeaponKey& named) {
         const std::string meant = Nearest(named.key, strangers);
         const SourcePlace end{static_cast<int>(text.lines.size()) + 1, 1};
         text.faults.Add({meant.empty() ? end : keys.at(meant), "no row is named " + Quoted(named.key),

@@ -27,50 +27,6 @@ constexpr GroupScale Scales[] = {
     {"equip",    "i", {{None, None, None, None, None}}},
     {"thing",    "s", {{None, None, None, None, None}}},
 };
-
-constexpr NamedKey Keys[] = {
-    {"hand",      Need::Main,    "is held by who holds nothing"},
-    {"ak",        Need::Main,    "is what the computer's soldiers carry"},
-    {"med",       Need::Main,    "heals"},
-    {"c4",        Need::Nothing, "is set as a charge"},
-    {"m67",       Need::Main,    "explodes where it stops"},
-    {"m67a2",     Need::Main,    "explodes where it stops"},
-    {"m367",      Need::Main,    "explodes where it stops"},
-    {"etool",     Need::Nothing, "digs and folds"},
-    {"etoolfold", Need::Nothing, "unfolds"},
-    {"bsl",       Need::Nothing, "digs"},
-    {"mpl",       Need::Nothing, "digs"},
-    {"m203",      Need::Second,  "launches grenades"},
-    {"mm1",       Need::Second,  "launches grenades"},
-    {"m4m203",    Need::Second,  "launches grenades as its second mode"},
-    {"steyrm203", Need::Second,  "launches grenades as its second mode"},
-    {"xm8xm320",  Need::Second,  "launches grenades as its second mode"},
-    {"famasm203", Need::Second,  "launches grenades as its second mode"},
-    {"xm8lss",    Need::Second,  "fires pellets as its second mode"},
-    {"mkey",      Need::Second,  "fires pellets as its second mode"},
-    {"nova",      Need::Second,  "fires pellets"},
-    {"spas",      Need::Second,  "fires pellets"},
-    {"super90",   Need::Second,  "fires pellets"},
-    {"jackham",   Need::Second,  "fires pellets"},
-    {"rem870s",   Need::Second,  "fires pellets"},
-    {"rem870m",   Need::Second,  "fires pellets"},
-    {"rem870l",   Need::Second,  "fires pellets"},
-    {"rem870gs",  Need::Second,  "fires pellets"},
-    {"crossbow",  Need::Second,  "shoots from its second feed"},
-    {"airpipe",   Need::Second,  "shoots from its second feed"},
-    {"anschutz",  Need::Main,    "has a feed of its own size"},
-    {"american",  Need::Main,    "has a feed of its own size"},
-    {"anslgw",    Need::Main,    "has a feed of its own size"},
-    {"anslgg",    Need::Main,    "has a feed of its own size"},
-    {"anslgs",    Need::Main,    "has a feed of its own size"},
-    {"luger",     Need::Main,    "has a feed of its own size"},
-    {"lahti",     Need::Main,    "has a feed of its own size"},
-    {"smle",      Need::Main,    "has a feed of its own size"},
-    {"smlet",     Need::Main,    "has a feed of its own size"},
-    {"thronives", Need::Main,    "comes in a set"},
-    {"shuriken",  Need::Main,    "comes in a set"},
-    {"shaken",    Need::Main,    "comes in a set"},
-};
 // clang-format on
 
 }  // namespace
@@ -83,8 +39,4 @@ const GroupScale* ScaleOf(std::string_view group) {
     for (const GroupScale& scale : Scales)
         if (group == scale.group) return &scale;
     return nullptr;
-}
-
-std::span<const NamedKey> NamedKeys() {
-    return Keys;
 }

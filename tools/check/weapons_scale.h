@@ -25,15 +25,3 @@ std::span<const GroupScale> GroupScales();
 
 /// nullptr for an unknown group.
 const GroupScale* ScaleOf(std::string_view group);
-
-/// What a row must have that the rules name by its key.
-enum class Need { Nothing, Main, Second };
-
-struct NamedKey {
-    const char* key;
-    Need feed;
-    const char* why;
-};
-
-/// The keys that the game's code asks for.
-std::span<const NamedKey> NamedKeys();

@@ -6,12 +6,13 @@
 #include "combat/actions.h"
 #include "combat/fire_modes.h"
 #include "combat/things.h"
+#include "data/new_item.h"
 #include "data/tables.h"
 #include "data/weapons_file.h"
 #include "field/geometry.h"
 #include "field/walking.h"
 #include "mission/setup.h"
-#include "personal/catalogue.h"
+#include "mission/turns.h"
 #include "state/chance.h"
 #include "state/operation.h"
 #include "tools/field_tile.h"
@@ -83,7 +84,7 @@ FiringRange::FiringRange() {
     teamLast[SquadTeam] = ShooterPlace;
     teamLast[EnemyTeam] = SparePlace - FirstOf(EnemyTeam);
     Unit& soldier = UnitTable[ShooterPlace];
-    soldier.time = soldier.agility * 2;
+    soldier.time = TimeOfTurn(soldier);
     shooter = soldier;
     target = UnitTable[TargetPlace];
     cells = cellGrid;
@@ -147,7 +148,7 @@ void FiringRange::SetUp(const Drill& drill) {
     modeText = fireModes.Text();
     const auto centre = [](int cell) { return static_cast<float>(cell * CellSize + HalfCell); };
     TurnTowards(centre(x), centre(y));
-    soldier.time = soldier.agility * 2;
+    soldier.time = TimeOfTurn(soldier);
     shooter = soldier;
     target = UnitTable[TargetPlace];
     cells = cellGrid;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "data/mode_words.h"
 #include "data/weapons_file.h"
 #include "tools/lab/line_chart.h"
 
@@ -45,7 +46,7 @@ std::vector<std::string> Charted(const OddsPlan& plan) {
 
 // A blade that can be thrown is charted thrown.
 int ChartedMode(const std::vector<std::string>& modes) {
-    const auto thrown = std::find(modes.begin(), modes.end(), "Throw");
+    const auto thrown = std::find(modes.begin(), modes.end(), ThrowMode);
     return thrown == modes.end() ? 0 : static_cast<int>(thrown - modes.begin());
 }
 

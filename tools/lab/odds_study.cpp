@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <nlohmann/json.hpp>
-#include <string_view>
 
+#include "data/mode_words.h"
 #include "tools/json_text.h"
 
 namespace {
 
-constexpr std::array<std::string_view, 4> HarmlessModes = {"Dig", "Fill", "Fold", "Unfold"};
+constexpr std::array HarmlessModes = {DigMode, FillMode, FoldMode, UnfoldMode};
 
 bool IsHarmless(const std::string& mode) {
     return std::find(HarmlessModes.begin(), HarmlessModes.end(), mode) != HarmlessModes.end();

@@ -6,6 +6,7 @@
 #include <iomanip>
 #include <sstream>
 
+#include "data/mode_words.h"
 #include "data/weapons_file.h"
 
 namespace {
@@ -86,7 +87,7 @@ std::string ByDistance(const std::string& title, const std::string& note, Figure
 
 // A blow reaches the next cell; anything else is fired over ten, or as far as it reaches.
 int FairDistance(const ToldOrder& order) {
-    if (order.modes == "Hit") return 1;
+    if (order.modes == HitMode) return 1;
     return std::min(MiddleDistance, static_cast<int>(WeaponInfoByName(order.weapon).range));
 }
 

@@ -7,19 +7,19 @@
 #include <vector>
 
 #include "personal/info_form.h"
+#include "platform/keys.h"
 #include "state/state.h"
 #include "view/field_form.h"
 
 namespace {
 
-constexpr int Left = 1;
-constexpr int Right = 2;
-constexpr int Middle = 4;
-
 // Those that mean something to the game, and some that don't: Shift, number pad 5, W.
-constexpr std::array<int, 25> Keys = {13, 27, 32,  33,  34,  35,  36,  37,  38,  39, 40,  77, 97,
-                                      98, 99, 100, 102, 103, 104, 105, 219, 221, 16, 101, 87};
-constexpr std::array<int, 4> CatalogueKeys = {38, 40, 98, 104};
+constexpr std::array<int, 25> Keys = {
+    EnterKey,        EscapeKey, SpaceKey, PageUpKey, PageDownKey, EndKey,  HomeKey,
+    LeftKey,         UpKey,     RightKey, DownKey,   'M',         Pad1Key, Pad2Key,
+    Pad3Key,         Pad4Key,   Pad6Key,  Pad7Key,   Pad8Key,     Pad9Key, OpenBracketKey,
+    CloseBracketKey, ShiftKey,  Pad5Key,  'W'};
+constexpr std::array<int, 4> CatalogueKeys = {UpKey, DownKey, Pad2Key, Pad8Key};
 
 // What a soldier does more with than with a rifle.
 constexpr std::array<const char*, 12> Favourites = {"c4",        "m67",     "m67a2",  "m367",
@@ -27,7 +27,7 @@ constexpr std::array<const char*, 12> Favourites = {"c4",        "m67",     "m67
                                                     "famasm203", "xm8lss",  "m4m203", "shuriken"};
 
 InputEvent Click(const char* control, int index = -1) {
-    return {EventKind::Click, control, index, Left};
+    return {EventKind::Click, control, index, LeftButton};
 }
 
 InputEvent Key(int code, int shift = 0) {
@@ -118,7 +118,7 @@ InputEvent RandomPlayer::PastTheEdge() {
     const auto kind = Draw(2) == 0 ? EventKind::MouseMove : EventKind::MouseDown;
     const float x = Places[static_cast<std::size_t>(Draw(static_cast<int>(Places.size())))];
     const float y = Places[static_cast<std::size_t>(Draw(static_cast<int>(Places.size())))];
-    return {kind, frmInfo.Visible ? "frmInfo" : "frmField.area", -1, Left, 0, x, y};
+    return {kind, frmInfo.Visible ? "frmInfo" : "frmField.area", -1, LeftButton, 0, x, y};
 }
 
 // Orders as a player gives them: to the current soldier, toward enemies and places near by.
@@ -127,19 +127,19 @@ InputEvent RandomPlayer::Sensible() {
         case 0:
             return Click("frmField.cmdNextTurn");
         case 1:
-            return Key(32);
+            return Key(SpaceKey);
         case 2:
             return Click("frmField.imgStance", Draw(4));
         case 3:
             return {EventKind::Choose, "frmField.comboMode", -1, Draw(6)};
         case 4:
-            return Key(13);
+            return Key(EnterKey);
         case 5:
         case 6:
         case 7:
-            return AtEnemy(Right);
+            return AtEnemy(RightButton);
         default:
-            return NearBy(Left);
+            return NearBy(LeftButton);
     }
 }
 
@@ -154,7 +154,7 @@ InputEvent RandomPlayer::Hasty() {
         case 3: {
             const int x = Draw(152);
             const int y = Draw(92);
-            return {EventKind::MouseDown,  "frmField.picAreaMap", -1, Left, 0,
+            return {EventKind::MouseDown,  "frmField.picAreaMap", -1, LeftButton, 0,
                     static_cast<float>(x), static_cast<float>(y)};
         }
         case 4: {
@@ -169,9 +169,9 @@ InputEvent RandomPlayer::Hasty() {
         case 6:
             return PastTheEdge();
         case 7:
-            return AtComrade(Right);
+            return AtComrade(RightButton);
         case 8:
-            return NearBy(Middle);
+            return NearBy(MiddleButton);
         default: {
             const int button = 1 + Draw(2);
             const int x = Draw(FieldWidth);
@@ -187,18 +187,18 @@ InputEvent RandomPlayer::Lasting() {
         case 0:
             return Click("frmField.cmdNextTurn");
         case 1: {
-            InputEvent walk = NearBy(Left);
+            InputEvent walk = NearBy(LeftButton);
             planned.push_back(walk);
             return walk;
         }
         case 2:
-            planned.push_back(NearBy(Right));
+            planned.push_back(NearBy(RightButton));
             break;
         case 3:
-            planned.push_back(AtComrade(Right));
+            planned.push_back(AtComrade(RightButton));
             break;
         default:
-            planned.push_back(AtEnemy(Right));
+            planned.push_back(AtEnemy(RightButton));
             break;
     }
     return {EventKind::Choose, "frmField.comboMode", -1, Draw(std::max(modes, 1))};
@@ -208,15 +208,15 @@ InputEvent RandomPlayer::Meanwhile() {
     switch (Draw(14)) {
         case 0:
         case 1:
-            return Key(32);
+            return Key(SpaceKey);
         case 2:
         case 3:
-            return AtComrade(Left);
+            return AtComrade(LeftButton);
         case 4:
         case 5:
-            return AtEnemy(Right);
+            return AtEnemy(RightButton);
         case 6:
-            return NearBy(Right);
+            return NearBy(RightButton);
         case 7:
             return Key(Keys[static_cast<std::size_t>(Draw(static_cast<int>(Keys.size())))]);
         case 8:
@@ -226,9 +226,9 @@ InputEvent RandomPlayer::Meanwhile() {
         case 10:
             return Click("frmField.imgStance", Draw(4));
         case 11:
-            return Draw(3) == 0 ? Click("frmField.cmdNextTurn") : NearBy(Middle);
+            return Draw(3) == 0 ? Click("frmField.cmdNextTurn") : NearBy(MiddleButton);
         case 12:
-            return NearBy(Left);
+            return NearBy(LeftButton);
         default:
             return Next();
     }
@@ -261,21 +261,21 @@ int RandomPlayer::SlotWithThing() {
 
 // Things are taken up, laid down, laid on one another and brought into the hand; magazines come out.
 InputEvent RandomPlayer::WithThings() {
-    if (Carries()) return OnSlot(Left, Draw(3) == 0 ? 0 : Draw(LastBoardSlot + 1));
+    if (Carries()) return OnSlot(LeftButton, Draw(3) == 0 ? 0 : Draw(LastBoardSlot + 1));
     const int slot = SlotWithThing();
     switch (Draw(4)) {
         case 0:
-            return OnSlot(Right, slot);
+            return OnSlot(RightButton, slot);
         case 1:
-            return OnSlot(Left, slot);
+            return OnSlot(LeftButton, slot);
         case 2:
-            planned.push_back(OnSlot(Left, SlotWithThing()));
-            return OnSlot(Left, slot);
+            planned.push_back(OnSlot(LeftButton, SlotWithThing()));
+            return OnSlot(LeftButton, slot);
         default:
             // Into the hand, and what was in it to where that came from.
-            planned.push_back(OnSlot(Left, 0));
-            planned.push_back(OnSlot(Left, slot));
-            return OnSlot(Left, slot);
+            planned.push_back(OnSlot(LeftButton, 0));
+            planned.push_back(OnSlot(LeftButton, slot));
+            return OnSlot(LeftButton, slot);
     }
 }
 
@@ -283,15 +283,15 @@ InputEvent RandomPlayer::WithCatalogue() {
     switch (Draw(7)) {
         case 0:
         case 1:
-            return {EventKind::MouseDown, "frmInfo.imgUpDn", 1 + Draw(3), Left};
+            return {EventKind::MouseDown, "frmInfo.imgUpDn", 1 + Draw(3), LeftButton};
         case 2:
-            return {EventKind::MouseUp, "frmInfo.imgUpDn", 1 + Draw(3), Left};
+            return {EventKind::MouseUp, "frmInfo.imgUpDn", 1 + Draw(3), LeftButton};
         case 3:
             return {EventKind::Timer, "frmInfo.timerArrow"};
         case 4:
-            return {EventKind::KeyUp, "frmInfo", -1, 40};
+            return {EventKind::KeyUp, "frmInfo", -1, DownKey};
         case 5:
-            return Draw(4) == 0 ? Click("frmInfo.imgDel") : OnSlot(Left, 0);
+            return Draw(4) == 0 ? Click("frmInfo.imgDel") : OnSlot(LeftButton, 0);
         default: {
             const int key =
                 CatalogueKeys[static_cast<std::size_t>(Draw(static_cast<int>(CatalogueKeys.size())))];
@@ -304,11 +304,11 @@ InputEvent RandomPlayer::WithCatalogue() {
 InputEvent RandomPlayer::InFile() {
     switch (Draw(20)) {
         case 0:
-            return Key(13);
+            return Key(EnterKey);
         case 1: {
             const int x = Draw(760);
             const int y = Draw(640);
-            return {EventKind::MouseDown, "frmInfo", -1, Left, 0, static_cast<float>(x),
+            return {EventKind::MouseDown, "frmInfo", -1, LeftButton, 0, static_cast<float>(x),
                     static_cast<float>(y)};
         }
         case 2: {
@@ -323,8 +323,8 @@ InputEvent RandomPlayer::InFile() {
         case 5:
             return {EventKind::CloseRequest, "frmInfo"};
         case 6:
-            planned.push_back({EventKind::MouseUp, "frmInfo.picB1", -1, Left});
-            return {EventKind::MouseDown, "frmInfo.picB1", -1, Left};
+            planned.push_back({EventKind::MouseUp, "frmInfo.picB1", -1, LeftButton});
+            return {EventKind::MouseDown, "frmInfo.picB1", -1, LeftButton};
         case 7:
             return PastTheEdge();
         case 8:
@@ -345,7 +345,8 @@ InputEvent RandomPlayer::OfOtherWindow() {
     event.kind = chosen.kind;
     event.control = chosen.control;
     event.index = chosen.places == 0 ? -1 : Draw(chosen.places);
-    event.code = chosen.kind == EventKind::KeyDown ? 40 : Left;
+    event.code = LeftButton;
+    if (chosen.kind == EventKind::KeyDown) event.code = DownKey;
     event.x = static_cast<float>(Draw(760));
     event.y = static_cast<float>(Draw(640));
     return event;

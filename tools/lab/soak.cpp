@@ -11,6 +11,7 @@
 #include "data/weapons_file.h"
 #include "personal/info_form.h"
 #include "platform/headless_host.h"
+#include "platform/keys.h"
 #include "platform/run_time_error.h"
 #include "state/state.h"
 #include "tools/lab/field_referee.h"
@@ -166,7 +167,6 @@ class SoakHost : public HeadlessHost {
 
     // Where every place is taken, the catalogue's bin makes room in the hand.
     void EmptyHand(const Form& form) {
-        constexpr int DownKey = 40;
         Give({EventKind::KeyDown, form.name, -1, DownKey});
         Give({EventKind::KeyUp, form.name, -1, DownKey});
         AtSlot(EventKind::MouseMove, 0);

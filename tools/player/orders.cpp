@@ -4,15 +4,12 @@
 #include "mission/mission_end.h"
 #include "mission/orders.h"
 #include "mission/turns.h"
+#include "platform/keys.h"
 
 namespace {
 
-constexpr int LeftButton = 1;
-constexpr int RightButton = 2;
-constexpr int SpaceKey = 32;
-
-// By facing: the arrows, Page Up, Page Down, End and Home.
-constexpr int StepKeys[] = {39, 37, 38, 40, 33, 34, 35, 36};
+// By facing.
+constexpr int StepKeys[] = {RightKey, LeftKey, UpKey, DownKey, PageUpKey, PageDownKey, EndKey, HomeKey};
 
 void (*orderDoor)(const InputEvent&) = nullptr;
 

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "field/geometry.h"
+#include "field/stances.h"
+#include "field/walking.h"
 #include "tools/player/orders.h"
 #include "tools/player/shot_odds.h"
 
@@ -19,10 +21,8 @@ constexpr Habits AllHabits[] = {
 };
 // clang-format on
 
-constexpr int StepTime[] = {8, 6, 4, 2};  // by stance
-constexpr int StanceTime = 4;             // from one to the next
-constexpr int AheadAtMost = 10;           // steps before the section's middle
-constexpr int ContactRange = 24;          // cells; an enemy farther off is the others' business
+constexpr int AheadAtMost = 10;   // steps before the section's middle
+constexpr int ContactRange = 24;  // cells; an enemy farther off is the others' business
 
 bool IsCurrent(const Unit& unit) {
     return &UnitTable[curUnit] == &unit;
@@ -148,7 +148,8 @@ bool SquadPlayer::MayWalk(const Unit& unit) {
     const std::optional<Spot> danger = Danger(unit);
     const int goingDown = habits.careful ? 2 * StanceTime : 0;
     const int kept = habits.shotsKept * unit.hand.time + goingDown;
-    if (unit.time - StepTime[danger ? habits.inContact : habits.marching] < kept) return false;
+    const Stance stance = danger ? habits.inContact : habits.marching;
+    if (unit.time - StepCosts[stance].time < kept) return false;
     if (!danger) return !habits.careful || KeepsUp(unit);
     return !NearestSeen(unit,
                         [this, &unit](Spot cell) { return DistanceBetween(unit, cell) <= habits.closest; });
