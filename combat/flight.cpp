@@ -64,36 +64,40 @@ enum class Effect { None, WearByPower, WearByTen, BreakGlass, ShowCard };
 
 // What a cell takes from a bullet, and what the bullet does to it.
 struct CellRule {
-    int terrain;
-    int first;  // tiles, both included
-    int last;
+    TileRange tiles;
     Loss power;
     Loss accur;
     Effect effect;
 };
 
-constexpr int Low = std::numeric_limits<int>::min();
-constexpr int High = std::numeric_limits<int>::max();
+constexpr int Everything = std::numeric_limits<int>::max();
 constexpr Loss Nothing = {0, 0, 0};
-constexpr Loss All = {1, 1, High};
+constexpr Loss All = {1, 1, Everything};
 
 // clang-format off
 constexpr CellRule CellRules[] = {
-    // class   tiles      power lost    accuracy lost  effect
-    {Trees,   Low, High, {20,  8},     {10,  5},      Effect::None},
-    {Wooden,    0,   10, {80, 45},     {40, 20},      Effect::WearByPower},
-    {Wooden,   11,   12, {10,  5},     {15,  5},      Effect::BreakGlass},
-    {Wooden,   16,   19, {40, 25},     {50, 20},      Effect::WearByTen},
-    {Stone,     0,   12, All,          All,           Effect::None},
-    {Stone,    13,   15, { 2,  0, 40}, { 2,  0, 30},  Effect::None},
-    {Various,  10,   10, Nothing,      Nothing,       Effect::ShowCard},
+    // class    tiles     power lost    accuracy lost  effect
+    {{Trees},            {20,  8},     {10,  5},      Effect::None},
+    {{Wooden,    0, 10}, {80, 45},     {40, 20},      Effect::WearByPower},
+    {{Wooden,   11, 12}, {10,  5},     {15,  5},      Effect::BreakGlass},
+    {{Wooden,   16, 19}, {40, 25},     {50, 20},      Effect::WearByTen},
+    {{Stone,     0, 12}, All,          All,           Effect::None},
+    {{Stone,    13, 15}, { 2,  0, 40}, { 2,  0, 30},  Effect::None},
+    {{Various,  10, 10}, Nothing,      Nothing,       Effect::ShowCard},
 };
 // clang-format on
 
+// What a body takes from a bullet that reaches it, whether it is hit or not.
+constexpr Loss BodyPower = {55, 40};
+constexpr Loss BodyAccur = {20, 10};
+
+int Drawn(const Loss& loss) {
+    return RandomInt(loss.high, loss.low) * loss.factor;
+}
+
 void Take(i16& strength, const Loss& loss) {
     if (loss.factor == 0) return;
-    const int lost =
-        loss.factor == High ? static_cast<int>(strength) : RandomInt(loss.high, loss.low) * loss.factor;
+    const int lost = loss.factor == Everything ? static_cast<int>(strength) : Drawn(loss);
     strength = std::max(strength - lost, 0);
 }
 
@@ -148,8 +152,9 @@ constexpr int LastUnitHit = 40;
 void HitOccupant(int occupant) {
     if (occupant < 0 || occupant > LastUnitHit) return;
     UnitHit(curUnit, occupant);
-    bulletPower -= 40 + RandomInt(15, 0);
-    bulletAccur -= 10 + RandomInt(10, 0);
+    // Other than a cell, a body may wear it down to below nothing.
+    bulletPower -= Drawn(BodyPower);
+    bulletAccur -= Drawn(BodyAccur);
 }
 
 }  // namespace
@@ -196,7 +201,7 @@ void BulletInCell(int x, int y) {
     HitOccupant(cellGrid[y][x].occupant);
     const int tileX = cellGrid[y][x].tileX;
     for (const CellRule& rule : CellRules) {
-        if (rule.terrain != cellGrid[y][x].tileY || tileX < rule.first || tileX > rule.last) continue;
+        if (!rule.tiles.Holds(tileX, cellGrid[y][x].tileY)) continue;
         Take(bulletPower, rule.power);
         Take(bulletAccur, rule.accur);
         ApplyEffect(rule.effect, x, y);

@@ -39,27 +39,32 @@ constexpr int UprightAngles[4][4] = {
 };
 // clang-format on
 
+constexpr double Whole = 100;  // percent
+constexpr int MostSuppression = 100;
+constexpr int SuppressionOfCell = 10;  // from the second cell on
+constexpr int AnglePercent = 50;       // for each step of HitAngle
+constexpr int MostLuck = 30;           // percent that the target may have
+
 int StanceValue(int stance) {
     return stance >= Prone && stance <= Run ? StanceValues[static_cast<std::size_t>(stance)] : 0;
 }
 
 // The chance in percent; each step is stored in single precision.
 int HitChance(float suppression, int angle, int stanceValue, int chance) {
-    auto percent = static_cast<float>(angle / 100.0 * stanceValue);
-    percent = static_cast<float>(static_cast<double>(suppression) / 100 * static_cast<double>(percent));
-    percent = static_cast<float>((100 - static_cast<double>(suppression)) + static_cast<double>(percent));
+    auto percent = static_cast<float>(angle / Whole * stanceValue);
+    percent = static_cast<float>(static_cast<double>(suppression) / Whole * static_cast<double>(percent));
+    percent = static_cast<float>((Whole - static_cast<double>(suppression)) + static_cast<double>(percent));
     percent =
-        static_cast<float>(static_cast<double>(percent) - chance / 100.0 * static_cast<double>(percent));
+        static_cast<float>(static_cast<double>(percent) - chance / Whole * static_cast<double>(percent));
     return static_cast<int>(RoundHalfEven(static_cast<double>(percent)));
 }
 
 bool RollHit(int shooter, int target) {
-    constexpr int FullSuppression = 100;
     const int distance = UnitDistance(shooter, target);
-    const int suppression = std::min((distance - 1) * 10, FullSuppression);
-    const int angle = HitAngle(shooter, target) * 50;
+    const int suppression = std::min((distance - 1) * SuppressionOfCell, MostSuppression);
+    const int angle = HitAngle(shooter, target) * AnglePercent;
     const int stanceValue = StanceValue(UnitTable[target].stance);
-    const int chance = RandomInt(30, 0);
+    const int chance = RandomInt(MostLuck, 0);
     const int percent = HitChance(static_cast<float>(suppression), angle, stanceValue, chance);
     AddToLog("dist: " + std::to_string(distance) + ", angle: " + std::to_string(angle) +
                  ", stance: " + std::to_string(stanceValue) + ", suppr: " + std::to_string(suppression) +

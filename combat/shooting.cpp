@@ -83,10 +83,10 @@ i16 DistanceTo(const Unit& unit, const Aim& aim) {
 }
 
 i16 ScatterOf(const Unit& unit, int distance) {
-    i16 spread = (100 - unit.marksmanship) + (100 - unit.hand.accur) + distance;
+    i16 spread = (FullSkill - unit.marksmanship) + (FullSkill - unit.hand.accur) + distance;
     if (spread < 0) spread = 0;
     const i16 product = distance * spread;
-    return product / 20.0;
+    return product / ScatterDivisor;
 }
 
 // A pixel up to `scatter` to either side, in single precision.

@@ -8,5 +8,5 @@
 /// line and column.
 void ReadMapLayers(const std::string& name);
 
-/// What the cell stops by its present tile: 0 nothing, 1 steps, 2 the view, 3 both.
+/// What the cell stops by its present tile, as a Blocking of data/terrain.
 int CellBlock(int x, int y);

@@ -124,7 +124,6 @@ void FillItemKinds() {
 }
 
 void FillRanks() {
-    constexpr int LongNames = 24;
     for (std::size_t rank = 0; rank < RankRows.size(); ++rank) {
         rankNames[static_cast<int>(rank)] = RankRows[rank].shortName;
         rankNames[static_cast<int>(rank) + LongNames] = RankRows[rank].longName;

@@ -6,6 +6,8 @@
 
 #include "state/state.h"
 
+constexpr int LongNames = 24;  // rankNames has the long names from there on
+
 /// Fills itemKinds, reads the weapons file, fills rankNames and awardTable. Throws RunTimeError for the file.
 void InitTables();
 

@@ -2,6 +2,8 @@
 // Shared by the game and the compiler of maps.
 #pragma once
 
+#include <limits>
+
 /// The rows of the tile sheet.
 enum Terrain {
     Surface,
@@ -29,10 +31,24 @@ constexpr int RemainsTile = 15;     // tile of class "wooden" that is shown of i
 constexpr int FirstStoreTile = 18;  // tiles of class "various" that show the squad's vehicle
 constexpr int LastStoreTile = 25;
 
+/// What a tile stops, as Cell::block has it.
+enum Blocking { BlocksNothing, BlocksSteps, BlocksView, BlocksBoth };
+
+/// The tiles of one class from `first` to `last`, all of them where nothing else is said.
+struct TileRange {
+    int terrain;
+    int first = std::numeric_limits<int>::min();
+    int last = std::numeric_limits<int>::max();
+
+    constexpr bool Holds(int tileX, int tileY) const {
+        return tileY == terrain && tileX >= first && tileX <= last;
+    }
+};
+
 /// The strength of a fresh cell with this tile.
 int CellDurab(int tileX, int tileY);
 
-/// What a cell with this tile stops: 0 nothing, 1 steps, 2 the view, 3 both.
+/// What a cell with this tile stops, as a Blocking.
 int TileBlock(int tileX, int tileY);
 
 /// The word for a terrain class, as "trees"; nullptr outside the classes.

@@ -6,24 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "data/weapon_columns.h"
 #include "platform/files.h"
 #include "platform/quoted.h"
 
 namespace {
 
-constexpr std::size_t ColumnCount = 20;
 constexpr int TabPasses = 6;  // so up to 64 tabs in a row part two columns
-
-// The columns by what they hold; those that are read differently have a name.
-enum Column : std::size_t {
-    KindColumn = 1,
-    NameColumn = 2,
-    SoundColumn = 3,
-    ModesColumn = 10,
-    CountryColumn = 17,
-    TitleColumn = 18,
-    FullNameColumn = 19
-};
 
 struct NumberColumn {
     std::size_t column;
@@ -33,15 +22,16 @@ struct NumberColumn {
 
 // Read only for what can be used as a weapon, kinds "m" and "w".
 constexpr NumberColumn WeaponNumbers[] = {
-    {4, &WeaponInfo::power, "power"}, {5, &WeaponInfo::accur, "accur"}, {6, &WeaponInfo::time, "time"},
-    {7, &WeaponInfo::range, "range"}, {8, &WeaponInfo::durab, "durab"}, {9, &WeaponInfo::param9, "9"},
+    {PowerColumn, &WeaponInfo::power, "power"}, {AccurColumn, &WeaponInfo::accur, "accur"},
+    {TimeColumn, &WeaponInfo::time, "time"},    {RangeColumn, &WeaponInfo::range, "range"},
+    {DurabColumn, &WeaponInfo::durab, "durab"}, {Param9Column, &WeaponInfo::param9, "9"},
 };
 
 constexpr NumberColumn AllNumbers[] = {
-    {13, &WeaponInfo::param13, "13"},
-    {14, &WeaponInfo::param14, "14"},
-    {15, &WeaponInfo::unitCount, "long"},
-    {16, &WeaponInfo::param16, "16"},
+    {Param13Column, &WeaponInfo::param13, "13"},
+    {Param14Column, &WeaponInfo::param14, "14"},
+    {LongColumn, &WeaponInfo::unitCount, "long"},
+    {Param16Column, &WeaponInfo::param16, "16"},
 };
 
 // A character and the column of the file's line that it came from, 1 for the first.
@@ -74,7 +64,7 @@ class Row {
         Split(placed);
         // A column is never empty but where the file was cut within its last row.
         if (!reader.LineEnded() && columns.back().text.empty()) columns.pop_back();
-        if (columns.size() < ColumnCount)
+        if (columns.size() < WeaponColumns)
             file.RefuseAt(line, static_cast<int>(text.size()) + 1,
                           "expected 20 columns, found " + std::to_string(columns.size()));
     }
@@ -138,15 +128,15 @@ class Row {
 WeaponInfo ReadRow(const Row& row) {
     WeaponInfo weapon;
     weapon.kind = row.Text(KindColumn);
-    weapon.name = row.Text(NameColumn);
+    weapon.name = row.Text(KeyColumn);
     if (weapon.kind == "m" || weapon.kind == "w") {
         weapon.sound = row.TextOr(SoundColumn, "");
         for (const NumberColumn& number : WeaponNumbers)
             weapon.*number.field = row.Number(number.column, number.name);
         row.ReadModes(weapon.modes);
     }
-    weapon.weaponClass = row.TextOr(11, "");
-    weapon.ammoSecond = row.TextOr(12, "");
+    weapon.weaponClass = row.TextOr(ClassColumn, "");
+    weapon.ammoSecond = row.TextOr(SecondColumn, "");
     for (const NumberColumn& number : AllNumbers)
         weapon.*number.field = row.Number(number.column, number.name);
     weapon.country = row.TextOr(CountryColumn, "void");

@@ -5,6 +5,7 @@
 #include <array>
 #include <string_view>
 
+#include "data/terrain.h"
 #include "platform/rounding.h"
 #include "state/state.h"
 
@@ -42,16 +43,17 @@ constexpr int CellOfPixel(int pixel) {
 
 /// Whether a cell's block lets a step, or the view, through.
 inline bool LetsStepThrough(const Cell& cell) {
-    return cell.block == 0 || cell.block == 2;
+    return cell.block == BlocksNothing || cell.block == BlocksView;
 }
 inline bool LetsViewThrough(const Cell& cell) {
-    return cell.block == 0 || cell.block == 1;
+    return cell.block == BlocksNothing || cell.block == BlocksSteps;
 }
 
 /// Whether the cell lets through a "step" or the "view"; false outside the field and for any other word.
 bool CellOpen(std::string_view kind, int x, int y);
 
-/// Whether a unit can step on the cell, any coordinates may be asked for: in the field, nobody there, open to a step.
+/// Whether a unit can step on the cell, any coordinates may be asked for: in the field, nobody there, open to
+/// a step.
 bool CellFreeToStep(int x, int y);
 
 /// Whether the cell is one of the eight tiles of the squad's vehicle.

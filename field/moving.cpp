@@ -16,8 +16,9 @@ void SettleInCell(Unit& unit) {
 
 void WaitForPixel(const Unit& unit) {
     constexpr int SlowestWaits = 4;
+    constexpr int Wait = 20;
     for (int i = 0; i < SlowestWaits - unit.stance; ++i)
-        Delay(20, "normal");
+        Delay(Wait, "normal");
 }
 
 void MoveSeen(Unit& unit, int dx, int dy) {

@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr int LongestWalk = 100;  // steps of one order
+
 void SelectClicked(int clicked) {
     curUnit = clicked - 1;
     AddToLog("Selected " + LogName(clicked) + "  from team #" + std::to_string(curTeam), 1);
@@ -46,7 +48,7 @@ bool SelectAt(int cellX, int cellY) {
 void GoTo(int cellX, int cellY, float x, float y) {
     walkOn = 1;
     if (cellX == lastClickX && cellY == lastClickY) {
-        WalkTo(cellX, cellY, 100);
+        WalkTo(cellX, cellY, LongestWalk);
         return;
     }
     lastClickX = cellX;

@@ -92,7 +92,7 @@ LandingCell FirstFreeCell() {
 }
 
 LandingCell RandomFreeCell() {
-    constexpr int Tries = 6992;
+    constexpr int Tries = 2 * FieldWidth * FieldHeight;
     for (int i = 0; i < Tries; ++i) {
         const int x = RandomInt(FieldWidth - 1, 0);
         const int y = RandomInt(FieldHeight - 1, 0);

@@ -6,6 +6,7 @@
 
 #include "data/campaign_files.h"
 #include "data/countries_file.h"
+#include "data/tables.h"
 #include "personal/info_form.h"
 #include "platform/code_page.h"
 #include "platform/rounding.h"
@@ -18,7 +19,12 @@
 namespace {
 
 constexpr bool WithShadow = true;
-constexpr int LongNames = 24;  // rankNames has the long names from there on
+
+// Where the typewriter starts, in pixels of the window.
+constexpr int RankLeft = 240;
+constexpr int RankTop = 80;
+constexpr int AttributesLeft = 440;
+constexpr int AttributesTop = 120;
 
 struct Attribute {
     const char* label;
@@ -49,7 +55,7 @@ constexpr std::array<Attribute, 14> Attributes = {{
 
 std::string Lower(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
+        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 'a' - 'A') : letter;
     });
     return text;
 }
@@ -76,8 +82,8 @@ void TypeRow(const Attribute& row, int value, int x, int y) {
 }
 
 void TypeAttributes(const Unit& unit) {
-    int x = 440;
-    int y = 120;
+    int x = AttributesLeft;
+    int y = AttributesTop;
     for (const Attribute& row : Attributes) {
         TypeRow(row, unit.*row.field, x, y);
         x = y = AtThePen;
@@ -95,7 +101,7 @@ void FillDossier() {
     const Unit& unit = UnitTable[curUnit];
     const std::string& rank = rankNames[unit.rank];
     LoadPicture(frmInfo.imgFace, FaceFile(unit));
-    Typewriter("  " + rank, WithShadow, frmInfo.canvas, 240, 80);
+    Typewriter("  " + rank, WithShadow, frmInfo.canvas, RankLeft, RankTop);
     LoadPicture(frmInfo.imgChevron, "\\pic\\chevrons\\" + Lower(rank) + ".gif");
     frmInfo.imgChevron.ToolTipText = rankNames[unit.rank + LongNames];
     Typewriter("\r\r\r" + Shortened(unit.name), WithShadow, frmInfo.canvas, AtThePen, AtThePen);
@@ -125,10 +131,14 @@ void StatBar(int value, int y, Form& form) {
     constexpr int Fall = 4;  // of each colour, a step
     constexpr int RowsAbove = 1;
     constexpr int RowsBelow = 5;
-    const int length = static_cast<int>(RoundHalfEven(value * 1.5 + 10));
+    constexpr double PixelsOfPoint = 1.5;
+    constexpr int LengthOfNothing = 10;
+    constexpr int Bright = 255;  // red and green at the bar's left end
+    constexpr int Blue = 100;
+    const int length = static_cast<int>(RoundHalfEven(value * PixelsOfPoint + LengthOfNothing));
     for (int i = 0; i < length; ++i) {
         const int fallen = Fall * (i * Steps / length);
-        const Colour colour = Rgb(255 - fallen, 255 - fallen, std::max(100 - fallen, 0));
+        const Colour colour = Rgb(Bright - fallen, Bright - fallen, std::max(Blue - fallen, 0));
         for (int row = y - RowsAbove; row <= y + RowsBelow; ++row)
             form.canvas.SetPixel(ThePen().x + 1 + i, row, colour);
     }

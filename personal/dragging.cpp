@@ -15,7 +15,6 @@
 namespace {
 
 constexpr Colour HintColour = Rgb(255, 255, 153);
-constexpr Colour QuietColour = Rgb(55, 89, 140);
 constexpr int LongHalf = 58;  // from the pointer to the left edge of a long thing
 constexpr int SmallHalf = 21;
 
@@ -151,7 +150,7 @@ void personal::Form_MouseMove(float x, float y) {
     const int slot = SlotAt(x, y);
     frmInfo.txtFullname.Text = slot == NoSlot ? "" : ItemText(slot);
     if (slot != NoSlot)
-        frmInfo.txtFullname.ForeColor = Feeds(ItemIn(PointerSlot), ItemIn(slot)) ? HintColour : QuietColour;
+        frmInfo.txtFullname.ForeColor = Feeds(ItemIn(PointerSlot), ItemIn(slot)) ? HintColour : PaleBlue;
     // The catalogue's bin lies over the maker's flag, so it shows only where it is needed.
     frmInfo.imgDel.Visible = frmInfo.imgUpDn[1].Visible && IsOverHand(x, y);
     if (dragSlot == NoSlot) return;

@@ -8,7 +8,6 @@
 namespace {
 
 constexpr Colour DeepBlue = Rgb(24, 44, 79);
-constexpr Colour PaleBlue = Rgb(55, 89, 140);
 
 // A run of slots, side by side in rows.
 struct SlotRun {

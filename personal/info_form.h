@@ -19,6 +19,8 @@ constexpr int PointerSlot = 100;  // the thing that is dragged lies here
 constexpr int NoSlot = -1;
 constexpr int AwardPlaces = 25;
 
+constexpr Colour PaleBlue = Rgb(55, 89, 140);  // of words on the boxes
+
 struct InfoForm : Form {
     InfoForm();
 

@@ -85,10 +85,12 @@ void ShowTarget(int /*n*/, int x, int y) {
 
 void FlashSelection(int unit) {
     constexpr int Passes = 5;
+    constexpr int HiddenWait = 3;
+    constexpr int ShownWait = 2;
     const int flash = ++flashCount;
     for (int i = 0; i < Passes; ++i) {
-        if (!WaitInFlash(unit, flash, false, 3)) return;
-        if (!WaitInFlash(unit, flash, true, 2)) return;
+        if (!WaitInFlash(unit, flash, false, HiddenWait)) return;
+        if (!WaitInFlash(unit, flash, true, ShownWait)) return;
     }
     TheAudience().SelectionFlashed(unit, false);
 }

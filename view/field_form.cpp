@@ -3,12 +3,10 @@
 #include <string>
 
 #include "state/state.h"
+#include "view/colours.h"
 #include "view/stored_pictures.h"
 
 namespace {
-
-constexpr Colour FieldGreen = Rgb(0, 84, 0);
-constexpr Colour SelectionYellow = Rgb(255, 255, 128);
 
 void Stretch(ScrollBar& bar, int max) {
     bar.Max = max;

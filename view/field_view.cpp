@@ -66,11 +66,12 @@ void BringIntoView(int unit) {
     // ODDITY: the two axes have different offsets, so a unit is shown half a cell left of the middle.
     constexpr float RightOfUnit = 20;
     constexpr float BelowUnit = 10;
+    constexpr float HalfViews = 4;  // that fit into the field, along either side
     const auto width = static_cast<float>(frmField.area.Width);
     const auto height = static_cast<float>(frmField.area.Height);
     const Unit& shown = UnitTable[unit];
-    const float left = static_cast<float>(shown.pixelX) - width / 4 + RightOfUnit;
-    const float top = static_cast<float>(shown.pixelY) - height / 4 + BelowUnit;
+    const float left = static_cast<float>(shown.pixelX) - width / HalfViews + RightOfUnit;
+    const float top = static_cast<float>(shown.pixelY) - height / HalfViews + BelowUnit;
     SetScrollValue(frmField.HScrollArea, ScrollPlace(left, frmField.HScrollArea));
     SetScrollValue(frmField.VScrollArea, ScrollPlace(top, frmField.VScrollArea));
     frmField.shpSelect.Left = shown.pixelX;

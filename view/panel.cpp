@@ -35,13 +35,15 @@ void ShowDurability(const Unit& unit) {
     constexpr double Scale = 1000;
     constexpr int ColumnHeight = 40;
     constexpr int ColumnTop = 32;
+    constexpr int BandHeight = 10;  // of the column, for each colour
+    constexpr int BandPercent = 25;
     constexpr int HighestBand = 75;
     const int max = WeaponInfoByName(unit.hand.name).durab;
     const int current = unit.hand.durab > max ? max : static_cast<int>(unit.hand.durab);
     const int percent = static_cast<int>(std::floor(current / Scale * 100));
     const int fill = static_cast<int>(std::floor(current / Scale * ColumnHeight));
     const int maxFill = static_cast<int>(std::floor(max / Scale * ColumnHeight));
-    const int band = std::min(FloorDivide(fill, 10) * 25, HighestBand);
+    const int band = std::min(FloorDivide(fill, BandHeight) * BandPercent, HighestBand);
 
     frmField.imgBarWcover.Height = ColumnHeight - maxFill;
     frmField.imgBarWcover.Top = ColumnTop;

@@ -4,11 +4,11 @@
 #include <utility>
 #include <vector>
 
+#include "view/colours.h"
 #include "view/field_form.h"
 
 namespace {
 
-constexpr Colour TrailGrey = Rgb(128, 128, 128);
 constexpr std::size_t NewestStretch = 21;  // pixels of the trail that a repaint in mid-flight may touch
 
 struct TrailPixel {

@@ -1,5 +1,7 @@
 #include "view/unit_painting.h"
 
+#include <iterator>
+
 #include "data/terrain.h"
 #include "field/moving.h"
 #include "platform/blit.h"
@@ -53,7 +55,7 @@ void MoveDot(const Unit& unit) {
     const int team = curUnit / TeamStride;
     dot.Left = unit.cellX * MiniMapCellSize;
     dot.Top = unit.cellY * MiniMapCellSize;
-    if (team < 3) dot.BackColor = TeamColours[team];
+    if (team < static_cast<int>(std::size(TeamColours))) dot.BackColor = TeamColours[team];
     dot.Visible = true;
 }
 

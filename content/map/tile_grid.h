@@ -16,11 +16,11 @@ struct Tile {
 };
 
 inline bool StopsStep(const Tile& tile) {
-    return (TileBlock(tile.column, tile.terrain) & 1) != 0;
+    return (TileBlock(tile.column, tile.terrain) & BlocksSteps) != 0;
 }
 
 inline bool StopsView(const Tile& tile) {
-    return (TileBlock(tile.column, tile.terrain) & 2) != 0;
+    return (TileBlock(tile.column, tile.terrain) & BlocksView) != 0;
 }
 
 /// True for the tile that marks a landing spot of the computer's team.

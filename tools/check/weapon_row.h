@@ -5,23 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "data/weapon_columns.h"
 #include "source_text.h"
-
-enum WeaponColumn : std::size_t {
-    GroupColumn,
-    KindColumn,
-    KeyColumn,
-    SoundColumn,
-    PowerColumn,  // the first of five figures
-    ModesColumn = 10,
-    ClassColumn,
-    SecondColumn,
-    LongColumn = 15,
-    CountryColumn = 17,
-    TitleColumn,
-    FullNameColumn,
-    WeaponColumns
-};
 
 /// The columns' names as the head of the file has them.
 constexpr std::array<const char*, WeaponColumns> ColumnNames = {

@@ -166,7 +166,9 @@ class WeaponsCheck {
 
     // Whether the reader takes all numbers.
     bool CheckNumbers(const WeaponRow& row) {
-        constexpr std::size_t NumberColumns[] = {4, 5, 6, 7, 8, 9, 13, 14, 16};
+        constexpr std::size_t NumberColumns[] = {PowerColumn,   AccurColumn,   TimeColumn,
+                                                 RangeColumn,   DurabColumn,   Param9Column,
+                                                 Param13Column, Param14Column, Param16Column};
         SourceFaults faults;
         for (const std::size_t column : NumberColumns) {
             const bool read = row.IsWeapon() || column > ModesColumn;

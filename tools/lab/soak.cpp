@@ -20,6 +20,7 @@
 #include "tools/lab/recording.h"
 #include "tools/player/orders.h"
 #include "tools/player/scripted_player.h"
+#include "view/colours.h"
 #include "view/events.h"
 #include "view/field_form.h"
 
@@ -89,7 +90,6 @@ std::string Disorder() {
 
 // A flight draws its trail in a grey that no picture of the game has, and takes it away again.
 std::string LeftTrail(const Rectangle& changed) {
-    constexpr Colour TrailGrey = Rgb(128, 128, 128);
     const Picture& area = frmField.area.canvas;
     for (int y = changed.top; y < changed.top + changed.height; ++y) {
         const Colour* from = area.Row(y) + changed.left;

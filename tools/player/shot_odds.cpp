@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "combat/shooting.h"
 #include "field/geometry.h"
 
 namespace {
@@ -13,8 +14,8 @@ constexpr double HalfWidth = 0.5;  // of a cell
 // How far a round may end from the point aimed at, on either axis, in cells.
 double ScatterOf(const Unit& unit, Spot target) {
     const double distance = DistanceBetween(unit, target);
-    const double spread = std::max(0.0, 200.0 - unit.marksmanship - unit.hand.accur + distance);
-    return distance * spread / 20 / CellSize;
+    const double spread = std::max(0.0, 2.0 * FullSkill - unit.marksmanship - unit.hand.accur + distance);
+    return distance * spread / ScatterDivisor / CellSize;
 }
 
 }  // namespace
