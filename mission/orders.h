@@ -13,7 +13,7 @@ void PassOverUnfit();
 /// line of the log says that he waits.
 bool SelectAt(int cellX, int cellY);
 
-/// The first order for a cell turns to a pixel of it, the second walks there.
+/// Where SelectAt found nobody: the first order for a cell turns to a pixel of it, the second walks there.
 void GoTo(int cellX, int cellY, float x, float y);
 
 /// Turns to a pixel of the field and acts there, one order of one soldier.

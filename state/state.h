@@ -133,7 +133,7 @@ struct Unit {
     i16 handCap;
     i16 handRounds;
     Lazy<Array<InvItem, 0, 100>> items;  // slot 0 is the thing in hand
-    Array<i16, 0, 25> awards;      // how many of each, by row of awardTable
+    Array<i16, 0, 25> awards;            // how many of each, by row of awardTable
     Array<i16, 0, 30> spare;
     i16 aiWary;
     i16 aiReserve;

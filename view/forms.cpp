@@ -5,6 +5,7 @@
 #include "personal/info_form.h"
 #include "view/field_audience.h"
 #include "view/field_form.h"
+#include "view/trail.h"
 
 std::vector<Form*> OtherForms() {
     return {&frmProgress, &frmInfo};
@@ -20,6 +21,7 @@ Form* FormByName(std::string_view name) {
 void ResetForms() {
     static FieldAudience audience;
     InstallAudience(&audience);
+    ForgetTrails();
     std::destroy_at(&frmField);
     std::construct_at(&frmField);
     std::destroy_at(&frmProgress);

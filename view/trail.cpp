@@ -84,3 +84,8 @@ void DrawTrail(int pixelX, int pixelY) {
     path.push_back({pixelX, pixelY, 0});
     Draw(path.back());
 }
+
+void ForgetTrails() {
+    path.clear();
+    suspended.clear();
+}

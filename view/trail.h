@@ -8,3 +8,6 @@ void ChangeTrail(std::string_view mode);
 
 /// Draws a pixel of the trail of the flight that runs.
 void DrawTrail(int pixelX, int pixelY);
+
+/// Forgets all trails, as a mission may have ended in the middle of a flight.
+void ForgetTrails();

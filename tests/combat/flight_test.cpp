@@ -5,11 +5,14 @@
 #include <set>
 
 #include "combat/things.h"
+#include "combat/trail.h"
 #include "data/terrain.h"
 #include "platform/keys.h"
+#include "state/audience.h"
 #include "state/chance.h"
 #include "state/operation.h"
 #include "tests/support/game_test.h"
+#include "view/forms.h"
 
 namespace {
 
@@ -127,6 +130,15 @@ TEST_F(FlightTest, TheTrailIsSeenForAMomentAndGoneBeforeEventsRun) {
     BulletFly(610, 410, 800, 410);
     EXPECT_EQ(host.pumps, 1);
     EXPECT_EQ(host.waited, std::chrono::microseconds(23'077));
+}
+
+TEST_F(FlightTest, AMissionThatEndedInMidFlightLeavesTheNextNoTrail) {
+    frmField.area.canvas.SetPixel(610, 410, Rgb(200, 0, 0));
+    TheAudience().TrailDrawn(610, 410);
+    ResetForms();
+    const Picture before = frmField.area.canvas;
+    BulletTrail("return");
+    EXPECT_TRUE(frmField.area.canvas.SameAs(before));
 }
 
 // A card that turns lets events in.

@@ -53,7 +53,8 @@ struct Score {
 
 class FiringRange {
   public:
-    /// Starts a game with the data of the program's folder, and installs a host and an audience for as long as it lives.
+    /// Starts a game with the data of the program's folder, and installs a host and an audience for as long
+    /// as it lives.
     FiringRange();
     ~FiringRange() { InstallAudience(nullptr); }
     FiringRange(const FiringRange&) = delete;
