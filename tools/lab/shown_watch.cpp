@@ -7,7 +7,7 @@
 #include "platform/host.h"
 #include "state/state.h"
 #include "tools/lab/cell_looks.h"
-#include "tools/lab/hash.h"
+#include "platform/hash.h"
 #include "view/field_form.h"
 
 namespace {
