@@ -18,10 +18,12 @@ namespace {
 
 constexpr const char* BrokenOff = "The game that was broken off ";
 
-// The pointer over the field shows a tip; the main window's close button is the host's.
+// The pointer over the main window shows tips, but for the mini map, which it may scroll by. The window's
+// close button is the host's.
 bool LeavesNoTrace(const InputEvent& event) {
-    return (event.kind == EventKind::MouseMove && event.control == "frmField.area") ||
-           (event.kind == EventKind::CloseRequest && event.control == "frmField");
+    if (event.kind == EventKind::MouseMove)
+        return event.control.starts_with("frmField") && event.control != "frmField.picAreaMap";
+    return event.kind == EventKind::CloseRequest && event.control == "frmField";
 }
 
 // Moves come by the hundred and decide nothing until the next press, which takes them to the disk with it.

@@ -1,8 +1,10 @@
 #include <set>
 
+#include <QAbstractButton>
 #include <QAbstractEventDispatcher>
 #include <QMessageBox>
 
+#include "desktop/game_window.h"
 #include "platform/keys.h"
 #include "test_form.h"
 
@@ -177,6 +179,20 @@ TEST_F(DesktopTest, AModalFormMayBeClosedUnderAMessageOfPlainText) {
     });
     dialog.Visible = true;
     host.ShowModal(dialog);
+}
+
+TEST(QuestionTest, OnlyNewGameBeginsOne) {
+    for (const char* pressed : {"&Continue", "&New game", ""}) {
+        QTimer::singleShot(20, [pressed] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->text(), "turn 3");
+            for (QAbstractButton* button : box->buttons())
+                if (button->text() == QLatin1String(pressed)) return button->click();
+            box->close();
+        });
+        EXPECT_EQ(AskToContinue("turn 3"), std::string(pressed) != "&New game") << pressed;
+    }
 }
 
 TEST_F(DesktopDeathTest, ACloseButtonAsksAndTheMainWindowsEndsTheProcess) {
