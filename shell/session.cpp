@@ -26,9 +26,10 @@ bool LeavesNoTrace(const InputEvent& event) {
     return event.kind == EventKind::CloseRequest && event.control == "frmField";
 }
 
-// Moves come by the hundred and decide nothing until the next press, which takes them to the disk with it.
+// Moves, of a scroll bar's thumb too, come by the hundred and decide nothing until the next press or the
+// bar's rest, which takes them to the disk with it.
 bool GoesToDisk(const InputEvent& event) {
-    return event.kind != EventKind::MouseMove;
+    return event.kind != EventKind::MouseMove && event.kind != EventKind::Scroll;
 }
 
 // Why a game with that head would go another way now; empty when it wouldn't.

@@ -4,10 +4,10 @@
 #include <ctime>
 #include <utility>
 
+#include "platform/hash.h"
 #include "platform/headless_host.h"
 #include "platform/run_time_error.h"
 #include "shell/recorded_event.h"
-#include "platform/hash.h"
 #include "view/events.h"
 #include "view/start.h"
 
