@@ -165,8 +165,13 @@ TEST_F(DesktopTest, AModalFormMayBeClosedUnderAMessageOfPlainText) {
         if (event.kind == EventKind::CloseRequest) dialog.Visible = false;
         if (event.kind == EventKind::KeyDown) host.ShowMessage("You <b>lost</b>");
     };
+    bool announced = false;
+    host.AtMessage([&announced] {
+        announced = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr;
+    });
     QTimer::singleShot(20, &window, [this] { QTest::keyPress(&host.WindowOf(dialog), Qt::Key_M); });
-    QTimer::singleShot(60, &window, [this] {
+    QTimer::singleShot(60, &window, [this, &announced] {
+        EXPECT_TRUE(announced) << "before the message stands";
         host.WindowOf(dialog).close();
         EXPECT_FALSE(host.WindowOf(dialog).isVisible());
     });
