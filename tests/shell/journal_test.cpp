@@ -39,23 +39,23 @@ TEST(JournalTest, WhatIsNoJournalIsRefusedByItsLine) {
                                       {"sarnoth journal 1\nseed 4\n", "x:2: expected"},
                                       {head.substr(0, head.size() - 1) + "0\n", "x:5: expected"},
                                       {head + "nonsense\n" + Line(1, 0), "x:6: expected"}})
-        EXPECT_NE(ErrorOf([&text] { ReadJournal(text, "x"); }).find(where), std::string::npos) << text;
+        EXPECT_NE(ErrorOf([&journal = text] { ReadJournal(journal, "x"); }).find(where), std::string::npos)
+            << text;
 }
 
 TEST(JournalTest, AnOrderThatEndsTheGameEachTimeIsDropped) {
     const std::string before = HeadText(Head) + Line(1, 0) + Line(2, 0);
-    const std::string order = Line(3, 0) + Line(4, 9);
+    const std::string order = before + Line(3, 0) + Line(4, 9);
     struct Case {
-        std::string marks;
+        const char* marks;
         bool isStuck;
     };
-    const std::string trying = TryingLine;
     for (const auto& [marks, isStuck] : {Case{"", false},
-                                         {trying, false},
-                                         {trying + PlayingLine + trying, false},
-                                         {trying + trying, true},
-                                         {FailedLine, true}}) {
-        Journal journal = ReadJournal(before + order + marks, "x");
+                                         {"trying\n", false},
+                                         {"trying\nplaying\ntrying\n", false},
+                                         {"trying\ntrying\n", true},
+                                         {"failed\n", true}}) {
+        Journal journal = ReadJournal(order + marks, "x");
         EXPECT_EQ(journal.isStuck, isStuck) << marks;
         DropLastOrder(journal);
         EXPECT_EQ(journal.events.size(), 2U);
