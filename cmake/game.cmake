@@ -17,7 +17,8 @@ file(GLOB RULES_SOURCES CONFIGURE_DEPENDS
 add_library(sarnoth_rules STATIC ${RULES_SOURCES} ${RULES_PLATFORM})
 target_link_libraries(sarnoth_rules PUBLIC sarnoth_options)
 
-file(GLOB GAME_SOURCES CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} personal/*.cpp platform/*.cpp view/*.cpp)
+file(GLOB GAME_SOURCES CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} personal/*.cpp platform/*.cpp shell/*.cpp
+    view/*.cpp)
 list(REMOVE_ITEM GAME_SOURCES ${RULES_PLATFORM})
 add_library(sarnoth_game STATIC ${GAME_SOURCES} ${EMBEDDED})
 target_link_libraries(sarnoth_game PUBLIC sarnoth_rules)

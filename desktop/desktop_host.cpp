@@ -163,6 +163,7 @@ void DesktopHost::ShowModal(Form& form) {
 }
 
 void DesktopHost::ShowMessage(const std::string& text) {
+    if (atMessage) atMessage();
     Sync();
     ShowBox(QMessageBox::Information, text);
 }

@@ -35,6 +35,9 @@ class DesktopHost : public Host {
     /// `last` runs when the process is about to end, whatever ends it, and gives its exit code.
     void AtEnd(std::function<int(int exitCode)> last) { atEnd = std::move(last); }
 
+    /// `first` runs before each message of the game is shown.
+    void AtMessage(std::function<void()> first) { atMessage = std::move(first); }
+
     void Refresh(Control& control) override;
     void PumpEvents() override;
     void Wait(std::chrono::nanoseconds time, bool pump) override;
@@ -69,6 +72,7 @@ class DesktopHost : public Host {
     std::function<void(int pump)> playBack;  // empty: a person plays
     QTimer playBackPace;
     std::function<int(int exitCode)> atEnd;
+    std::function<void()> atMessage;
     bool failed = false;  // the error is being shown: ticks and the close button reach the game no more
     QTimer quiet;         // runs out when no sound was asked for in a while
 };

@@ -11,6 +11,8 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 
@@ -23,6 +25,7 @@
 
 namespace {
 
+constexpr const char* GameName = "Sarnoth III";
 constexpr const char* DesktopEntry = "sarnoth3";  // by which desktops find the window's name and icon
 
 void PrintNoDisplay() {
@@ -110,12 +113,24 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     DesktopHost host(frmField, OtherForms(), run.dispatch);
     if (run.playBack) host.PlayBack(run.playBack);
     host.AtEnd(run.atEnd);
+    host.AtMessage(run.atMessage);
     // Within the event loop, so that the game can wait, and show boxes, from its first moment.
     QTimer begin;
     begin.setSingleShot(true);
     begin.callOnTimeout([&] { host.Enter(run.begin); });
     begin.start();
     return QApplication::exec();
+}
+
+bool AskToContinue(const std::string& text) {
+    QMessageBox box(QMessageBox::Question, QString::fromUtf8(GameName), QString::fromStdString(text));
+    box.setTextFormat(Qt::PlainText);
+    QPushButton* const goOn = box.addButton(QStringLiteral("&Continue"), QMessageBox::AcceptRole);
+    QPushButton* const begin = box.addButton(QStringLiteral("&New game"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(goOn);
+    box.setEscapeButton(goOn);
+    box.exec();
+    return box.clickedButton() != begin;
 }
 
 bool SaveWindow(const std::string& form, const std::filesystem::path& file) {

@@ -12,11 +12,16 @@ struct WindowRun {
     std::function<void(const InputEvent&)> dispatch;   // takes what a person does
     std::function<void(int pump)> playBack = nullptr;  // see DesktopHost::PlayBack; empty for a person's play
     std::function<int(int exitCode)> atEnd = nullptr;  // see DesktopHost::AtEnd; may be empty
+    std::function<void()> atMessage = nullptr;         // see DesktopHost::AtMessage; may be empty
 };
 
 /// Runs until the process ends. `arguments` are main's. The result is an exit code: with nowhere to show a
 /// window it says so on standard error and is 1.
 int RunInWindow(char** arguments, const WindowRun& run);
+
+/// Shows `text` in a box with the buttons "Continue" and "New game", of which closing the box presses the
+/// first. True for "Continue".
+bool AskToContinue(const std::string& text);
 
 /// Saves a window of the running game, named as "frmField", as it would be shown. False when it can't be
 /// written.

@@ -3,20 +3,24 @@
 #include "desktop/game_window.h"
 #include "platform/files.h"
 #include "platform/game_folders.h"
-#include "view/events.h"
+#include "shell/session.h"
 #include "view/start.h"
 
 namespace {
 
-void Begin() {
+void Begin(Session& session) {
     const GameFolders folders = FoldersOf(OwnFolder());
     SetProgramFolder(folders.program, folders.players);
     KeepStore();
-    Main();
+    session.Begin(TimerSeed());
 }
 
 }  // namespace
 
 int main(int /*count*/, char** arguments) {
-    return RunInWindow(arguments, {.begin = Begin, .dispatch = Dispatch});
+    Session session(AskToContinue);
+    return RunInWindow(arguments, {.begin = [&] { Begin(session); },
+                                   .dispatch = [&](const InputEvent& event) { session.Dispatch(event); },
+                                   .atEnd = [&](int exitCode) { return session.AtEnd(exitCode); },
+                                   .atMessage = [&] { session.NoteEnd(); }});
 }

@@ -24,9 +24,13 @@ std::string RelativeName(std::string_view name) {
     return relative;
 }
 
+}  // namespace
+
 std::filesystem::path PlayersPath(std::string_view name) {
     return (playersFolder.empty() ? programFolder : playersFolder) / RelativeName(name);
 }
+
+namespace {
 
 bool IsFile(const std::filesystem::path& path) {
     std::error_code ignored;

@@ -21,6 +21,9 @@ void SetProgramFolder(const std::filesystem::path& folder, const std::filesystem
 /// Where a file is read.
 std::filesystem::path ProgramPath(std::string_view name);
 
+/// Where a file is written.
+std::filesystem::path PlayersPath(std::string_view name);
+
 /// Sees to it, before a game begins, that the player has a file of his own that can be replaced: one that is
 /// there stays as it is, else he gets a copy of the program's. Where the program's folder is his, a file that
 /// is missing is left to who reads it. Throws FileMissing, or FileWrite with the place that can't be written

@@ -39,5 +39,9 @@ GameFolders FoldersOf(const fs::path& own) {
 }
 
 fs::path OwnFolder() {
-    return fs::read_symlink("/proc/self/exe").parent_path();
+    return fs::read_symlink(OwnProgram()).parent_path();
+}
+
+fs::path OwnProgram() {
+    return "/proc/self/exe";
 }

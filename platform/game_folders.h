@@ -18,3 +18,6 @@ GameFolders FoldersOf(const std::filesystem::path& own);
 
 /// The folder that the running program lies in.
 std::filesystem::path OwnFolder();
+
+/// The running program as a file, even when another one has taken its place since.
+std::filesystem::path OwnProgram();

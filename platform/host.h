@@ -35,6 +35,12 @@ class Host {
     /// each came.
     int InnermostPump() const { return innermost; }
 
+    /// How many of them have begun.
+    int BegunPumps() const { return begun; }
+
+    /// Counts on from `pumps`, where the run that this host goes on with has come to; 0 for a new one.
+    void CountPumpsFrom(int pumps) { begun = pumps; }
+
     /// Lets the events that wait be handled; each may run a whole order before this returns.
     virtual void PumpEvents() = 0;
 

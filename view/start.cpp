@@ -6,22 +6,14 @@
 #include "view/field_form.h"
 #include "view/forms.h"
 
-namespace {
+void Main(std::uint32_t seed) {
+    ResetForms();
+    frmField.Visible = true;
+    BeginGame(seed);
+}
 
 std::uint32_t TimerSeed() {
     const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
     return static_cast<std::uint32_t>(
         std::chrono::duration_cast<std::chrono::milliseconds>(sinceEpoch).count());
-}
-
-}  // namespace
-
-void Main() {
-    Main(TimerSeed());
-}
-
-void Main(std::uint32_t seed) {
-    ResetForms();
-    frmField.Visible = true;
-    BeginGame(seed);
 }

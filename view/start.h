@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
-/// The program's entry: puts everything to its start, shows the main window and begins a mission. The
-/// generator is seeded from the system's timer. Throws RunTimeError.
-void Main();
-
-/// The same with a seed of the caller's.
+/// The program's entry: puts everything to its start, shows the main window and begins a mission. Throws
+/// RunTimeError.
 void Main(std::uint32_t seed);
+
+/// A seed from the system's timer, for a player's game.
+std::uint32_t TimerSeed();

@@ -1,8 +1,10 @@
 #include <set>
 
+#include <QAbstractButton>
 #include <QAbstractEventDispatcher>
 #include <QMessageBox>
 
+#include "desktop/game_window.h"
 #include "platform/keys.h"
 #include "test_form.h"
 
@@ -163,8 +165,13 @@ TEST_F(DesktopTest, AModalFormMayBeClosedUnderAMessageOfPlainText) {
         if (event.kind == EventKind::CloseRequest) dialog.Visible = false;
         if (event.kind == EventKind::KeyDown) host.ShowMessage("You <b>lost</b>");
     };
+    bool announced = false;
+    host.AtMessage([&announced] {
+        announced = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr;
+    });
     QTimer::singleShot(20, &window, [this] { QTest::keyPress(&host.WindowOf(dialog), Qt::Key_M); });
-    QTimer::singleShot(60, &window, [this] {
+    QTimer::singleShot(60, &window, [this, &announced] {
+        EXPECT_TRUE(announced) << "before the message stands";
         host.WindowOf(dialog).close();
         EXPECT_FALSE(host.WindowOf(dialog).isVisible());
     });
@@ -177,6 +184,20 @@ TEST_F(DesktopTest, AModalFormMayBeClosedUnderAMessageOfPlainText) {
     });
     dialog.Visible = true;
     host.ShowModal(dialog);
+}
+
+TEST(QuestionTest, OnlyNewGameBeginsOne) {
+    for (const char* pressed : {"&Continue", "&New game", ""}) {
+        QTimer::singleShot(20, [pressed] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->text(), "turn 3");
+            for (QAbstractButton* button : box->buttons())
+                if (button->text() == QLatin1String(pressed)) return button->click();
+            box->close();
+        });
+        EXPECT_EQ(AskToContinue("turn 3"), std::string(pressed) != "&New game") << pressed;
+    }
 }
 
 TEST_F(DesktopDeathTest, ACloseButtonAsksAndTheMainWindowsEndsTheProcess) {

@@ -17,6 +17,7 @@
 #include "platform/files.h"
 #include "platform/picture_file.h"
 #include "record_files.h"
+#include "shell/journal.h"
 #include "state/state.h"
 #include "tools/lab/recording.h"
 #include "tools/temporary_folder.h"
@@ -78,6 +79,14 @@ void ReadRecordedGame(const std::string& input) {
     ReadRecording(text, InputName);
 }
 
+// What is kept of a cut journal is one.
+void ReadJournalOfGame(const std::string& input) {
+    Journal journal = ReadJournal(input, InputName);
+    DropLastOrder(journal);
+    const Journal kept = ReadJournal(std::string_view(input).substr(0, journal.length), InputName);
+    if (kept.events != journal.events) Fail("a journal is another one after its last order was dropped");
+}
+
 // What has no fault becomes files of the game, and the same drawing again.
 void ReadTiledMap(const std::string& input) {
     SourceFaults faults;
@@ -111,6 +120,7 @@ const std::vector<Reader>& Readers() {
         {"picture", {}, ReadPicture},
         {"sound", {}, ReadSound},
         {"recording", {}, ReadRecordedGame},
+        {"journal", {}, ReadJournalOfGame},
         {"tiled", {}, ReadTiledMap},
         {"game_map", {"map/x1.map", "map/x2.map", "map/xg.map"}, ReadMapOfTheGame},
     };

@@ -11,5 +11,5 @@ while IFS=: read -r file count; do
         echo "$file: $count oddities, $rows rows in docs/oddities.md"
         failed=1
     fi
-done < <(grep -rc 'ODDITY' ai combat data field mission personal platform state view --include='*.h' --include='*.cpp' | grep -v ':0$')
+done < <(grep -rc 'ODDITY' ai combat data field mission personal platform shell state view --include='*.h' --include='*.cpp' | grep -v ':0$')
 exit $failed

@@ -9,7 +9,7 @@ cd "$1" || exit 2
 failed=0
 complain() { echo "$*"; failed=1; }
 rules="state data field combat ai mission"
-rooms="platform $rules view personal"
+rooms="platform $rules view personal shell"
 
 below="platform"
 for room in $rules; do
@@ -26,7 +26,7 @@ arrows() {
 circles=$(arrows | tsort 2>&1 >/dev/null) || complain "files in a circle:" "$circles"
 
 grep -rnE '#include *[<"](Q[A-Z]|SDL|qt)' $rooms tools bench tests --exclude-dir=desktop && complain "toolkit headers outside desktop/"
-grep -rnE '#include *<(unistd|fcntl|sys/|windows)' $rules view personal && complain "headers of the system outside platform/"
+grep -rnE '#include *<(unistd|fcntl|sys/|windows)' $rules view personal shell && complain "headers of the system outside platform/"
 grep -rnE '\b(rand|srand)\(|std::(uniform|normal|bernoulli)_' $rooms tools && complain "chance from elsewhere than state/chance"
 
 if [ $# -gt 2 ]; then

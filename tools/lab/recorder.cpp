@@ -4,9 +4,10 @@
 #include <ctime>
 #include <utility>
 
+#include "platform/hash.h"
 #include "platform/headless_host.h"
 #include "platform/run_time_error.h"
-#include "tools/lab/hash.h"
+#include "shell/recorded_event.h"
 #include "view/events.h"
 #include "view/start.h"
 
@@ -47,8 +48,7 @@ void Recorder::Dispatch(const InputEvent& event) {
 }
 
 void Recorder::TellEvent(int number, const InputEvent& event) const {
-    sink("event " + std::to_string(number) + " " + std::to_string(TheHost().InnermostPump()) + " " +
-         EventText(event));
+    sink(RecordedText({number, TheHost().InnermostPump(), event}));
 }
 
 void Recorder::TellState(int event) {

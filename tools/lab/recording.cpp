@@ -29,17 +29,11 @@ std::uint32_t SeedFrom(const std::string& text, const std::string& name) {
 }
 
 RecordedEvent EventFrom(const std::string& line, const std::string& name, std::size_t number) {
-    std::istringstream stream(After("event", line, name, number));
-    RecordedEvent recorded;
-    std::string text;
-    if (!(stream >> recorded.number >> recorded.pump) || !std::getline(stream >> std::ws, text))
-        Fail(name, number, "\"event NUMBER PUMP ...\"");
     try {
-        recorded.event = EventFromText(text);
+        return RecordedEventFromText(line);
     } catch (const RunTimeError& error) {
         throw RunTimeError(Fault::BadData, name + ":" + std::to_string(number) + ": " + error.About());
     }
-    return recorded;
 }
 
 bool IsKnownLine(const std::string& line) {

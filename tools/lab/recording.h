@@ -27,13 +27,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/input_event.h"
-
-struct RecordedEvent {
-    int number = 0;
-    int pump = 0;
-    InputEvent event;
-};
+#include "shell/recorded_event.h"
 
 struct Recording {
     std::uint32_t seed = 0;

@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "platform/blit.h"
+#include "platform/hash.h"
 #include "platform/run_time_error.h"
 #include "state/state.h"
 #include "tools/lab/cell_looks.h"
-#include "tools/lab/hash.h"
 #include "tools/png_file.h"
 #include "view/field_form.h"
 

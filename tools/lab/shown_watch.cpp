@@ -4,10 +4,10 @@
 
 #include "personal/info_form.h"
 #include "platform/blit.h"
+#include "platform/hash.h"
 #include "platform/host.h"
 #include "state/state.h"
 #include "tools/lab/cell_looks.h"
-#include "tools/lab/hash.h"
 #include "view/field_form.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <type_traits>
 
 #include "personal/info_form.h"
-#include "tools/lab/hash.h"
+#include "platform/hash.h"
 #include "tools/lab/state_fields.h"
 #include "view/field_form.h"
 

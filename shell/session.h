@@ -1,0 +1,49 @@
+// One run of the program for a player: begins a game or takes up the one that was broken off, and keeps its
+// journal. A journal that can't be written is given up with a line on standard error, and play goes on.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "platform/append_file.h"
+#include "platform/input_event.h"
+#include "shell/journal.h"
+
+class Session {
+  public:
+    /// Asks the player whether to go on with the game that the text names; else he begins a new one.
+    using Question = std::function<bool(const std::string& text)>;
+    explicit Session(Question question) : wantsToContinue(std::move(question)) {}
+
+    /// The start of play; `seed` is for a new game. A game that can't be continued is kept, and the host
+    /// shows a message that says so. Throws RunTimeError.
+    void Begin(std::uint32_t seed);
+
+    /// Writes the event down and gives it to the game.
+    void Dispatch(const InputEvent& event);
+
+    /// Puts the journal of a mission that is over on the shelf. To be called before a message is shown: the
+    /// last one may stand for long.
+    void NoteEnd();
+
+    /// The process ends. Gives the exit code back.
+    int AtEnd(int exitCode);
+
+  private:
+    bool TakeUp();
+    bool TakeUp(Journal journal);
+    bool AskAbout(bool orderDropped);
+    void Write(const InputEvent& event);
+    bool BeginJournal();
+    void WriteMark(const char* line);
+    void Shelve();
+    void KeepAside(const std::string& reason);
+    void GiveUp();
+
+    const Question wantsToContinue;
+    AppendFile file;   // open while the journal on the disk is this game's
+    JournalHead head;  // of this game
+    int events = 0;    // in the journal
+    bool givenUp = false;
+};
