@@ -26,7 +26,8 @@ TEST(JournalTest, CutAtAnyByteItHoldsItsWholeLines) {
         ASSERT_EQ(journal.length, cut.rfind('\n') + 1) << "what follows is to be cut away";
         ASSERT_EQ(journal.head == Head, lines >= 5);
     }
-    for (const std::string& spoilt : {std::string("event 4 0 Cli\n"), std::string(40, '\0'), std::string("\n")}) {
+    for (const std::string& spoilt :
+         {std::string("event 4 0 Cli\n"), std::string(40, '\0'), std::string("\n")}) {
         const Journal journal = ReadJournal(whole + spoilt, "x");
         EXPECT_EQ(journal.events.size(), 3U);
         EXPECT_EQ(journal.length, whole.size());
