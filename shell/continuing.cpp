@@ -4,18 +4,23 @@
 
 #include "personal/info_form.h"
 #include "platform/controls.h"
+#include "platform/keys.h"
 #include "platform/quiet_host.h"
 #include "view/events.h"
 #include "view/start.h"
 
 namespace {
 
-using Sink = std::function<void(const InputEvent&)>;
+void PressAndClose(const Form& form, int x, int y, const EventSink& dispatch) {
+    dispatch(
+        {EventKind::MouseDown, form.name, -1, LeftButton, 0, static_cast<float>(x), static_cast<float>(y)});
+    dispatch({EventKind::CloseRequest, form.name});
+}
 
 // Shows nothing, takes no time, and lets recorded events in where they came.
 class ContinuingHost : public QuietHost {
   public:
-    ContinuingHost(const std::vector<RecordedEvent>& ofRun, const Sink& beyond)
+    ContinuingHost(const std::vector<RecordedEvent>& ofRun, const EventSink& beyond)
         : events(ofRun), dispatch(beyond) {}
 
     void PumpEvents() override {
@@ -30,7 +35,7 @@ class ContinuingHost : public QuietHost {
     void ShowModal(Form& form) override {
         const Pumping pumping(*this);
         LetIn();
-        if (AllGiven() && form.Visible) Close(form);
+        if (AllGiven() && form.Visible) CloseForm(form, dispatch);
     }
 
     void LetIn() {
@@ -41,23 +46,8 @@ class ContinuingHost : public QuietHost {
     bool AllGiven() const { return given == events.size(); }
 
   private:
-    // A thing on the pointer goes home by a press beside the slots, or into a slot that is free.
-    void Close(Form& form) {
-        dispatch({EventKind::CloseRequest, form.name});
-        if (form.Visible) PressAndClose(form, 0, 0);
-        for (int slot = 0; slot <= LastBoardSlot && form.Visible; ++slot) {
-            const ImageControl& image = frmInfo.imgInv[slot];
-            if (image.Visible && image.Picture == nullptr) PressAndClose(form, image.Left + 3, image.Top + 3);
-        }
-    }
-
-    void PressAndClose(const Form& form, int x, int y) {
-        dispatch({EventKind::MouseDown, form.name, -1, 1, 0, static_cast<float>(x), static_cast<float>(y)});
-        dispatch({EventKind::CloseRequest, form.name});
-    }
-
     const std::vector<RecordedEvent>& events;
-    const Sink& dispatch;
+    const EventSink& dispatch;
     std::size_t given = 0;
 };
 
@@ -74,7 +64,20 @@ class HostKeeper {
 
 }  // namespace
 
-Continued ContinueGame(std::uint32_t seed, const std::vector<RecordedEvent>& events, const Sink& dispatch) {
+// A thing on the pointer goes home by a press beside the slots, or into a slot that is free.
+void CloseForm(Form& form, const EventSink& dispatch) {
+    constexpr int InSlot = 3;  // pixels from its corner
+    dispatch({EventKind::CloseRequest, form.name});
+    if (form.Visible) PressAndClose(form, 0, 0, dispatch);
+    for (int slot = 0; slot <= LastBoardSlot && form.Visible; ++slot) {
+        const ImageControl& image = frmInfo.imgInv[slot];
+        if (image.Visible && image.Picture == nullptr)
+            PressAndClose(form, image.Left + InSlot, image.Top + InSlot, dispatch);
+    }
+}
+
+Continued ContinueGame(std::uint32_t seed, const std::vector<RecordedEvent>& events,
+                       const EventSink& dispatch) {
     const HostKeeper keeper;
     ContinuingHost host(events, dispatch);
     try {

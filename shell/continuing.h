@@ -8,6 +8,10 @@
 
 #include "shell/recorded_event.h"
 
+struct Form;
+
+using EventSink = std::function<void(const InputEvent&)>;
+
 enum class Continued {
     Waits,           // for the next event, outside all pumps
     Ended,           // the mission came to its end, and its store is saved
@@ -19,4 +23,7 @@ enum class Continued {
 /// refuses stays open. The host that is installed takes the game over as it stands, and counts its pumps on.
 /// Throws RunTimeError.
 Continued ContinueGame(std::uint32_t seed, const std::vector<RecordedEvent>& events,
-                       const std::function<void(const InputEvent&)>& dispatch);
+                       const EventSink& dispatch);
+
+/// Closes a form by events, and lays down before what the pointer carries. One that still refuses stays open.
+void CloseForm(Form& form, const EventSink& dispatch);

@@ -18,14 +18,6 @@ namespace {
 
 constexpr const char* BrokenOff = "The game that was broken off ";
 
-// The pointer over the main window shows tips, but for the mini map, which it may scroll by. The window's
-// close button is the host's.
-bool LeavesNoTrace(const InputEvent& event) {
-    if (event.kind == EventKind::MouseMove)
-        return event.control.starts_with("frmField") && event.control != "frmField.picAreaMap";
-    return event.kind == EventKind::CloseRequest && event.control == "frmField";
-}
-
 // Moves, of a scroll bar's thumb too, come by the hundred and decide nothing until the next press or the
 // bar's rest, which takes them to the disk with it.
 bool GoesToDisk(const InputEvent& event) {
@@ -53,6 +45,12 @@ void PrintTrouble(const std::string& problem) {
 }
 
 }  // namespace
+
+bool LeavesNoTrace(const InputEvent& event) {
+    if (event.kind == EventKind::MouseMove)
+        return event.control.starts_with("frmField") && event.control != "frmField.picAreaMap";
+    return event.kind == EventKind::CloseRequest && event.control == "frmField";
+}
 
 void Session::Begin(std::uint32_t seed) {
     if (TakeUp()) return;

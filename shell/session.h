@@ -47,3 +47,7 @@ class Session {
     int events = 0;    // in the journal
     bool givenUp = false;
 };
+
+/// Whether the journal may leave an event out. The pointer over the main window shows tips, but for the mini
+/// map, which it may scroll by; the window's close button is the host's.
+bool LeavesNoTrace(const InputEvent& event);

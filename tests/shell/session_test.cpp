@@ -14,6 +14,7 @@
 
 #include "personal/info_form.h"
 #include "platform/files.h"
+#include "shell/continuing.h"
 #include "tests/support/game_test.h"
 #include "tools/lab/random_player.h"
 
@@ -41,9 +42,7 @@ class PlayingHost : public HeadlessHost {
         const Pumping pumping(*this);
         while (form.Visible && MayGive())
             Give(player.Next());
-        if (form.Visible) session->Dispatch({EventKind::CloseRequest, form.name});
-        for (int slot = -1; form.Visible && slot <= LastBoardSlot; ++slot)
-            LayDown(slot);
+        if (form.Visible) CloseForm(form, [this](const InputEvent& event) { session->Dispatch(event); });
     }
     void ShowMessage(const std::string& text) override {
         session->NoteEnd();
@@ -66,21 +65,8 @@ class PlayingHost : public HeadlessHost {
         return left > 0;
     }
     void Give(const InputEvent& event) {
-        if (IsKept(event)) --left;
+        if (!LeavesNoTrace(event)) --left;
         session->Dispatch(event);
-    }
-    static bool IsKept(const InputEvent& event) {
-        if (event.kind == EventKind::MouseMove)
-            return !event.control.starts_with("frmField") || event.control == "frmField.picAreaMap";
-        return event.kind != EventKind::CloseRequest || event.control != "frmField";
-    }
-    // Beside the slots, or into one that is free.
-    void LayDown(int slot) {
-        if (slot >= 0 && (!frmInfo.imgInv[slot].Visible || frmInfo.imgInv[slot].Picture != nullptr)) return;
-        const auto x = static_cast<float>(slot < 0 ? 0 : frmInfo.imgInv[slot].Left + 3);
-        const auto y = static_cast<float>(slot < 0 ? 0 : frmInfo.imgInv[slot].Top + 3);
-        session->Dispatch({EventKind::MouseDown, "frmInfo", -1, 1, 0, x, y});
-        session->Dispatch({EventKind::CloseRequest, "frmInfo"});
     }
 };
 

@@ -66,16 +66,6 @@ TEST_F(AudienceTest, AShotReportsItsTrailAndItsSufferer) {
     EXPECT_NE(reported.find("trail finalize\n", glass), std::string::npos) << reported;
 }
 
-TEST_F(AudienceTest, AFlashThatEventsBeginEndsTheOneBefore) {
-    InstallAudience(&audience);
-    host.atPump = [this] {
-        host.atPump = [] {};
-        ScrollToUnit(20);
-    };
-    ScrollToUnit(0);
-    EXPECT_EQ(audience.Take(), "into view: 0\nframes .\ninto view: 20\nframes .#.#.#.#.#.\n");
-}
-
 // A mission is the same before the windows, through whose door its orders come, and before nobody.
 TEST_F(AudienceTest, AMissionIsTheSameWhoeverWatches) {
     for (const char* player : {"simple", "sensible", "careless"}) {
