@@ -81,7 +81,7 @@ void TakeDamage(int shooter, Unit& target) {
                  " and bring " + std::to_string(damage) + " points of damage",
              1);
     target.health = std::max(target.health - damage, 0);
-    TheAudience().UnitHurt(damage);
+    TheAudience().UnitHurt(shooter, damage);
     TheAudience().SoundPlayed("bump\\wound3", AtCurrentUnit);
     CheckStatus();
 }

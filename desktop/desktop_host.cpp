@@ -104,6 +104,10 @@ FormWindow& DesktopHost::WindowOf(Form& form) {
     return *otherWindows.back();
 }
 
+void DesktopHost::Accompany(Companion& companion) {
+    companionView = std::make_unique<CompanionView>(mainWindow, companion);
+}
+
 void DesktopHost::NoteTurn() {
     turnPause.Note(curTeam, Now());
 }
@@ -115,12 +119,14 @@ void DesktopHost::Sync() {
         if (form->Visible) WindowOf(*form);
     for (FormWindow* window : otherWindows)
         window->Sync();
+    if (companionView) companionView->Sync();
 }
 
 void DesktopHost::Refresh(Control& control) {
     FormWindow& window = WindowOf(*control.form);
     NoteTurn();
     window.Sync();
+    if (companionView) companionView->Sync();
     refreshing = true;
     window.PaintNow();
     refreshing = false;
@@ -142,7 +148,10 @@ void DesktopHost::Wait(std::chrono::nanoseconds time, bool pump) {
         QCoreApplication::processEvents();
         HandleEventsUntil(end);
     }
-    std::this_thread::sleep_until(end);
+    if (companionView)
+        companionView->SleepUntil(end);
+    else
+        std::this_thread::sleep_until(end);
 }
 
 void DesktopHost::ShowModal(Form& form) {

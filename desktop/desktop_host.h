@@ -3,11 +3,13 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <utility>
 #include <vector>
 
 #include <QTimer>
 
+#include "desktop/companion_view.h"
 #include "desktop/form_window.h"
 #include "desktop/sound_device.h"
 #include "desktop/turn_pause.h"
@@ -31,6 +33,9 @@ class DesktopHost : public Host {
     /// their number (see InnermostPump), and from time to time with 0 when none of them runs, and enters the
     /// next event by itself.
     void PlayBack(std::function<void(int pump)> source);
+
+    /// Shows on the main window what `companion` draws; it must outlive the host.
+    void Accompany(Companion& companion);
 
     /// `last` runs when the process is about to end, whatever ends it, and gives its exit code.
     void AtEnd(std::function<int(int exitCode)> last) { atEnd = std::move(last); }
@@ -64,6 +69,7 @@ class DesktopHost : public Host {
     FormWindow mainWindow;
     std::vector<FormWindow*> otherWindows;  // the main window owns them
     std::vector<Form*> forms;               // all but the main one
+    std::unique_ptr<CompanionView> companionView;  // null: nobody goes along
     SoundDevice soundDevice;
     TurnPause turnPause;
     bool refreshing = false;

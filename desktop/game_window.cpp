@@ -112,6 +112,7 @@ int RunInWindow(char** arguments, const WindowRun& run) {
 
     DesktopHost host(frmField, OtherForms(), run.dispatch);
     if (run.playBack) host.PlayBack(run.playBack);
+    if (run.companion != nullptr) host.Accompany(*run.companion);
     host.AtEnd(run.atEnd);
     host.AtMessage(run.atMessage);
     // Within the event loop, so that the game can wait, and show boxes, from its first moment.

@@ -3,6 +3,7 @@
 #include "desktop/game_window.h"
 #include "platform/files.h"
 #include "platform/game_folders.h"
+#include "shell/companion.h"
 #include "shell/session.h"
 #include "view/start.h"
 
@@ -18,9 +19,11 @@ void Begin(Session& session) {
 }  // namespace
 
 int main(int /*count*/, char** arguments) {
+    Companion companion;
     Session session(AskToContinue);
     return RunInWindow(arguments, {.begin = [&] { Begin(session); },
                                    .dispatch = [&](const InputEvent& event) { session.Dispatch(event); },
                                    .atEnd = [&](int exitCode) { return session.AtEnd(exitCode); },
-                                   .atMessage = [&] { session.NoteEnd(); }});
+                                   .atMessage = [&] { session.NoteEnd(); },
+                                   .companion = &companion});
 }

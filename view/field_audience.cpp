@@ -73,7 +73,7 @@ void FieldAudience::UnitMovedUnseen(int dx, int dy) {
 }
 
 // The log and the bars show it.
-void FieldAudience::UnitHurt(int /*damage*/) {}
+void FieldAudience::UnitHurt(int /*by*/, int /*damage*/) {}
 
 void FieldAudience::UnitSighted(int x, int y) {
     PaintUnitAtCell(x, y);

@@ -18,7 +18,7 @@ class FieldAudience : public Audience {
     void UnitMoved(int dx, int dy) override;
     void StepEnds(int fromX, int fromY) override;
     void UnitMovedUnseen(int dx, int dy) override;
-    void UnitHurt(int damage) override;
+    void UnitHurt(int by, int damage) override;
     void UnitSighted(int x, int y) override;
     void EnemiesCounted() override;
     void FiguresChanged(std::string_view what) override;

@@ -9,6 +9,8 @@ constexpr int UnitPlaces = 40;  // units that are ever drawn: the squad and the 
 
 constexpr int ViewLeft = 20;  // where the field is seen on the window, and stands when nothing is scrolled
 constexpr int ViewTop = 10;
+constexpr int ViewWidth = 760;
+constexpr int ViewHeight = 460;
 
 struct FieldForm : Form {
     FieldForm();

@@ -7,6 +7,12 @@
 #include "view/field_form.h"
 #include "view/trail.h"
 
+namespace {
+
+Audience* watching = nullptr;
+
+}  // namespace
+
 std::vector<Form*> OtherForms() {
     return {&frmProgress, &frmInfo};
 }
@@ -19,8 +25,8 @@ Form* FormByName(std::string_view name) {
 }
 
 void ResetForms() {
-    static FieldAudience audience;
-    InstallAudience(&audience);
+    static FieldAudience windows;
+    InstallAudience(watching != nullptr ? watching : &windows);
     ForgetTrails();
     std::destroy_at(&frmField);
     std::construct_at(&frmField);
@@ -28,4 +34,8 @@ void ResetForms() {
     std::construct_at(&frmProgress);
     std::destroy_at(&frmInfo);
     std::construct_at(&frmInfo);
+}
+
+void WatchThrough(Audience* watcher) {
+    watching = watcher;
 }

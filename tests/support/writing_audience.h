@@ -24,7 +24,7 @@ class WritingAudience : public Audience {
     void UnitMoved(int /*dx*/, int /*dy*/) override { ++pixels; }
     void StepEnds(int fromX, int fromY) override { Write("stepped from " + Cell(fromX, fromY)); }
     void UnitMovedUnseen(int dx, int dy) override { Write("moved unseen by " + Cell(dx, dy)); }
-    void UnitHurt(int damage) override { Write("hurt by " + std::to_string(damage)); }
+    void UnitHurt(int /*by*/, int damage) override { Write("hurt by " + std::to_string(damage)); }
     void UnitSighted(int x, int y) override { Write("sighted at " + Cell(x, y)); }
     void EnemiesCounted() override;
     void FiguresChanged(std::string_view what) override { Write("figures " + std::string(what)); }

@@ -77,7 +77,7 @@ class FiringRange {
 
     // A hit may also cost nothing, or give back: what only strokes him counts as a miss.
     struct HitCounter : QuietAudience {
-        void UnitHurt(int damage) override { count += damage > 0 ? 1 : 0; }
+        void UnitHurt(int /*by*/, int damage) override { count += damage > 0 ? 1 : 0; }
         int count = 0;
     };
 

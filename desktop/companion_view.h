@@ -1,0 +1,29 @@
+// What the companion draws, on the main window: over the field, and over the part of the window where the
+// field is seen. While something moves, a timer keeps it moving; at rest nothing runs.
+#pragma once
+
+#include <QTimer>
+
+#include "desktop/sketch_widget.h"
+#include "shell/companion.h"
+
+class FormWindow;
+
+class CompanionView {
+  public:
+    /// Both must outlive it, but for the widgets, which the window owns.
+    CompanionView(FormWindow& main, Companion& whose);
+
+    /// Brings the widgets in line with what the companion draws now.
+    void Sync();
+
+    /// Waits until `end` without an event, and keeps moving meanwhile what moves.
+    void SleepUntil(Moment end);
+
+  private:
+    FormWindow& window;
+    Companion& companion;
+    SketchWidget& onField;
+    SketchWidget& onView;
+    QTimer motion;
+};

@@ -1,0 +1,24 @@
+// Strokes over a widget, or over a part of a window: what the shell draws on top of the game's own pictures.
+// The mouse doesn't meet it.
+#pragma once
+
+#include <QRegion>
+#include <QWidget>
+
+#include "shell/sketch.h"
+
+class SketchWidget : public QWidget {
+  public:
+    /// Covers `extent` of `parent`, in the records' pixels, from which the strokes' places count.
+    SketchWidget(QWidget& parent, const QRect& extent);
+
+    /// Shows `sketch`; what differs is painted with the window's next paint.
+    void Show(const Sketch& sketch);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    const QRect place;
+    Sketch shown;
+};
