@@ -4,9 +4,13 @@
 #include <thread>
 
 #include "desktop/form_window.h"
+#include "desktop/picture_widget.h"
+#include "desktop/scale.h"
 #include "view/field_form.h"
 
 namespace {
+
+using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds FrameTime(33);
 
@@ -20,7 +24,9 @@ CompanionView::CompanionView(FormWindow& main, Companion& whose)
     : window(main),
       companion(whose),
       onField(*new SketchWidget(*main.WidgetOf(frmField.area), BoundsOf(frmField.area))),
-      onView(*new SketchWidget(*main.WidgetOf(frmField), {ViewLeft, ViewTop, ViewWidth, ViewHeight})) {
+      onView(*new SketchWidget(*main.WidgetOf(frmField), {ViewLeft, ViewTop, ViewWidth, ViewHeight})),
+      onMap(*new SketchWidget(*main.WidgetOf(frmField.picAreaMap), BoundsOf(frmField.picAreaMap))) {
+    companion.FilmTurns();
     motion.setInterval(FrameTime);
     motion.callOnTimeout([this] { Sync(); });
 }
@@ -29,12 +35,36 @@ void CompanionView::Sync() {
     companion.Look();
     onField.Show(companion.OnField());
     onView.Show(companion.OnView());
+    onMap.Show(companion.OnMap());
     if (companion.IsMoving() == motion.isActive()) return;
     companion.IsMoving() ? motion.start() : motion.stop();
 }
 
+void CompanionView::Screen(const std::function<void(Moment end)>& handleUntil,
+                           const Screening::PlaySound& play) {
+    if (!companion.IsFilming() || !companion.BeginScreening(play)) return;
+    Screening& screening = *companion.TheScreening();
+    auto& field = dynamic_cast<CanvasWidget&>(*window.WidgetOf(frmField.area));
+    field.ShowInstead(&screening.Field());
+    for (Moment now = Clock::now(); screening.Advance(now); now = Clock::now()) {
+        ShowScreening(screening, now);
+        field.SyncCanvas();
+        Sync();
+        window.PaintNow();
+        handleUntil(std::min(screening.Next(now), now + FrameTime));
+    }
+    field.ShowInstead(nullptr);
+    companion.EndScreening();
+}
+
+void CompanionView::ShowScreening(const Screening& screening, Moment now) {
+    const ViewPlace view = screening.View(now);
+    window.WidgetOf(frmField.area)
+        ->move(ToScreen(ViewLeft - view.left), ToScreen(ViewTop - view.top));
+}
+
 void CompanionView::SleepUntil(Moment end) {
-    while (companion.IsMoving() && std::chrono::steady_clock::now() + FrameTime < end) {
+    while (companion.IsMoving() && Clock::now() + FrameTime < end) {
         std::this_thread::sleep_for(FrameTime);
         Sync();
         window.PaintNow();

@@ -2,6 +2,8 @@
 // field is seen. While something moves, a timer keeps it moving; at rest nothing runs.
 #pragma once
 
+#include <functional>
+
 #include <QTimer>
 
 #include "desktop/sketch_widget.h"
@@ -17,13 +19,20 @@ class CompanionView {
     /// Brings the widgets in line with what the companion draws now.
     void Sync();
 
+    /// Shows the film of the computer's turn, if there is one worth it, and lets in the window system's events
+    /// meanwhile through `handleUntil`; returns when it has been seen or skipped.
+    void Screen(const std::function<void(Moment end)>& handleUntil, const Screening::PlaySound& play);
+
     /// Waits until `end` without an event, and keeps moving meanwhile what moves.
     void SleepUntil(Moment end);
 
   private:
+    void ShowScreening(const Screening& screening, Moment now);
+
     FormWindow& window;
     Companion& companion;
     SketchWidget& onField;
     SketchWidget& onView;
+    SketchWidget& onMap;
     QTimer motion;
 };

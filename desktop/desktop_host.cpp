@@ -59,11 +59,13 @@ DesktopHost::~DesktopHost() {
 
 void DesktopHost::Enter(const std::function<void()>& piece) {
     if (failed) return;
+    ++entered;
     try {
         piece();
     } catch (const std::exception& error) {
         Fail(error.what());
     }
+    if (--entered == 0) Screen();
     Sync();
     if (InnermostPump() == 0) TakeLate();
 }
@@ -77,6 +79,7 @@ void DesktopHost::PlayBack(std::function<void(int pump)> source) {
 }
 
 void DesktopHost::LetIn() {
+    if (companion != nullptr && companion->TheScreening() != nullptr) return;
     if (playBack) Enter([this] { playBack(InnermostPump()); });
     TakeLate();
 }
@@ -89,7 +92,8 @@ void DesktopHost::TakeLate() {
 void DesktopHost::Receive(const InputEvent& event) {
     if (playBack || failed) return;
     if (refreshing) return late.push_back(event);
-    if (turnPause.Swallows(event, Now())) return;
+    if (SkipsFilm(event) || turnPause.Swallows(event, Now())) return;
+    if (companion != nullptr) companion->Before(event);
     Enter([&] { dispatch(event); });
     if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name)
         EndProcess(EXIT_SUCCESS);
@@ -104,8 +108,24 @@ FormWindow& DesktopHost::WindowOf(Form& form) {
     return *otherWindows.back();
 }
 
-void DesktopHost::Accompany(Companion& companion) {
-    companionView = std::make_unique<CompanionView>(mainWindow, companion);
+void DesktopHost::Accompany(Companion& whoGoesAlong) {
+    companion = &whoGoesAlong;
+    companionView = std::make_unique<CompanionView>(mainWindow, whoGoesAlong);
+}
+
+// While a film is shown, keys and presses only end it.
+bool DesktopHost::SkipsFilm(const InputEvent& event) {
+    Screening* const screening = companion != nullptr ? companion->TheScreening() : nullptr;
+    if (screening == nullptr || event.kind == EventKind::CloseRequest) return false;
+    if (event.kind != EventKind::MouseMove && event.kind != EventKind::KeyUp &&
+        event.kind != EventKind::MouseUp)
+        screening->Skip();
+    return true;
+}
+
+void DesktopHost::Screen() {
+    if (companionView)
+        companionView->Screen(HandleEventsUntil, [this](const SoundRequest& sound) { Emit(sound); });
 }
 
 void DesktopHost::NoteTurn() {
@@ -114,6 +134,7 @@ void DesktopHost::NoteTurn() {
 
 void DesktopHost::Sync() {
     NoteTurn();
+    if (IsFilming()) return;
     mainWindow.Sync();
     for (Form* form : forms)
         if (form->Visible) WindowOf(*form);
@@ -123,8 +144,9 @@ void DesktopHost::Sync() {
 }
 
 void DesktopHost::Refresh(Control& control) {
-    FormWindow& window = WindowOf(*control.form);
     NoteTurn();
+    if (IsFilming()) return companion->Shoot({});
+    FormWindow& window = WindowOf(*control.form);
     window.Sync();
     if (companionView) companionView->Sync();
     refreshing = true;
@@ -136,10 +158,11 @@ void DesktopHost::PumpEvents() {
     const Pumping pumping(*this);
     Sync();
     LetIn();
-    QCoreApplication::processEvents();
+    if (!IsFilming()) QCoreApplication::processEvents();
 }
 
 void DesktopHost::Wait(std::chrono::nanoseconds time, bool pump) {
+    if (IsFilming()) return WaitInFilm(time, pump);
     const auto end = steady_clock::now() + time;
     if (pump) {
         const Pumping pumping(*this);
@@ -152,6 +175,12 @@ void DesktopHost::Wait(std::chrono::nanoseconds time, bool pump) {
         companionView->SleepUntil(end);
     else
         std::this_thread::sleep_until(end);
+}
+
+// The rules don't wait; what is seen meanwhile is shown later.
+void DesktopHost::WaitInFilm(std::chrono::nanoseconds time, bool pump) {
+    companion->Shoot(time);
+    if (pump) PumpEvents();
 }
 
 void DesktopHost::ShowModal(Form& form) {
@@ -173,11 +202,13 @@ void DesktopHost::ShowModal(Form& form) {
 
 void DesktopHost::ShowMessage(const std::string& text) {
     if (atMessage) atMessage();
+    Screen();
     Sync();
     ShowBox(QMessageBox::Information, text);
 }
 
 void DesktopHost::Emit(const SoundRequest& sound) {
+    if (IsFilming()) return companion->Keep(sound);
     soundDevice.Play(sound);
     quiet.start();
 }

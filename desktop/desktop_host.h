@@ -34,8 +34,8 @@ class DesktopHost : public Host {
     /// next event by itself.
     void PlayBack(std::function<void(int pump)> source);
 
-    /// Shows on the main window what `companion` draws; it must outlive the host.
-    void Accompany(Companion& companion);
+    /// Shows on the main window what the companion draws; it must outlive the host.
+    void Accompany(Companion& whoGoesAlong);
 
     /// `last` runs when the process is about to end, whatever ends it, and gives its exit code.
     void AtEnd(std::function<int(int exitCode)> last) { atEnd = std::move(last); }
@@ -60,6 +60,10 @@ class DesktopHost : public Host {
     void LetIn();
     void TakeLate();
     void Receive(const InputEvent& event);
+    bool IsFilming() const { return companion != nullptr && companion->IsFilming(); }
+    bool SkipsFilm(const InputEvent& event);
+    void Screen();
+    void WaitInFilm(std::chrono::nanoseconds time, bool pump);
     void Sync();
     void NoteTurn();
     void Fail(const std::string& text);
@@ -69,10 +73,12 @@ class DesktopHost : public Host {
     FormWindow mainWindow;
     std::vector<FormWindow*> otherWindows;  // the main window owns them
     std::vector<Form*> forms;               // all but the main one
-    std::unique_ptr<CompanionView> companionView;  // null: nobody goes along
+    Companion* companion = nullptr;  // nobody goes along
+    std::unique_ptr<CompanionView> companionView;
     SoundDevice soundDevice;
     TurnPause turnPause;
     bool refreshing = false;
+    int entered = 0;  // pieces of the game that run within each other
     std::vector<InputEvent>
         late;  // came from the windows while one was refreshed; they wait for the next pump
     std::function<void(int pump)> playBack;  // empty: a person plays

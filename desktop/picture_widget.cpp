@@ -16,13 +16,13 @@ void DrawParts(QPainter& painter, const Picture& picture, const QRegion& parts, 
 }  // namespace
 
 CanvasSurface::CanvasSurface(Picture& toShow, const Colour& aroundIt, QWidget& parent)
-    : QWidget(&parent), canvas(toShow), colour(aroundIt), shownColour(aroundIt) {
+    : QWidget(&parent), own(toShow), canvas(&own), colour(aroundIt), shownColour(aroundIt) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 void CanvasSurface::SyncCanvas() {
-    const Rectangle changed = canvas.TakeChanged();
-    const Colour* pixels = canvas.Bounds().Empty() ? nullptr : canvas.Row(0);
+    const Rectangle changed = canvas->TakeChanged();
+    const Colour* pixels = canvas->Bounds().Empty() ? nullptr : canvas->Row(0);
     if (pixels != shownPixels || colour != shownColour)
         update();
     else if (!changed.Empty())
@@ -33,10 +33,10 @@ void CanvasSurface::SyncCanvas() {
 
 void CanvasSurface::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    const QRect shown = Touched(canvas.Bounds());
+    const QRect shown = Touched(canvas->Bounds());
     for (const QRect& beyond : event->region() - shown)
         painter.fillRect(beyond, QColor(colour));
-    DrawParts(painter, canvas, event->region() & shown, Ground::Opaque);
+    DrawParts(painter, *canvas, event->region() & shown, Ground::Opaque);
 }
 
 CanvasWidget::CanvasWidget(PictureBox& shown, QWidget& parent, const EventSink& to)

@@ -15,11 +15,15 @@ class CanvasSurface : public QWidget {
     /// Takes what was changed since the last call, to be painted next.
     void SyncCanvas();
 
+    /// Shows `other` in the canvas's place from now on, which must outlive that; nullptr for the canvas again.
+    void ShowInstead(Picture* other) { canvas = other != nullptr ? other : &own; }
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    Picture& canvas;
+    Picture& own;
+    Picture* canvas;
     const Colour& colour;
     const Colour* shownPixels = nullptr;  // where the canvas had its pixels; a new canvas has them elsewhere
     Colour shownColour;

@@ -1,15 +1,159 @@
 #include "shell/companion.h"
 
+#include <algorithm>
+
+#include "view/field_form.h"
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds AnnounceTime(1600);  // of a new turn
+constexpr std::size_t LongestReport = 5;    // lines
+
+constexpr Colour Plate = 0xD0101A14;
+constexpr Colour Lettering = Rgb(230, 240, 222);
+constexpr Colour EnemysLettering = Rgb(255, 140, 110);
+constexpr Colour Quiet = Rgb(170, 186, 168);
+
+constexpr float Middle = ViewWidth / 2.0F;
+
+// A plate of that size in the middle of the view, and its frame.
+void DrawPlate(float top, float width, float height, double share, Sketch& sketch) {
+    const Stroke box = {.kind = StrokeKind::Box,
+                        .x = Middle - width / 2,
+                        .y = top,
+                        .toX = Middle + width / 2,
+                        .toY = top + height,
+                        .colour = Faded(Plate, share)};
+    sketch.push_back(box);
+    Stroke frame = box;
+    frame.kind = StrokeKind::Frame;
+    frame.colour = Faded(Rgb(74, 103, 85), share);
+    sketch.push_back(frame);
+}
+
+void DrawWords(float y, float height, Colour colour, const std::string& text, Sketch& sketch) {
+    sketch.push_back(
+        {.kind = StrokeKind::Words, .x = Middle, .y = y, .breadth = height, .colour = colour, .text = text});
+}
+
+ViewPlace ViewNow() {
+    return {frmField.HScrollArea.Value, frmField.VScrollArea.Value};
+}
+
+// Something that a person does, and that isn't merely looking.
+bool IsDeed(const InputEvent& event) {
+    return event.kind == EventKind::KeyDown || event.kind == EventKind::MouseDown ||
+           event.kind == EventKind::Click || event.kind == EventKind::Choose;
+}
+
+}  // namespace
+
 Companion::Companion(Clock whichClock)
     : clock(whichClock), onlooker([this](const Happening& happening) { Witness(happening); }) {}
 
+void Companion::Before(const InputEvent& event) {
+    if (IsDeed(event)) report.clear();
+}
+
 void Companion::Witness(const Happening& happening) {
+    if (happening.kind == HappeningKind::MissionBegins) {
+        chronicle.Clear();
+        effects.Clear();
+        film.Clear();
+        report.clear();
+    }
+    if (happening.kind == HappeningKind::TurnBegins && happening.unit == EnemyTeam) BeginFilm();
     chronicle.Note(happening);
-    effects.Add(happening, clock());
+    if (film.IsRunning())
+        film.Keep(happening);
+    else
+        effects.Add(happening, clock());
+    if (happening.kind == HappeningKind::TurnBegins && happening.unit == SquadTeam) {
+        film.NoteTurnOver();
+        turnBegan = clock();
+        if (!film.IsWorthSeeing({filmedFrom.left, filmedFrom.top, ViewWidth, ViewHeight})) {
+            film.End();
+            film.Clear();
+            Report();
+        }
+    }
+}
+
+void Companion::BeginFilm() {
+    enemysFirst = chronicle.Entries().size();
+    if (!filmsTurns) return;
+    filmedFrom = ViewNow();
+    film.Begin(frmField.area.canvas, {&frmField.imgBlowup, &frmField.imgCover});
+}
+
+bool Companion::BeginScreening(const Screening::PlaySound& play) {
+    film.End();
+    if (film.Frames().empty()) return false;
+    screening.emplace(film, filmedFrom, ViewNow(), clock(), play,
+                      [this](const Happening& happening) { effects.Add(happening, clock()); });
+    return true;
+}
+
+void Companion::EndScreening() {
+    screening.reset();
+    film.Clear();
+    turnBegan = clock();
+    Report();
+}
+
+// What became of somebody is said once: who was hit and then killed was killed.
+void Companion::Report() {
+    report.clear();
+    const std::vector<ChronicleEntry>& entries = chronicle.Entries();
+    for (std::size_t i = enemysFirst; i < entries.size(); ++i)
+        if (entries[i].kind == EntryKind::Death || (entries[i].kind == EntryKind::Hit && entries[i].ours))
+            report.push_back(entries[i].text);
+    if (report.size() <= LongestReport) return;
+    const std::size_t more = report.size() - LongestReport + 1;
+    report.resize(LongestReport - 1);
+    report.push_back("and " + std::to_string(more) + " more: see the log");
+}
+
+bool Companion::IsMoving() const {
+    return screening.has_value() || effects.Any(clock()) || clock() - turnBegan < AnnounceTime;
 }
 
 void Companion::Look() {
     onField.clear();
     onView.clear();
-    effects.Draw(clock(), onField);
+    onMap.clear();
+    effects.Draw(clock(), onField, onMap);
+    DrawBanner();
+    if (!screening) DrawReport();
+}
+
+void Companion::DrawBanner() {
+    if (screening) {
+        DrawPlate(8, 220, 40, 1, onView);
+        DrawWords(21, 16, EnemysLettering, "Enemy's turn", onView);
+        DrawWords(38, 11, Quiet, "any key or click goes on", onView);
+        return;
+    }
+    const double left = 1 - std::chrono::duration<double>(clock() - turnBegan) / AnnounceTime;
+    if (left <= 0 || squadTurns == 0) return;
+    DrawPlate(8, 180, 28, 2 * left, onView);
+    DrawWords(22, 16, Faded(Lettering, 2 * left), "Your turn: " + std::to_string(squadTurns), onView);
+}
+
+void Companion::DrawReport() {
+    if (report.empty()) return;
+    constexpr float LineHeight = 18;
+    constexpr float Top = 44;
+    std::size_t longest = 0;
+    for (const std::string& line : report)
+        longest = std::max(longest, line.size());
+    DrawPlate(Top, 40 + 7.2F * static_cast<float>(longest), 12 + LineHeight * static_cast<float>(report.size()),
+              1, onView);
+    float y = Top + 6 + LineHeight / 2;
+    for (const std::string& line : report) {
+        DrawWords(y, 12, Lettering, line, onView);
+        y += LineHeight;
+    }
 }

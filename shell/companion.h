@@ -1,12 +1,20 @@
 // What goes along with a game for the person who plays it, and is no rule of it: the chronicle, the effects
-// that linger, marks and words over the field. It only looks: no state, draw or pump of the rules differs
-// with it. A front end asks it what to draw, and says when something may have changed.
+// that linger, the computer's turn as a film, banner and report over the field. It only looks: no state, draw
+// or pump of the rules differs with it. A front end asks it what to draw, and says when something may have
+// changed.
 #pragma once
 
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/input_event.h"
 #include "shell/chronicle.h"
 #include "shell/effects.h"
+#include "shell/film.h"
 #include "shell/moment.h"
 #include "shell/onlooker.h"
+#include "shell/screening.h"
 #include "shell/sketch.h"
 
 class Companion {
@@ -15,25 +23,56 @@ class Companion {
     using Clock = Moment (*)();
     explicit Companion(Clock whichClock = std::chrono::steady_clock::now);
 
+    /// To be called before an event of a person enters the game.
+    void Before(const InputEvent& event);
+
     /// To be called whenever the windows are brought in line with their records: decides what is drawn now.
     void Look();
 
     /// Whether what is drawn goes on changing by itself.
-    bool IsMoving() const { return effects.Any(clock()); }
+    bool IsMoving() const;
 
-    /// In pixels of the field, and of the part of the window where the field is seen.
+    /// In pixels of the field, of the part of the window where the field is seen, and of the mini map.
     const Sketch& OnField() const { return onField; }
     const Sketch& OnView() const { return onView; }
+    const Sketch& OnMap() const { return onMap; }
 
     const Chronicle& TheChronicle() const { return chronicle; }
 
+    /// The computer's turns are filmed from now on: the front end shows nothing while one is, doesn't wait,
+    /// and asks for a screening when the rules are done.
+    void FilmTurns() { filmsTurns = true; }
+    bool IsFilming() const { return film.IsRunning(); }
+    void Shoot(std::chrono::nanoseconds length) { film.Shoot(length); }
+    void Keep(const SoundRequest& sound) { film.Keep(sound); }
+
+    /// Ends the filming. False when there is nothing to be seen.
+    bool BeginScreening(const Screening::PlaySound& play);
+
+    /// While a film is shown; nullptr else.
+    Screening* TheScreening() { return screening ? &*screening : nullptr; }
+    void EndScreening();
+
   private:
     void Witness(const Happening& happening);
+    void BeginFilm();
+    void Report();
+    void DrawBanner();
+    void DrawReport();
 
     const Clock clock;
     Chronicle chronicle;
     Effects effects;
+    Film film;
+    std::optional<Screening> screening;
+    bool filmsTurns = false;
+    ViewPlace filmedFrom;             // what was in view when the film began
+    std::size_t enemysFirst = 0;      // entry of the chronicle since the computer's turn began
+    std::vector<std::string> report;  // of that turn, until the next order
+    Moment turnBegan;                 // of the squad
+    int announced = 0;                // turn
     Sketch onField;
     Sketch onView;
+    Sketch onMap;
     Onlooker onlooker;
 };

@@ -8,6 +8,7 @@
 #include "data/terrain.h"
 #include "field/geometry.h"
 #include "state/state.h"
+#include "view/mini_map.h"
 
 namespace {
 
@@ -23,6 +24,7 @@ constexpr milliseconds HitTime(700);
 constexpr milliseconds FlinchTime(300);
 constexpr milliseconds BlastTime(700);
 constexpr milliseconds SightingTime(600);
+constexpr milliseconds SelectedTime(1200);
 
 constexpr Colour Tracer = Rgb(255, 236, 170);
 constexpr Colour MuzzleFlash = Rgb(255, 214, 96);
@@ -189,6 +191,20 @@ void DrawSighting(const Happening& sighting, milliseconds age, int /*ground*/, S
     sketch.push_back(Words(x, y - 20, 14, Faded(Sighted, 2 * left), "!"));
 }
 
+void DrawPing(const Happening& cause, milliseconds age, Sketch& onMap) {
+    const float grown = Share(age, HitTime);
+    onMap.push_back(Ring(static_cast<float>(cause.x) / MiniMapRatio, static_cast<float>(cause.y) / MiniMapRatio,
+                         24 - 18 * grown, Faded(Sighted, 2 * static_cast<double>(1 - grown))));
+}
+
+// Who awaits orders now.
+void DrawSelected(const Happening& selected, milliseconds age, int /*ground*/, Sketch& sketch) {
+    const auto x = static_cast<float>(selected.x);
+    const auto y = static_cast<float>(selected.y);
+    const auto left = static_cast<double>(1 - Share(age, SelectedTime));
+    sketch.push_back(Words(x, y - 19, 12, Faded(White, 2 * left), UnitTable[selected.unit].name));
+}
+
 struct Look {
     HappeningKind kind;
     milliseconds length;
@@ -201,6 +217,7 @@ constexpr Look Looks[] = {
     {HappeningKind::Death, HitTime, DrawDeath},
     {HappeningKind::Blast, BlastTime, DrawBlast},
     {HappeningKind::Sighting, SightingTime, DrawSighting},
+    {HappeningKind::Selected, SelectedTime, DrawSelected},
 };
 
 const Look* LookOf(HappeningKind kind) {
@@ -226,12 +243,16 @@ void Effects::Add(const Happening& happening, Moment now) {
     running.push_back({happening, now, GroundAt(happening.toX, happening.toY)});
 }
 
-void Effects::Draw(Moment now, Sketch& onField) {
+void Effects::Draw(Moment now, Sketch& onField, Sketch& onMap) {
     std::erase_if(running, [now](const Effect& effect) {
         return AgeOf(effect.begun, now) >= LookOf(effect.cause.kind)->length;
     });
-    for (const Effect& effect : running)
-        LookOf(effect.cause.kind)->draw(effect.cause, AgeOf(effect.begun, now), effect.ground, onField);
+    for (const Effect& effect : running) {
+        const milliseconds age = AgeOf(effect.begun, now);
+        LookOf(effect.cause.kind)->draw(effect.cause, age, effect.ground, onField);
+        if (IsAct(effect.cause.kind) && effect.cause.kind != HappeningKind::Shot)
+            DrawPing(effect.cause, age, onMap);
+    }
 }
 
 bool Effects::Any(Moment now) const {

@@ -15,7 +15,8 @@ class Effects {
     void Add(const Happening& happening, Moment now);
 
     /// Appends the strokes of all effects as they look at `now`, and forgets those that have ended.
-    void Draw(Moment now, Sketch& onField);
+    /// On the mini map a ring closes in on who is hit, and on a blast.
+    void Draw(Moment now, Sketch& onField, Sketch& onMap);
 
     bool Any(Moment now) const;
 

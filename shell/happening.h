@@ -4,6 +4,7 @@
 #include <string>
 
 enum class HappeningKind {
+    MissionBegins,
     TurnBegins,  // of team `unit`
     Selected,    // a soldier of the squad, `unit`, awaits orders
     Shot,        // a bullet of `unit` flew from one place to the other
@@ -26,3 +27,9 @@ struct Happening {
     bool seen = true;       // by the squad, or to one of its own
     std::string text = {};  // of a line; of a shot, hit or death the weapon's key
 };
+
+/// Whether it is something that is done to somebody or something: a shot, a hit, a death, a blast.
+constexpr bool IsAct(HappeningKind kind) {
+    return kind == HappeningKind::Shot || kind == HappeningKind::Hit || kind == HappeningKind::Death ||
+           kind == HappeningKind::Blast;
+}

@@ -1,5 +1,6 @@
 #include "shell/onlooker.h"
 
+#include <cstdlib>
 #include <utility>
 
 #include "field/moving.h"
@@ -15,7 +16,19 @@ Happening At(HappeningKind kind, int unit) {
 
 bool IsSeen(int unit) {
     const Unit& who = UnitTable[unit];
-    return TeamOfUnit(unit) == SquadTeam || ThisVisible(who.cellX, who.cellY);
+    return unit >= ChargeBase || TeamOfUnit(unit) == SquadTeam || ThisVisible(who.cellX, who.cellY);
+}
+
+// Whether a shot ends so near to a living soldier of the squad that he can't miss it.
+bool EndsNearOurs(const Happening& shot) {
+    constexpr int Near = 3 * CellSize;
+    for (int i = 0; i <= teamLast[SquadTeam]; ++i) {
+        const Unit& soldier = UnitTable[i];
+        if (soldier.status != Dead && std::abs(soldier.pixelX + HalfCell - shot.toX) < Near &&
+            std::abs(soldier.pixelY + HalfCell - shot.toY) < Near)
+            return true;
+    }
+    return false;
 }
 
 }  // namespace
@@ -35,6 +48,7 @@ void Onlooker::MissionBegins() {
     wounds.fill({});
     flying.clear();
     meanwhile.clear();
+    witness({.kind = HappeningKind::MissionBegins});
 }
 
 void Onlooker::MissionReady() {
@@ -95,8 +109,9 @@ void Onlooker::TrailChanged(std::string_view mode) {
                           .toY = muzzleY,
                           .text = UnitTable[curUnit].hand.name});
     } else if (mode == "finalize" && !flying.empty()) {
-        const Happening shot = flying.back();
+        Happening shot = flying.back();
         flying.pop_back();
+        shot.seen = IsSeen(shot.unit) || EndsNearOurs(shot);
         witness(shot);
         for (const Happening& happening : std::exchange(meanwhile, {}))
             Report(happening);

@@ -9,6 +9,7 @@
 #include "personal/personal_file.h"
 #include "platform/files.h"
 #include "platform/host.h"
+#include "shell/companion.h"
 #include "tools/game_copy.h"
 #include "tools/lab/commands.h"
 #include "tools/lab/recorder.h"
@@ -44,6 +45,7 @@ int RunWindow(const WindowRun& run) {
 }
 
 int ReplayInWindow(const Recording& recording, const fs::path& pictures, const GameCopy& copy) {
+    Companion companion;
     Replay replay(recording, pictures);
     bool byTheGame = true;
     const auto playBack = [&](int pump) {
@@ -61,7 +63,8 @@ int ReplayInWindow(const Recording& recording, const fs::path& pictures, const G
     return RunWindow({.begin = [&replay] { replay.Start(); },
                       .dispatch = [](const InputEvent&) {},
                       .playBack = playBack,
-                      .atEnd = atEnd});
+                      .atEnd = atEnd,
+                      .companion = &companion});
 }
 
 struct PlayOptions {
