@@ -59,8 +59,7 @@ void CompanionView::Screen(const std::function<void(Moment end)>& handleUntil,
 
 void CompanionView::ShowScreening(const Screening& screening, Moment now) {
     const ViewPlace view = screening.View(now);
-    window.WidgetOf(frmField.area)
-        ->move(ToScreen(ViewLeft - view.left), ToScreen(ViewTop - view.top));
+    window.WidgetOf(frmField.area)->move(ToScreen(ViewLeft - view.left), ToScreen(ViewTop - view.top));
 }
 
 void CompanionView::SleepUntil(Moment end) {

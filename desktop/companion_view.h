@@ -19,8 +19,8 @@ class CompanionView {
     /// Brings the widgets in line with what the companion draws now.
     void Sync();
 
-    /// Shows the film of the computer's turn, if there is one worth it, and lets in the window system's events
-    /// meanwhile through `handleUntil`; returns when it has been seen or skipped.
+    /// Shows the film of the computer's turn, if there is one worth it, and lets in the window system's
+    /// events meanwhile through `handleUntil`; returns when it has been seen or skipped.
     void Screen(const std::function<void(Moment end)>& handleUntil, const Screening::PlaySound& play);
 
     /// Waits until `end` without an event, and keeps moving meanwhile what moves.

@@ -73,7 +73,7 @@ class DesktopHost : public Host {
     FormWindow mainWindow;
     std::vector<FormWindow*> otherWindows;  // the main window owns them
     std::vector<Form*> forms;               // all but the main one
-    Companion* companion = nullptr;  // nobody goes along
+    Companion* companion = nullptr;         // nobody goes along
     std::unique_ptr<CompanionView> companionView;
     SoundDevice soundDevice;
     TurnPause turnPause;

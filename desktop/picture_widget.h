@@ -15,7 +15,8 @@ class CanvasSurface : public QWidget {
     /// Takes what was changed since the last call, to be painted next.
     void SyncCanvas();
 
-    /// Shows `other` in the canvas's place from now on, which must outlive that; nullptr for the canvas again.
+    /// Shows `other` in the canvas's place from now on, which must outlive that; nullptr for the canvas
+    /// again.
     void ShowInstead(Picture* other) { canvas = other != nullptr ? other : &own; }
 
   protected:

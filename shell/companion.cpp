@@ -149,8 +149,8 @@ void Companion::DrawReport() {
     std::size_t longest = 0;
     for (const std::string& line : report)
         longest = std::max(longest, line.size());
-    DrawPlate(Top, 40 + 7.2F * static_cast<float>(longest), 12 + LineHeight * static_cast<float>(report.size()),
-              1, onView);
+    DrawPlate(Top, 40 + 7.2F * static_cast<float>(longest),
+              12 + LineHeight * static_cast<float>(report.size()), 1, onView);
     float y = Top + 6 + LineHeight / 2;
     for (const std::string& line : report) {
         DrawWords(y, 12, Lettering, line, onView);

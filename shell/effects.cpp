@@ -93,7 +93,12 @@ Stroke Ring(float x, float y, float across, Colour colour) {
     return {.kind = StrokeKind::Ring, .x = x, .y = y, .breadth = across, .colour = colour};
 }
 
+// Wholly on the field, also over a unit at its edge.
 Stroke Words(float x, float y, float height, Colour colour, std::string text) {
+    constexpr float HalfOfLetter = 0.36F;  // of its width, for one of height 1
+    const float half = HalfOfLetter * height * static_cast<float>(text.size()) + 2;
+    x = std::clamp(x, half, static_cast<float>(FieldWidth * CellSize) - half);
+    y = std::clamp(y, height / 2 + 2, static_cast<float>(FieldHeight * CellSize) - height / 2 - 2);
     return {.kind = StrokeKind::Words,
             .x = x,
             .y = y,
@@ -193,8 +198,9 @@ void DrawSighting(const Happening& sighting, milliseconds age, int /*ground*/, S
 
 void DrawPing(const Happening& cause, milliseconds age, Sketch& onMap) {
     const float grown = Share(age, HitTime);
-    onMap.push_back(Ring(static_cast<float>(cause.x) / MiniMapRatio, static_cast<float>(cause.y) / MiniMapRatio,
-                         24 - 18 * grown, Faded(Sighted, 2 * static_cast<double>(1 - grown))));
+    onMap.push_back(Ring(static_cast<float>(cause.x) / MiniMapRatio,
+                         static_cast<float>(cause.y) / MiniMapRatio, 24 - 18 * grown,
+                         Faded(Sighted, 2 * static_cast<double>(1 - grown))));
 }
 
 // Who awaits orders now.

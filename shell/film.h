@@ -1,5 +1,5 @@
-// The computer's turn as a film. The rules run on without waiting, and what they paint, sound and do is kept in
-// order; afterwards a Screening shows it at a pace that the eye follows.
+// The computer's turn as a film. The rules run on without waiting, and what they paint, sound and do is kept
+// in order; afterwards a Screening shows it at a pace that the eye follows.
 #pragma once
 
 #include <array>
@@ -32,8 +32,8 @@ struct FilmFrame {
     std::vector<Run> runs;
     Rectangle changed;  // around them
     std::array<FilmedOverlay, 2> overlays;
-    std::vector<SoundRequest> sounds;     // they begin with it
-    std::vector<Happening> happenings;    // they have happened when it is seen
+    std::vector<SoundRequest> sounds;      // they begin with it
+    std::vector<Happening> happenings;     // they have happened when it is seen
     std::chrono::nanoseconds length = {};  // that the rules would have waited
 };
 
@@ -60,7 +60,8 @@ class Film {
     const Picture& Start() const { return start; }
     const std::vector<FilmFrame>& Frames() const { return frames; }
 
-    /// Whether it holds something to be seen: a shot, hit, death or blast, or movement in `view` of the field.
+    /// Whether it holds something to be seen: a shot, hit, death or blast, or movement in `view` of the
+    /// field.
     bool IsWorthSeeing(const Rectangle& view) const;
 
     void Clear();

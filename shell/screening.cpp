@@ -12,9 +12,9 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds PanTime(350);    // of the view from one place to another
+constexpr milliseconds PanTime(350);     // of the view from one place to another
 constexpr milliseconds ArriveTime(200);  // before something happens where the view has gone
-constexpr int Margin = 60;              // pixels of the view's edge in which the eye misses what happens
+constexpr int Margin = 60;               // pixels of the view's edge in which the eye misses what happens
 
 // How long the eye rests on what has happened.
 struct Rest {
@@ -29,8 +29,18 @@ constexpr Rest Rests[] = {
     {HappeningKind::Blast, milliseconds(400)},
 };
 
-milliseconds RestOn(const FilmFrame& frame) {
-    milliseconds longest(0);
+bool HasShot(const FilmFrame& frame) {
+    return std::any_of(frame.happenings.begin(), frame.happenings.end(), [](const Happening& happening) {
+        return happening.seen && happening.kind == HappeningKind::Shot;
+    });
+}
+
+// A burst goes on at once; what stands alone is looked at.
+constexpr milliseconds LastShotRest(450);
+constexpr milliseconds BeginTime(300);  // in which the eye reads whose turn it is
+
+milliseconds RestOn(const FilmFrame& frame, bool goesOn) {
+    milliseconds longest = !goesOn && HasShot(frame) ? LastShotRest : milliseconds(0);
     for (const Happening& happening : frame.happenings)
         for (const Rest& rest : Rests)
             if (happening.seen && rest.kind == happening.kind) longest = std::max(longest, rest.length);
@@ -77,7 +87,7 @@ Screening::Screening(const Film& toShow, ViewPlace here, ViewPlace atLast, Momen
       witness(std::move(whoListens)),
       last(atLast),
       field(toShow.Start()),
-      due(now),
+      due(now + BeginTime),
       from(here),
       to(here),
       panned(now - PanTime) {}
@@ -108,8 +118,9 @@ bool Screening::BeginFrame(Moment now) {
     }
     Show(frame);
     const bool seen = ShowsIn(frame, to) || act != nullptr;
-    due += seen ? std::max<std::chrono::nanoseconds>(frame.length, RestOn(frame)) : std::chrono::nanoseconds(0);
     ++next;
+    const bool goesOn = next < film.Frames().size() && HasShot(film.Frames()[next]);
+    if (seen) due += std::max<std::chrono::nanoseconds>(frame.length, RestOn(frame, goesOn));
     return true;
 }
 

@@ -22,7 +22,8 @@ class Screening {
 
     /// Shows `film`, which must outlive this. The view begins at `here`, goes to what happens, and ends at
     /// `atLast`.
-    Screening(const Film& film, ViewPlace here, ViewPlace atLast, Moment now, PlaySound sound, Witness witness);
+    Screening(const Film& film, ViewPlace here, ViewPlace atLast, Moment now, PlaySound sound,
+              Witness witness);
 
     /// Goes on to what is seen at `now`. False when all has been seen, or was skipped.
     bool Advance(Moment now);
@@ -53,8 +54,8 @@ class Screening {
         Picture under;
     };
     std::vector<Covered> covered;  // by overlays, in the order in which they were laid down
-    std::size_t next = 0;  // frame
-    Moment due;            // when it is shown
+    std::size_t next = 0;          // frame
+    Moment due;                    // when it is shown
     ViewPlace from;
     ViewPlace to;
     Moment panned;  // when the view set out from there

@@ -102,9 +102,11 @@ void Replay::Start() {
     recorder.Start(recording.seed);
 }
 
-void Replay::LetIn(int pump) {
-    while (!Done() && recording.events[next].pump == pump)
+bool Replay::LetIn(int pump) {
+    const std::size_t before = next;
+    while (!Done() && recording.events[next].pump == pump && (pump != 0 || next == before))
         recorder.Dispatch(recording.events[next++].event);
+    return next != before;
 }
 
 void Replay::Compare(const std::string& line) {
@@ -183,7 +185,8 @@ ReplayResult ReplayHeadless(const Recording& recording, const std::filesystem::p
     const ReplayHost host(replay);
     try {
         replay.Start();
-        replay.LetIn(0);
+        while (replay.LetIn(0)) {
+        }
     } catch (const ProcessEnded&) {
         return replay.Result();
     } catch (const RunTimeError&) {

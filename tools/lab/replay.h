@@ -24,8 +24,9 @@ class Replay {
     /// Starts the game; the host must have been installed.
     void Start();
 
-    /// Dispatches the events that came in this pump, as far as they are next. 0 is outside all pumps.
-    void LetIn(int pump);
+    /// Dispatches the events that came in this pump, as far as they are next; outside all pumps, for which
+    /// `pump` is 0, one at a time. Whether there was one.
+    bool LetIn(int pump);
 
     /// The game has ended the process; for a host that doesn't throw then.
     void Ended(int exitCode) { Compare("end " + std::to_string(exitCode)); }
