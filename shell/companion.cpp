@@ -90,7 +90,10 @@ void Companion::BeginFilm() {
 
 bool Companion::BeginScreening(const Screening::PlaySound& play) {
     film.End();
-    if (film.Frames().empty()) return false;
+    if (film.Frames().empty() || frmField.bigMapShown) {
+        EndScreening();
+        return false;
+    }
     screening.emplace(film, filmedFrom, ViewNow(), clock(), play,
                       [this](const Happening& happening) { effects.Add(happening, clock()); });
     return true;

@@ -174,7 +174,7 @@ void DrawDeath(const Happening& death, milliseconds age, int /*ground*/, Sketch&
     const auto left = static_cast<double>(1 - Share(age, HitTime));
     DrawSpecks(death, x, y, 12, 6 + 8 * Share(age, HitTime), 3, Faded(Blood, left), sketch);
     const Colour colour = TeamOfUnit(death.unit) == SquadTeam ? OursHurt : TheirsHurt;
-    sketch.push_back(Words(x, y + 18, 12, Faded(colour, 2 * left), "killed"));
+    sketch.push_back(Words(x, y + 18, 12, Faded(colour, 2 * left), death.by < 0 ? "died" : "killed"));
 }
 
 void DrawBlast(const Happening& blast, milliseconds age, int /*ground*/, Sketch& sketch) {

@@ -32,6 +32,7 @@ void AddRuns(const Picture& before, const Picture& after, const Rectangle& part,
 }  // namespace
 
 void Film::Begin(Picture& field, const Overlays& over) {
+    End();
     Clear();
     filmed = &field;
     overlays = over;

@@ -6,6 +6,7 @@
 #include "field/sightings.h"
 #include "field/walking.h"
 #include "mission/setup.h"
+#include "shell/companion.h"
 #include "state/quiet_audience.h"
 #include "tests/support/game_test.h"
 #include "tests/support/writing_audience.h"
@@ -66,15 +67,19 @@ TEST_F(AudienceTest, AShotReportsItsTrailAndItsSufferer) {
     EXPECT_NE(reported.find("trail finalize\n", glass), std::string::npos) << reported;
 }
 
-// A mission is the same before the windows, through whose door its orders come, and before nobody.
+// A mission is the same before the windows, through whose door its orders come and with somebody who goes
+// along, and before nobody.
 TEST_F(AudienceTest, AMissionIsTheSameWhoeverWatches) {
     for (const char* player : {"simple", "sensible", "careless"}) {
         constexpr unsigned Seed = 3;
         constexpr int Turns = 12;
-        SendOrdersTo(Dispatch);
-        Main(Seed);
-        PlayMission(Turns, HabitsNamed(player));
-        SendOrdersTo(nullptr);
+        {
+            const Companion companion;
+            SendOrdersTo(Dispatch);
+            Main(Seed);
+            PlayMission(Turns, HabitsNamed(player));
+            SendOrdersTo(nullptr);
+        }
         const auto shown = std::make_unique<GameState>(game);
         QuietAudience nobody;
         InstallAudience(&nobody);
