@@ -18,6 +18,8 @@ class FilmWindowTest : public WindowGame {
         PutUnit(0, 10, 10);
         PutUnit(20, 14, 10);
         UnitTable[20].facing = West;
+        UnitTable[20].items[0] = UnitTable[0].items[0];
+        UnitTable[0].health = 1000;
     }
 
     Companion companion;
