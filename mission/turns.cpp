@@ -120,11 +120,12 @@ void NewTurn() {
     for (int i = 0; i <= teamLast[curTeam]; ++i)
         Refill(UnitTable[FirstOf(curTeam) + i]);
     curUnit = FirstOf(curTeam) - 1;
-    if (curTeam == EnemyTeam) ClearSightings();
     if (curTeam == SquadTeam) {
         ++squadTurns;
         CheckSquadCanAct();
     }
+    TheAudience().TurnBegins();
+    if (curTeam == EnemyTeam) ClearSightings();
     SelectNextUnit();
 }
 

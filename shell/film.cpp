@@ -69,6 +69,11 @@ void Film::Keep(const Happening& happening) {
     open.happenings.push_back(happening);
 }
 
+void Film::NoteTurnOver() {
+    Shoot({});
+    turnOver = true;
+}
+
 // All of the field is new to whoever has shown it until now.
 void Film::End() {
     if (!IsRunning()) return;

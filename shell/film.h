@@ -52,7 +52,7 @@ class Film {
     void Keep(const Happening& happening);
 
     /// From now on nothing waits: what follows is painted in one go.
-    void NoteTurnOver() { turnOver = true; }
+    void NoteTurnOver();
 
     void End();
 

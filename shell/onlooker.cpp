@@ -43,7 +43,6 @@ Onlooker::~Onlooker() {
 
 void Onlooker::MissionBegins() {
     FieldAudience::MissionBegins();
-    team = -1;
     statuses.fill(Active);
     wounds.fill({});
     flying.clear();
@@ -57,9 +56,13 @@ void Onlooker::MissionReady() {
         statuses[unit] = UnitTable[static_cast<int>(unit)].status;
 }
 
+void Onlooker::TurnBegins() {
+    FieldAudience::TurnBegins();
+    witness({.kind = HappeningKind::TurnBegins, .unit = curTeam});
+}
+
 void Onlooker::LineLogged(const std::string& line) {
     FieldAudience::LineLogged(line);
-    NoteTurn();
     witness({.kind = HappeningKind::Line, .unit = curUnit, .text = line});
     NoteDeaths();
 }
@@ -126,19 +129,12 @@ void Onlooker::TrailDrawn(int pixelX, int pixelY) {
 }
 
 void Onlooker::UnitBroughtIntoView(int unit) {
-    NoteTurn();
     if (TeamOfUnit(unit) == SquadTeam) witness(At(HappeningKind::Selected, unit));
     FieldAudience::UnitBroughtIntoView(unit);
 }
 
 void Onlooker::Report(const Happening& happening) {
     flying.empty() ? witness(happening) : meanwhile.push_back(happening);
-}
-
-void Onlooker::NoteTurn() {
-    if (team == curTeam || (curTeam != SquadTeam && curTeam != EnemyTeam)) return;
-    team = curTeam;
-    witness({.kind = HappeningKind::TurnBegins, .unit = team});
 }
 
 void Onlooker::NoteDeaths() {

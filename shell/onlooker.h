@@ -21,6 +21,7 @@ class Onlooker : public FieldAudience {
 
     void MissionBegins() override;
     void MissionReady() override;
+    void TurnBegins() override;
     void LineLogged(const std::string& line) override;
     void UnitHurt(int by, int damage) override;
     void UnitSighted(int x, int y) override;
@@ -37,11 +38,9 @@ class Onlooker : public FieldAudience {
     };
 
     void Report(const Happening& happening);
-    void NoteTurn();
     void NoteDeaths();
 
     Witness witness;
-    int team = -1;  // whose turn was reported last
     std::array<int, 2 * TeamStride> statuses = {};
     std::array<Wound, 2 * TeamStride> wounds = {};  // the last of each unit
     std::vector<Happening> flying;                  // shots that are on their way, the newest last

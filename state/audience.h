@@ -28,6 +28,9 @@ class Audience {
     virtual void MissionReady() = 0;
     virtual void MissionEnds() = 0;
 
+    /// The current team's turn begins; its units are refilled.
+    virtual void TurnBegins() = 0;
+
     /// A line of the log is complete.
     virtual void LineLogged(const std::string& line) = 0;
 

@@ -9,6 +9,7 @@ class QuietAudience : public Audience {
     void MapRead() override {}
     void MissionReady() override {}
     void MissionEnds() override {}
+    void TurnBegins() override {}
     void LineLogged(const std::string& /*line*/) override {}
     void CellChanged(int /*x*/, int /*y*/) override {}
     void ShowNow() override {}

@@ -19,6 +19,7 @@ class FilmWindowTest : public WindowGame {
         PutUnit(20, 14, 10);
         UnitTable[20].facing = West;
         UnitTable[20].items[0] = UnitTable[0].items[0];
+        UnitTable[20].agility = 200;  // time enough for a shot
         UnitTable[0].health = 1000;
     }
 
@@ -36,7 +37,7 @@ TEST_F(FilmWindowTest, ItIsShownWhenTheRulesAreDoneAndSkippedByAKey) {
         QTest::keyClick(&host.WindowOf(frmField), Qt::Key_Space);
     });
     press.start(20);
-    const int soldier = curUnit;
+    const int turns = squadTurns;
     host.Enter([&] {
         NewTurn();
         EXPECT_TRUE(companion.IsFilming());
@@ -45,7 +46,7 @@ TEST_F(FilmWindowTest, ItIsShownWhenTheRulesAreDoneAndSkippedByAKey) {
     EXPECT_TRUE(shownLater);
     EXPECT_EQ(companion.TheScreening(), nullptr);
     EXPECT_FALSE(companion.IsFilming());
-    EXPECT_EQ(curUnit, soldier) << "the key was not the game's";
+    EXPECT_EQ(squadTurns, turns + 1) << "the key is not the game's";
     const QImage shown = host.WindowOf(frmField).WidgetOf(frmField.area)->grab({20, 20, 40, 40}).toImage();
     EXPECT_EQ(shown.pixel(5, 5), frmField.area.canvas.Pixel(25, 25)) << "the field itself again";
 }

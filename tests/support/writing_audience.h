@@ -15,6 +15,7 @@ class WritingAudience : public Audience {
     void MapRead() override { Write("map read"); }
     void MissionReady() override { Write("mission ready"); }
     void MissionEnds() override { Write("mission ends"); }
+    void TurnBegins() override { Write("turn begins"); }
     void LineLogged(const std::string& line) override { Write("log: " + line); }
     void CellChanged(int x, int y) override { Write("cell " + Cell(x, y)); }
     void ShowNow() override {}
