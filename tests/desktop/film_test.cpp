@@ -37,16 +37,17 @@ TEST_F(FilmWindowTest, ItIsShownWhenTheRulesAreDoneAndSkippedByAKey) {
         QTest::keyClick(&host.WindowOf(frmField), Qt::Key_Space);
     });
     press.start(20);
-    const int turns = squadTurns;
+    int orders = 0;
     host.Enter([&] {
         NewTurn();
         EXPECT_TRUE(companion.IsFilming());
         rulesDone = true;
+        orders = orderCount;
     });
     EXPECT_TRUE(shownLater);
     EXPECT_EQ(companion.TheScreening(), nullptr);
     EXPECT_FALSE(companion.IsFilming());
-    EXPECT_EQ(squadTurns, turns + 1) << "the key is not the game's";
+    EXPECT_EQ(orderCount, orders) << "the key is not the game's";
     const QImage shown = host.WindowOf(frmField).WidgetOf(frmField.area)->grab({20, 20, 40, 40}).toImage();
     EXPECT_EQ(shown.pixel(5, 5), frmField.area.canvas.Pixel(25, 25)) << "the field itself again";
 }
