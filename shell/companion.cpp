@@ -136,7 +136,7 @@ void Companion::DrawBanner() {
     if (screening) {
         DrawPlate(8, 220, 40, 1, onView);
         DrawWords(21, 16, EnemysLettering, "Enemy's turn", onView);
-        DrawWords(38, 11, Quiet, "any key or click goes on", onView);
+        DrawWords(38, 11, Quiet, "any key or click skips it", onView);
         return;
     }
     const double left = 1 - std::chrono::duration<double>(clock() - turnBegan) / AnnounceTime;
