@@ -10,8 +10,6 @@
 #include <QApplication>
 #include <QMessageBox>
 
-#include "state/state.h"
-
 namespace {
 
 using std::chrono::steady_clock;
@@ -89,10 +87,20 @@ void DesktopHost::TakeLate() {
 void DesktopHost::Receive(const InputEvent& event) {
     if (playBack || failed) return;
     if (refreshing) return late.push_back(event);
-    if (turnPause.Swallows(event, Now())) return;
+    if (slips.Swallows(event, Now()) || !MayEnter(event)) return;
+    slips.Enters(event);
     Enter([&] { dispatch(event); });
     if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name)
         EndProcess(EXIT_SUCCESS);
+}
+
+bool DesktopHost::MayEnter(const InputEvent& event) {
+    if (asking) return false;
+    if (!asker) return true;
+    asking = true;
+    const bool may = asker(event);
+    asking = false;
+    return may;
 }
 
 FormWindow& DesktopHost::WindowOf(Form& form) {
@@ -104,12 +112,8 @@ FormWindow& DesktopHost::WindowOf(Form& form) {
     return *otherWindows.back();
 }
 
-void DesktopHost::NoteTurn() {
-    turnPause.Note(curTeam, Now());
-}
-
 void DesktopHost::Sync() {
-    NoteTurn();
+    slips.Note(Now());
     mainWindow.Sync();
     for (Form* form : forms)
         if (form->Visible) WindowOf(*form);
@@ -119,7 +123,7 @@ void DesktopHost::Sync() {
 
 void DesktopHost::Refresh(Control& control) {
     FormWindow& window = WindowOf(*control.form);
-    NoteTurn();
+    slips.Note(Now());
     window.Sync();
     refreshing = true;
     window.PaintNow();

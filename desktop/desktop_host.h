@@ -10,8 +10,8 @@
 
 #include "desktop/form_window.h"
 #include "desktop/sound_device.h"
-#include "desktop/turn_pause.h"
 #include "platform/host.h"
+#include "shell/slips.h"
 
 class DesktopHost : public Host {
   public:
@@ -38,6 +38,16 @@ class DesktopHost : public Host {
     /// `first` runs before each message of the game is shown.
     void AtMessage(std::function<void()> first) { atMessage = std::move(first); }
 
+    /// `mayEnter` is asked before each event of the windows enters the game; it may show a box, and meanwhile
+    /// what else comes from the windows is dropped.
+    void AskBefore(std::function<bool(const InputEvent&)> mayEnter) { asker = std::move(mayEnter); }
+
+    /// Shows everything as its records are, and at the windows' scale.
+    void Sync();
+
+    SoundDevice& Sounds() { return soundDevice; }
+    const Slips& TheSlips() const { return slips; }
+
     void Refresh(Control& control) override;
     void PumpEvents() override;
     void Wait(std::chrono::nanoseconds time, bool pump) override;
@@ -48,15 +58,14 @@ class DesktopHost : public Host {
   protected:
     void Emit(const SoundRequest& sound) override;
 
-    /// The clock that a double click is told by.
-    virtual TurnPause::Moment Now() const { return std::chrono::steady_clock::now(); }
+    /// The clock that slips are told by.
+    virtual Slips::Moment Now() const { return std::chrono::steady_clock::now(); }
 
   private:
     void LetIn();
     void TakeLate();
     void Receive(const InputEvent& event);
-    void Sync();
-    void NoteTurn();
+    bool MayEnter(const InputEvent& event);
     void Fail(const std::string& text);
     void CloseQuietDevice();
 
@@ -65,7 +74,9 @@ class DesktopHost : public Host {
     std::vector<FormWindow*> otherWindows;  // the main window owns them
     std::vector<Form*> forms;               // all but the main one
     SoundDevice soundDevice;
-    TurnPause turnPause;
+    Slips slips;
+    std::function<bool(const InputEvent&)> asker;  // empty: nothing is asked
+    bool asking = false;
     bool refreshing = false;
     std::vector<InputEvent>
         late;  // came from the windows while one was refreshed; they wait for the next pump

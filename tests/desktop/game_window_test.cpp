@@ -41,17 +41,6 @@ TEST_F(GameWindowTest, IsPlayedByTheMouse) {
     EXPECT_EQ(turns(), 2);
 }
 
-TEST(TurnPauseTest, AComputersTurnNeedNotBeSeen) {
-    const InputEvent endTurn = {EventKind::Click, "frmField.cmdNextTurn"};
-    const TurnPause::Moment back{std::chrono::hours(1)};
-    TurnPause pause;
-    pause.Note(SquadTeam, back - std::chrono::hours(1));
-    EXPECT_FALSE(pause.Swallows(endTurn, back));
-    pause.Note(SquadTeam, back);
-    EXPECT_FALSE(pause.Swallows({EventKind::Click, "frmField.imgStop"}, back));
-    EXPECT_TRUE(pause.Swallows(endTurn, back + std::chrono::milliseconds(299)));
-}
-
 class MissionHost : public HastyHost {
   public:
     using HastyHost::HastyHost;
