@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -126,8 +127,14 @@ void SetAppearance(QApplication& application) {
     }
     application.setPalette(palette);
     QToolTip::setPalette(palette);
-    QFont font = application.font();
+    ScaleFonts();
+}
+
+// What the style has painted for another scale isn't taken again.
+void ScaleFonts() {
+    QPixmapCache::clear();
+    QFont font = QApplication::font();
     font.setPixelSize(ToScreen(FontHeight));
-    application.setFont(font);
+    QApplication::setFont(font);
     QToolTip::setFont(font);
 }

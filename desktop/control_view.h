@@ -51,6 +51,7 @@ class ControlView {
     QWidget& widget;
     const EventSink& sink;
     bool shownEnabled = true;
+    const QString helpTip;  // read where the record has no tip
     bool named = false;  // for screen readers, not before the widget is whole
 };
 

@@ -7,12 +7,16 @@
 
 #include "platform/input_event.h"
 
+class SettingsFile;
+
 struct WindowRun {
     std::function<void()> begin;                       // starts the game, its folder too unless that was set
     std::function<void(const InputEvent&)> dispatch;   // takes what a person does
     std::function<void(int pump)> playBack = nullptr;  // see DesktopHost::PlayBack; empty for a person's play
     std::function<int(int exitCode)> atEnd = nullptr;  // see DesktopHost::AtEnd; may be empty
     std::function<void()> atMessage = nullptr;         // see DesktopHost::AtMessage; may be empty
+    std::function<bool(const InputEvent&)> mayEnter = nullptr;  // see DesktopHost::AskBefore; may be empty
+    SettingsFile* settings = nullptr;  // null: nothing is remembered, and no card is shown
 };
 
 /// Runs until the process ends. `arguments` are main's. The result is an exit code: with nowhere to show a

@@ -124,6 +124,7 @@ std::string TakeSettings(std::string_view text, Settings& settings) {
 }
 
 std::string SettingsFile::Load() {
+    kept = true;
     const std::string trouble = ReadTrouble(now);
     if (trouble.empty()) return {};
     std::fprintf(stderr, "Sarnoth III: settings: %s\n", trouble.c_str());
@@ -133,6 +134,7 @@ std::string SettingsFile::Load() {
 void SettingsFile::Change(const Settings& to) {
     if (to == now) return;
     now = to;
+    if (!kept) return;
     try {
         ReplaceFile(SettingsFileName, SettingsText(now));
     } catch (const RunTimeError& error) {

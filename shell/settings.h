@@ -38,11 +38,12 @@ class SettingsFile {
 
     const Settings& Now() const { return now; }
 
-    /// Takes other settings, and writes the file when they differ. The first time that it can't be written is
-    /// a line on standard error.
+    /// Takes other settings, and writes the file when they differ; not before Load. The first time that it
+    /// can't be written is a line on standard error.
     void Change(const Settings& to);
 
   private:
     Settings now;
+    bool kept = false;     // in the player's folder, and no longer in memory alone
     bool refused = false;  // the file couldn't be written
 };

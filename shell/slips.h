@@ -37,8 +37,8 @@ class Slips {
 
     bool away = false;  // the turn is the computer's, or about to be
     Moment cameBack;
-    int shown = -1;        // the squad's current unit, when it was looked at last
-    bool selects = false;  // the last order was to select another
+    int shown = -1;       // the squad's current unit, when it was looked at last
+    bool selects = true;  // the last order, or the game's start, was to select one
     std::optional<HandOver> handOver;
     std::set<int> held;       // codes of the keys that are down
     std::set<int> outlasted;  // of those, the ones pressed before the hand-over
