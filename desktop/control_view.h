@@ -52,7 +52,7 @@ class ControlView {
     const EventSink& sink;
     bool shownEnabled = true;
     const QString helpTip;  // read where the record has no tip
-    bool named = false;  // for screen readers, not before the widget is whole
+    bool named = false;     // for screen readers, not before the widget is whole
 };
 
 /// An event of `control`, named as Dispatch expects it, as "frmField.imgStance".

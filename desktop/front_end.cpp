@@ -149,6 +149,7 @@ void FrontEnd::ShowHelp(const QString& title, const std::string& page, int width
 
 void FrontEnd::Say(const QString& words) {
     const int margin = ToScreen(NoteMargin);
+    note.setFont(QApplication::font());  // it may just have changed
     note.setText(words);
     note.setContentsMargins(margin, margin, margin, margin);
     note.adjustSize();

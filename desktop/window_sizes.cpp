@@ -56,13 +56,12 @@ void WindowSizes::ToggleFullScreen() {
     if (IsFree()) Show(Wanted());
 }
 
+// The main window first: others stand in its middle.
 void WindowSizes::Show(Halves halves) {
-    if (halves != Scale()) {
-        SetScale(halves);
-        ScaleFonts();
-        show();
-    }
-    if (IsFree()) window.resize(window.sizeHint());
+    SetScale(halves);
+    ScaleFonts();
+    if (IsFree()) window.resize(ToScreen(QRect({0, 0}, SizeWithMenu(window.Shown()))).size());
+    show();
 }
 
 // The full screen isn't a choice of size.
