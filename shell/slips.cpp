@@ -73,7 +73,7 @@ bool Slips::Swallows(const InputEvent& event, Moment now) const {
 // What lets the turn end is noted too, for nothing need be shown of the computer's turn.
 void Slips::Enters(const InputEvent& event) {
     if (EndsTurn(event)) away = true;
-    if (IsOrder(event)) selects = Selects(event);
+    if (IsOrder(event) && curTeam == SquadTeam) selects = Selects(event);
     if (IsKey(event)) held.insert(event.code);
     if (event.kind != EventKind::KeyUp) return;
     held.erase(event.code);

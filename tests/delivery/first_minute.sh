@@ -7,7 +7,7 @@
 build=$3 stock=$4
 cd "$work" || exit 2
 # A screen in memory, in an environment of the test's own.
-quiet_env="env -i PATH=$PATH QT_QPA_PLATFORM=offscreen SDL_AUDIODRIVER=dummy ASAN_OPTIONS=${ASAN_OPTIONS:-}:detect_leaks=0"
+quiet_env="env -i PATH=$PATH QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=*=false SDL_AUDIODRIVER=dummy ASAN_OPTIONS=${ASAN_OPTIONS:-}:detect_leaks=0"
 
 # refuses TEXT COMMAND...: the command ends with 1 at once and says so on standard error.
 refuses() {

@@ -81,6 +81,16 @@ TEST_F(SlipsTest, OnlyAHandOverThatNobodyAskedForSwallowsWhatWasMeantForTheOther
     }
 }
 
+TEST_F(SlipsTest, AKeyInTheComputersTurnMakesNoHandOverOfItsEnd) {
+    slips.Enters(EndTurn);
+    curTeam = EnemyTeam;
+    slips.Enters(Key(ControlKey));
+    curTeam = SquadTeam;
+    curUnit = 2;
+    slips.Note(now);
+    EXPECT_FALSE(slips.LastHandOver());
+}
+
 TEST_F(SlipsTest, AKeyThatIsHeldBeyondTheHandOverIsForTheOther) {
     slips.Enters(Key(LeftKey));
     curUnit = 1;
