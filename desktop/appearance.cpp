@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -95,9 +97,19 @@ class SteelStyle : public QProxyStyle {
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-        if (option != nullptr) return QProxyStyle::pixelMetric(metric, option, widget);
+        const bool isTick = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
+        if (option != nullptr && !isTick) return QProxyStyle::pixelMetric(metric, option, widget);
         const QStyleOption scaled = AtScale(QStyleOption(), QApplication::font());
         return QProxyStyle::pixelMetric(metric, &scaled, widget);
+    }
+
+    // A tick's box is as dark as what it lies on: it gets a light edge.
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element != PE_IndicatorCheckBox) return;
+        painter->setPen(option->palette.color(QPalette::Light));
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
     }
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
@@ -126,8 +138,14 @@ void SetAppearance(QApplication& application) {
     }
     application.setPalette(palette);
     QToolTip::setPalette(palette);
-    QFont font = application.font();
+    ScaleFonts();
+}
+
+// What the style has painted for another scale isn't taken again.
+void ScaleFonts() {
+    QPixmapCache::clear();
+    QFont font = QApplication::font();
     font.setPixelSize(ToScreen(FontHeight));
-    application.setFont(font);
+    QApplication::setFont(font);
     QToolTip::setFont(font);
 }

@@ -5,3 +5,6 @@ class QApplication;
 
 /// Gives every widget of `application` its style, colours and font, at the scale of the windows.
 void SetAppearance(QApplication& application);
+
+/// Makes the fonts follow the scale after it has changed.
+void ScaleFonts();

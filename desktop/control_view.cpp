@@ -5,6 +5,7 @@
 
 #include "desktop/scale.h"
 #include "desktop/stops.h"
+#include "shell/help_pages.h"
 
 namespace {
 
@@ -40,10 +41,15 @@ std::string CaptionOf(const Control& control) {
     }
 }
 
+QString HelpTipOf(const Control& control) {
+    const std::string_view tip = HelpTip(control.form->name + "." + control.name);
+    return QString::fromUtf8(tip.data(), static_cast<qsizetype>(tip.size()));
+}
+
 }  // namespace
 
 ControlView::ControlView(Control& shown, QWidget& by, const EventSink& to)
-    : record(shown), widget(by), sink(to) {
+    : record(shown), widget(by), sink(to), helpTip(HelpTipOf(shown)) {
     widget.setObjectName(QString::fromStdString(record.name));
     // Tab alone moves the focus, a click never does; and a press that a widget doesn't want isn't for what
     // lies beneath it.
@@ -77,7 +83,7 @@ void ControlView::Send(EventKind kind, int code) const {
 }
 
 QString ControlView::Tip() const {
-    return QString::fromStdString(record.ToolTipText);
+    return record.ToolTipText.empty() ? helpTip : QString::fromStdString(record.ToolTipText);
 }
 
 // A disabled control leaves the mouse to what lies beneath it; the keyboard still stops at such a picture,

@@ -51,7 +51,8 @@ class ControlView {
     QWidget& widget;
     const EventSink& sink;
     bool shownEnabled = true;
-    bool named = false;  // for screen readers, not before the widget is whole
+    const QString helpTip;  // read where the record has no tip
+    bool named = false;     // for screen readers, not before the widget is whole
 };
 
 /// An event of `control`, named as Dispatch expects it, as "frmField.imgStance".

@@ -10,8 +10,6 @@
 #include <QApplication>
 #include <QMessageBox>
 
-#include "state/state.h"
-
 namespace {
 
 using std::chrono::steady_clock;
@@ -92,11 +90,21 @@ void DesktopHost::TakeLate() {
 void DesktopHost::Receive(const InputEvent& event) {
     if (playBack || failed) return;
     if (refreshing) return late.push_back(event);
-    if (SkipsFilm(event) || turnPause.Swallows(event, Now())) return;
+    if (SkipsFilm(event) || slips.Swallows(event, Now()) || !MayEnter(event)) return;
+    slips.Enters(event);
     if (companion != nullptr) companion->Before(event);
     Enter([&] { dispatch(event); });
     if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name)
         EndProcess(EXIT_SUCCESS);
+}
+
+bool DesktopHost::MayEnter(const InputEvent& event) {
+    if (asking) return false;
+    if (!asker) return true;
+    asking = true;
+    const bool may = asker(event);
+    asking = false;
+    return may;
 }
 
 FormWindow& DesktopHost::WindowOf(Form& form) {
@@ -113,13 +121,18 @@ void DesktopHost::Accompany(Companion& whoGoesAlong) {
     companionView = std::make_unique<CompanionView>(mainWindow, whoGoesAlong);
 }
 
-// While a film is shown, keys and presses only end it.
+// While a film is shown, keys and presses only end it; neither does the second press of the double click that
+// let it begin, nor is the second one of the double click that ended it for the game.
 bool DesktopHost::SkipsFilm(const InputEvent& event) {
-    Screening* const screening = companion != nullptr ? companion->TheScreening() : nullptr;
-    if (screening == nullptr || event.kind == EventKind::CloseRequest) return false;
-    if (event.kind != EventKind::MouseMove && event.kind != EventKind::KeyUp &&
-        event.kind != EventKind::MouseUp)
+    constexpr std::chrono::milliseconds Pause(400);
+    if (companion == nullptr || event.kind == EventKind::CloseRequest) return false;
+    const bool presses = IsDeed(event);
+    Screening* const screening = companion->TheScreening();
+    if (screening == nullptr) return presses && steady_clock::now() - skipped < Pause;
+    if (presses && steady_clock::now() - screening->Begun() > Pause) {
         screening->Skip();
+        skipped = steady_clock::now();
+    }
     return true;
 }
 
@@ -128,12 +141,8 @@ void DesktopHost::Screen() {
         companionView->Screen(HandleEventsUntil, [this](const SoundRequest& sound) { Emit(sound); });
 }
 
-void DesktopHost::NoteTurn() {
-    turnPause.Note(curTeam, Now());
-}
-
 void DesktopHost::Sync() {
-    NoteTurn();
+    slips.Note(Now());
     if (IsFilming()) return;
     mainWindow.Sync();
     for (Form* form : forms)
@@ -144,7 +153,7 @@ void DesktopHost::Sync() {
 }
 
 void DesktopHost::Refresh(Control& control) {
-    NoteTurn();
+    slips.Note(Now());
     if (IsFilming()) return companion->Shoot({});
     FormWindow& window = WindowOf(*control.form);
     window.Sync();

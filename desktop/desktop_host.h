@@ -12,8 +12,8 @@
 #include "desktop/companion_view.h"
 #include "desktop/form_window.h"
 #include "desktop/sound_device.h"
-#include "desktop/turn_pause.h"
 #include "platform/host.h"
+#include "shell/slips.h"
 
 class DesktopHost : public Host {
   public:
@@ -43,6 +43,16 @@ class DesktopHost : public Host {
     /// `first` runs before each message of the game is shown.
     void AtMessage(std::function<void()> first) { atMessage = std::move(first); }
 
+    /// `mayEnter` is asked before each event of the windows enters the game; it may show a box, and meanwhile
+    /// what else comes from the windows is dropped.
+    void AskBefore(std::function<bool(const InputEvent&)> mayEnter) { asker = std::move(mayEnter); }
+
+    /// Shows everything as its records are, and at the windows' scale.
+    void Sync();
+
+    SoundDevice& Sounds() { return soundDevice; }
+    const Slips& TheSlips() const { return slips; }
+
     void Refresh(Control& control) override;
     void PumpEvents() override;
     void Wait(std::chrono::nanoseconds time, bool pump) override;
@@ -53,8 +63,8 @@ class DesktopHost : public Host {
   protected:
     void Emit(const SoundRequest& sound) override;
 
-    /// The clock that a double click is told by.
-    virtual TurnPause::Moment Now() const { return std::chrono::steady_clock::now(); }
+    /// The clock that slips are told by.
+    virtual Moment Now() const { return std::chrono::steady_clock::now(); }
 
   private:
     void LetIn();
@@ -64,8 +74,7 @@ class DesktopHost : public Host {
     bool SkipsFilm(const InputEvent& event);
     void Screen();
     void WaitInFilm(std::chrono::nanoseconds time, bool pump);
-    void Sync();
-    void NoteTurn();
+    bool MayEnter(const InputEvent& event);
     void Fail(const std::string& text);
     void CloseQuietDevice();
 
@@ -76,8 +85,11 @@ class DesktopHost : public Host {
     Companion* companion = nullptr;         // nobody goes along
     std::unique_ptr<CompanionView> companionView;
     SoundDevice soundDevice;
-    TurnPause turnPause;
+    Slips slips;
+    std::function<bool(const InputEvent&)> asker;  // empty: nothing is asked
+    bool asking = false;
     bool refreshing = false;
+    Moment skipped;   // a film
     int entered = 0;  // pieces of the game that run within each other
     std::vector<InputEvent>
         late;  // came from the windows while one was refreshed; they wait for the next pump

@@ -7,6 +7,8 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QMenuBar>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -38,8 +40,8 @@ FormWindow::FormWindow(Form& shown, QWidget* owner, EventSink to)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addWidget(client);
+    layout->setSizeConstraint(owner != nullptr ? QLayout::SetFixedSize : QLayout::SetNoConstraint);
+    layout->addWidget(client, 0, Qt::AlignCenter);
     QPalette colours = client->palette();
     colours.setColor(QPalette::Window, QColor(Bright));
     client->setPalette(colours);
@@ -99,12 +101,21 @@ void FormWindow::Sync() {
 
 void FormWindow::SyncFrame() {
     const QSize inside = ToScreen(QRect(0, 0, form.Width, form.Height)).size();
-    if (client->size() != inside || client->minimumSize() != inside) client->setFixedSize(inside);
+    if (client->size() != inside || client->minimumSize() != inside) Resize(inside);
     if (shownCaption != form.Caption) {
         shownCaption = form.Caption;
         setWindowTitle(QString::fromStdString(shownCaption));
     }
     client->SyncCanvas();
+}
+
+void FormWindow::Resize(QSize inside) {
+    client->setFixedSize(inside);
+    if (menu != nullptr) menu->setFixedHeight(ToScreen(MenuHeight));
+    if (isHidden()) return;
+    client->update();
+    layout()->activate();
+    if (const QWidget* const owner = parentWidget()) move(PlaceBefore(*owner));
 }
 
 void FormWindow::SyncMenu() {
@@ -119,7 +130,7 @@ void FormWindow::SyncMenu() {
 void FormWindow::SyncVisible() {
     if (isHidden() != form.Visible) return;
     if (form.Visible) {
-        adjustSize();
+        if (!isFullScreen()) resize(sizeHint());
         if (const QWidget* const owner = parentWidget()) move(PlaceBefore(*owner));
         justShown = true;
     }
@@ -152,6 +163,11 @@ void FormWindow::AwaitExposure() {
     patience.start(ExposurePatience);
     while (!windowHandle()->isExposed() && patience.isActive())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+}
+
+// A window that is larger than its inside is black around it.
+void FormWindow::paintEvent(QPaintEvent* event) {
+    QPainter(this).fillRect(event->rect(), Qt::black);
 }
 
 bool FormWindow::focusNextPrevChild(bool next) {

@@ -19,7 +19,8 @@ class QMenuBar;
 class FormWindow : public QWidget {
   public:
     /// A window for `shown`, not on the screen until Sync finds the form visible. With an `owner` it stands
-    /// before the owner, in its middle. `to` takes all its events.
+    /// before the owner, in its middle; without one its size is the desktop's affair, and the inside stands
+    /// in its middle. `to` takes all its events.
     FormWindow(Form& shown, QWidget* owner, EventSink to);
 
     Form& Shown() const { return form; }
@@ -35,6 +36,7 @@ class FormWindow : public QWidget {
     QWidget* WidgetOf(const Control& control) const;
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     /// The close button only asks: what comes of it is for the game and the host.
     void closeEvent(QCloseEvent* event) override;
@@ -49,6 +51,7 @@ class FormWindow : public QWidget {
     void AddMenuEntry(MenuItem& item);
     void SyncMenu();
     void SyncFrame();
+    void Resize(QSize inside);
     void SyncVisible();
     QPoint PlaceBefore(const QWidget& owner) const;
     void AwaitExposure();

@@ -18,8 +18,9 @@
 
 #include "desktop/appearance.h"
 #include "desktop/desktop_host.h"
-#include "desktop/scale.h"
+#include "desktop/front_end.h"
 #include "platform/run_time_error.h"
+#include "shell/settings.h"
 #include "view/field_form.h"
 #include "view/forms.h"
 
@@ -66,14 +67,6 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
     std::_Exit(EXIT_FAILURE);
 }
 
-// As the desktop wants it, by its resolution and its factor for programs.
-double WantedScale(const QByteArray& factor) {
-    bool isNumber = false;
-    const double number = factor.toDouble(&isNumber);
-    const double resolution = QGuiApplication::primaryScreen()->logicalDotsPerInch();
-    return (isNumber ? number : 1.0) * resolution / PlainResolution;
-}
-
 std::vector<const Form*> ShownForms() {
     const std::vector<Form*> others = OtherForms();
     std::vector<const Form*> forms(others.begin(), others.end());
@@ -92,7 +85,6 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     qputenv("QT_NO_GLIB", "1");  // the other event dispatcher can leave keys lying until the next one comes
     int countOfName = 1;         // the game takes no arguments
     // The windows do their own scaling; the toolkit works in screen pixels.
-    const QByteArray factor = qgetenv("QT_SCALE_FACTOR");
     qunsetenv("QT_SCALE_FACTOR");
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
     const QtMessageHandler usual = qInstallMessageHandler(EndWithoutDisplay);
@@ -104,8 +96,6 @@ int RunInWindow(char** arguments, const WindowRun& run) {
         PrintNoDisplay();
         return EXIT_FAILURE;
     }
-    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-    SetScale(FittingScale(WantedScale(factor), screen, ShownForms()));
     SetAppearance(application);
     QApplication::setWindowIcon(GameIcon());
     QGuiApplication::setDesktopFileName(QLatin1String(DesktopEntry));
@@ -115,10 +105,17 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     if (run.companion != nullptr) host.Accompany(*run.companion);
     host.AtEnd(run.atEnd);
     host.AtMessage(run.atMessage);
+    host.AskBefore(run.mayEnter);
+    SettingsFile forgotten;
+    FrontEnd frontEnd(host, host.WindowOf(frmField), ShownForms(),
+                      run.settings != nullptr ? *run.settings : forgotten);
     // Within the event loop, so that the game can wait, and show boxes, from its first moment.
     QTimer begin;
     begin.setSingleShot(true);
-    begin.callOnTimeout([&] { host.Enter(run.begin); });
+    begin.callOnTimeout([&] {
+        host.Enter(run.begin);
+        if (run.settings != nullptr) frontEnd.ShowFirstCard();
+    });
     begin.start();
     return QApplication::exec();
 }

@@ -8,6 +8,7 @@
 #include "platform/input_event.h"
 
 class Companion;
+class SettingsFile;
 
 struct WindowRun {
     std::function<void()> begin;                       // starts the game, its folder too unless that was set
@@ -16,6 +17,8 @@ struct WindowRun {
     std::function<int(int exitCode)> atEnd = nullptr;  // see DesktopHost::AtEnd; may be empty
     std::function<void()> atMessage = nullptr;         // see DesktopHost::AtMessage; may be empty
     Companion* companion = nullptr;                    // goes along with the game; nullptr for none
+    std::function<bool(const InputEvent&)> mayEnter = nullptr;  // see DesktopHost::AskBefore; may be empty
+    SettingsFile* settings = nullptr;  // null: nothing is remembered, and no card is shown
 };
 
 /// Runs until the process ends. `arguments` are main's. The result is an exit code: with nowhere to show a

@@ -6,10 +6,7 @@
 
 namespace {
 
-constexpr Halves Sizes[] = {4, 3, 2};
-constexpr Halves SingleSize = 2;
-constexpr double Slack = 0.05;        // desktops tell their factor by a rounded number of dots per inch
-constexpr QSize Surround = {16, 64};  // screen pixels left for a window's menu and the desktop's frame
+constexpr QSize DesktopFrame = {16, 40};  // screen pixels that a desktop puts around a window
 
 Halves scale = SingleSize;
 
@@ -17,8 +14,12 @@ Halves scale = SingleSize;
 struct Covered {
     int first;
     int last;
+
+    bool operator==(const Covered&) const = default;
 };
 
+// Edges of the picture's pixels lie on those of the screen's, or in their middle: of two pixels each has one
+// half.
 Covered CoveredBy(int pixel, int length) {
     return {std::min(2 * pixel / scale, length - 1), std::min((2 * pixel + 1) / scale, length - 1)};
 }
@@ -43,6 +44,18 @@ Colour Mean(const Colour (&colours)[4]) {
     return (even >> 2 & 0x00FF00FF) | (odd >> 2 & 0x00FF00FF) << 8;
 }
 
+// One line of screen pixels, of two lines of a picture that may be the same.
+void PaintLine(Colour* pixel, const std::vector<Covered>& columns, const Colour* upper, const Colour* lower,
+               Colour solid) {
+    for (const Covered& across : columns) {
+        const Colour leftTop = upper[across.first] | solid;
+        const bool alone = upper == lower && across.first == across.last && leftTop >> 24 != 0;
+        *pixel++ = alone ? leftTop
+                         : Mean({leftTop, upper[across.last] | solid, lower[across.first] | solid,
+                                 lower[across.last] | solid});
+    }
+}
+
 // The picture's own pixels, not a copy.
 QImage Wrapped(const Picture& picture, const QRect& part, Ground ground) {
     const auto* bytes = reinterpret_cast<const uchar*>(picture.Row(part.top()) + part.left());
@@ -57,20 +70,33 @@ void SetScale(Halves halves) {
     scale = halves;
 }
 
+Halves Scale() {
+    return scale;
+}
+
 double ScaleFactor() {
     return scale / 2.0;
 }
 
-Halves FittingScale(double wanted, QSize screen, std::span<const Form* const> forms) {
-    QSize inside;
+QSize SizeWithMenu(const Form& form) {
+    const bool hasMenu = std::any_of(form.controls.begin(), form.controls.end(), [](const Control* control) {
+        return control->kind == ControlKind::Menu;
+    });
+    return {form.Width, form.Height + (hasMenu ? MenuHeight : 0)};
+}
+
+// What is rounded up here may be rounded down on the screen, part by part: it fits all the more.
+Halves LargestScale(QSize size, QSize room) {
+    const int across = 2 * room.width() / size.width();
+    const int down = 2 * room.height() / size.height();
+    return std::clamp(std::min(across, down), SingleSize, LargestSize);
+}
+
+Halves FittingScale(QSize screen, std::span<const Form* const> forms) {
+    Halves fitting = LargestSize;
     for (const Form* form : forms)
-        inside = inside.expandedTo({form->Width, form->Height});
-    for (const Halves halves : Sizes) {
-        const QSize shown = inside * halves / 2 + Surround;
-        const bool fits = shown.width() <= screen.width() && shown.height() <= screen.height();
-        if (fits && halves / 2.0 <= wanted + Slack) return halves;
-    }
-    return SingleSize;
+        fitting = std::min(fitting, LargestScale(SizeWithMenu(*form), screen - DesktopFrame));
+    return fitting;
 }
 
 int ToScreen(int edge) {
@@ -100,18 +126,16 @@ QImage Enlarged(const Picture& picture, const QRect& part, Ground ground) {
     const Colour solid = ground == Ground::Opaque ? Rgb(0, 0, 0) : 0;
     const std::vector<Covered> columns = Columns(part, picture.Width());
     QImage image(part.size(), QImage::Format_ARGB32_Premultiplied);
+    Covered painted = {-1, -1};
     for (int y = 0; y < part.height(); ++y) {
         const Covered rows = CoveredBy(part.top() + y, picture.Height());
-        const Colour* const upper = picture.Row(rows.first);
-        const Colour* const lower = picture.Row(rows.last);
-        auto* pixel = reinterpret_cast<Colour*>(image.scanLine(y));
-        for (const Covered& across : columns) {
-            const Colour leftTop = upper[across.first] | solid;
-            const bool alone = upper == lower && across.first == across.last && leftTop >> 24 != 0;
-            *pixel++ = alone ? leftTop
-                             : Mean({leftTop, upper[across.last] | solid, lower[across.first] | solid,
-                                     lower[across.last] | solid});
+        if (rows == painted) {
+            std::copy_n(image.constScanLine(y - 1), image.bytesPerLine(), image.scanLine(y));
+            continue;
         }
+        painted = rows;
+        PaintLine(reinterpret_cast<Colour*>(image.scanLine(y)), columns, picture.Row(rows.first),
+                  picture.Row(rows.last), solid);
     }
     return image;
 }

@@ -18,6 +18,10 @@ constexpr SDL_AudioFormat DeviceFormat = AUDIO_S16SYS;
 constexpr int DeviceChunk = 1024;  // frames mixed at a time: a sound starts at most 23 ms late
 constexpr int SlotCount = 5;       // 0 is never asked for
 
+int MixVolume(int hundredths) {
+    return (hundredths * MIX_MAX_VOLUME + 50) / 100;
+}
+
 // Looking for a device, the sound system tells standard error of every one that it doesn't find.
 class QuietStandardError {
   public:
@@ -54,7 +58,7 @@ SoundDevice::~SoundDevice() {
 }
 
 void SoundDevice::Play(const SoundRequest& sound) {
-    if (!Open()) return;
+    if (loudness == 0 || !Open()) return;
     Samples samples = DecodeSound(ReadWholeFile(sound.fileName), sound);
     Mix_HaltChannel(sound.slot);
     Slot& slot = slots.at(static_cast<std::size_t>(sound.slot));
@@ -62,7 +66,13 @@ void SoundDevice::Play(const SoundRequest& sound) {
     slot.chunk.abuf = reinterpret_cast<Uint8*>(slot.samples.data());
     slot.chunk.alen = static_cast<Uint32>(slot.samples.size() * sizeof(std::int16_t));
     slot.chunk.volume = MIX_MAX_VOLUME;
+    Mix_Volume(sound.slot, MixVolume(loudness));
     Mix_PlayChannel(sound.slot, &slot.chunk, 0);
+}
+
+void SoundDevice::SetLoudness(int hundredths) {
+    loudness = hundredths;
+    if (state == State::Open) Mix_Volume(-1, MixVolume(loudness));
 }
 
 bool SoundDevice::Playing() const {

@@ -17,6 +17,9 @@ class SoundDevice {
     /// isn't a sound, as long as there is a device.
     void Play(const SoundRequest& sound);
 
+    /// Of all sounds, in hundredths, from now on. At 0 no sound is begun.
+    void SetLoudness(int hundredths);
+
     bool Playing() const;
 
     /// Cuts what plays and gives the device back until the next Play.
@@ -30,5 +33,6 @@ class SoundDevice {
     bool Open();
 
     State state = State::Closed;
+    int loudness = 100;
     std::vector<Slot> slots;  // by the request's slot
 };

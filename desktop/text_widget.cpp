@@ -30,7 +30,6 @@ TextPlate::TextPlate(Control& shown, QWidget& parent, const EventSink& to, const
     : QLabel(&parent), ControlView(shown, *this, to), record(shownText), back(shownBack), fore(shownFore) {
     setTextFormat(Qt::PlainText);
     setAutoFillBackground(true);
-    setFont(FontOf(*this, FontHeight));
     new PointerEvents(*this, shown, to);
 }
 
@@ -51,6 +50,11 @@ void TextPlate::SyncContent() {
 
 LabelWidget::LabelWidget(Label& shown, QWidget& parent, const EventSink& to)
     : TextPlate(shown, parent, to, shown.Caption, shown.BackColor, shown.ForeColor) {}
+
+void LabelWidget::SyncContent() {
+    TextPlate::SyncContent();
+    if (font().pixelSize() != ToScreen(FontHeight)) setFont(FontOf(*this, FontHeight));
+}
 
 void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);

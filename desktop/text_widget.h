@@ -28,6 +28,7 @@ class LabelWidget : public TextPlate {
     LabelWidget(Label& shown, QWidget& parent, const EventSink& to);
 
   protected:
+    void SyncContent() override;
     void paintEvent(QPaintEvent* event) override;
 };
 

@@ -42,13 +42,12 @@ ViewPlace ViewNow() {
     return {frmField.HScrollArea.Value, frmField.VScrollArea.Value};
 }
 
-// Something that a person does, and that isn't merely looking.
+}  // namespace
+
 bool IsDeed(const InputEvent& event) {
     return event.kind == EventKind::KeyDown || event.kind == EventKind::MouseDown ||
            event.kind == EventKind::Click || event.kind == EventKind::Choose;
 }
-
-}  // namespace
 
 Companion::Companion(Clock whichClock)
     : clock(whichClock), onlooker([this](const Happening& happening) { Witness(happening); }) {}

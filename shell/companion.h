@@ -17,6 +17,9 @@
 #include "shell/screening.h"
 #include "shell/sketch.h"
 
+/// Whether a person does something by the event, and isn't merely looking.
+bool IsDeed(const InputEvent& event);
+
 class Companion {
   public:
     /// The clock of what is shown for a while.

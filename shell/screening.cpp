@@ -86,6 +86,7 @@ Screening::Screening(const Film& toShow, ViewPlace here, ViewPlace atLast, Momen
       play(std::move(sound)),
       witness(std::move(whoListens)),
       last(atLast),
+      begun(now),
       field(toShow.Start()),
       due(now + BeginTime),
       from(here),

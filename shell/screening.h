@@ -34,6 +34,8 @@ class Screening {
     /// When something changes next, at `now` at the earliest.
     Moment Next(Moment now) const;
 
+    Moment Begun() const { return begun; }
+
     Picture& Field() { return field; }
     ViewPlace View(Moment now) const;
 
@@ -48,6 +50,7 @@ class Screening {
     const PlaySound play;
     const Witness witness;
     const ViewPlace last;
+    const Moment begun;
     Picture field;
     struct Covered {
         Rectangle place;

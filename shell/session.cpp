@@ -162,6 +162,11 @@ void Session::NoteEnd() {
     if (!missionVerdict.empty()) Shelve();
 }
 
+Keeping Session::Keeps() const {
+    if (givenUp) return Keeping::GivenUp;
+    return events == 0 ? Keeping::Nothing : Keeping::Journal;
+}
+
 int Session::AtEnd(int exitCode) {
     NoteEnd();
     if (exitCode != EXIT_SUCCESS) WriteMark(FailedLine);

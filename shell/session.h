@@ -10,6 +10,13 @@
 #include "platform/input_event.h"
 #include "shell/journal.h"
 
+/// What stays of the game that runs when its window is closed.
+enum class Keeping {
+    Nothing,  // nothing was done in it
+    Journal,  // the next start offers to continue
+    GivenUp,  // its journal couldn't be written
+};
+
 class Session {
   public:
     /// Asks the player whether to go on with the game that the text names; else he begins a new one.
@@ -26,6 +33,8 @@ class Session {
     /// Puts the journal of a mission that is over on the shelf. To be called before a message is shown: the
     /// last one may stand for long.
     void NoteEnd();
+
+    Keeping Keeps() const;
 
     /// The process ends. Gives the exit code back.
     int AtEnd(int exitCode);

@@ -7,7 +7,7 @@
 build=$3 stock=$4
 cd "$work" || exit 2
 # A screen in memory, in an environment of the test's own.
-quiet_env="env -i PATH=$PATH QT_QPA_PLATFORM=offscreen SDL_AUDIODRIVER=dummy ASAN_OPTIONS=${ASAN_OPTIONS:-}:detect_leaks=0"
+quiet_env="env -i PATH=$PATH QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=*=false SDL_AUDIODRIVER=dummy ASAN_OPTIONS=${ASAN_OPTIONS:-}:detect_leaks=0"
 
 # refuses TEXT COMMAND...: the command ends with 1 at once and says so on standard error.
 refuses() {
@@ -25,6 +25,20 @@ stays() {
     [ "$got" -eq 124 ] || complain "it ended with $got: $*"
     [ -s err ] && complain "standard error isn't empty: $*: $(head -5 err)"
 }
+
+# answers CODE TEXT ARGUMENT...: without a display, on standard output, or on standard error with a code but 0.
+answers() {
+    local code=$1 text=$2 got=0
+    shift 2
+    env -i ASAN_OPTIONS=detect_leaks=0 "$program" "$@" >out 2>err || got=$?
+    [ "$got" -eq "$code" ] || complain "exit code $got instead of $code: $*"
+    if [ "$code" -eq 0 ]; then says out "$text"; [ -s err ] && complain "standard error isn't empty: $*"
+    else [ "$(cat err)" = "$text" ] || complain "standard error: $(cat err)"; fi
+}
+answers 0 "Usage: sarnoth" --help
+answers 0 "Sarnoth III 1." --version
+answers 2 'Sarnoth III: unknown argument "--colour"; see sarnoth --help' --colour
+answers 2 'Sarnoth III: unknown argument "now"; see sarnoth --help' --version now
 
 no_display="Sarnoth III: Run-time error 6: No display: start the game from a desktop"
 refuses "$no_display" env -i "$program"

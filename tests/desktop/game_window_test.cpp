@@ -41,15 +41,26 @@ TEST_F(GameWindowTest, IsPlayedByTheMouse) {
     EXPECT_EQ(turns(), 2);
 }
 
-TEST(TurnPauseTest, AComputersTurnNeedNotBeSeen) {
-    const InputEvent endTurn = {EventKind::Click, "frmField.cmdNextTurn"};
-    const TurnPause::Moment back{std::chrono::hours(1)};
-    TurnPause pause;
-    pause.Note(SquadTeam, back - std::chrono::hours(1));
-    EXPECT_FALSE(pause.Swallows(endTurn, back));
-    pause.Note(SquadTeam, back);
-    EXPECT_FALSE(pause.Swallows({EventKind::Click, "frmField.imgStop"}, back));
-    EXPECT_TRUE(pause.Swallows(endTurn, back + std::chrono::milliseconds(299)));
+TEST_F(GameWindowTest, AKeyForASoldierWhoHasHandedOverMovesNobodyElse) {
+    std::vector<InputEvent> events;
+    HastyHost host(frmField, OtherForms(), [&events](const InputEvent& event) {
+        events.push_back(event);
+        Dispatch(event);
+    });
+    const auto step = [&] { QTest::keyClick(&host.WindowOf(frmField), Qt::Key_Right); };
+    host.Enter([] { Main(1); });
+    UnitTable[0].time = TimeToAct;
+    step();
+    ASSERT_EQ(curUnit, 1);
+    const auto next = [] { return std::pair(int{UnitTable[1].cellX}, int{UnitTable[1].facing}); };
+    const auto before = next();
+    events.clear();
+    step();
+    EXPECT_EQ(next(), before);
+    EXPECT_EQ(events.size(), 1U) << "the key's release alone";
+    host.now += std::chrono::milliseconds(300);
+    step();
+    EXPECT_NE(next(), before);
 }
 
 class MissionHost : public HastyHost {

@@ -1,4 +1,4 @@
-// The windows at one and a half times, and at twice their size.
+// The windows at other sizes than the single one.
 #include "desktop/scale.h"
 
 #include <random>
@@ -14,24 +14,29 @@ struct ScaleSetter {
     ScaleSetter& operator=(const ScaleSetter&) = delete;
 };
 
-TEST(ScaleTest, TheLargestScaleIsTakenThatIsWantedAndFits) {
-    Form forms[2];
-    forms[0].Width = 799;
-    forms[0].Height = 636;
-    forms[1].Width = 760;
-    forms[1].Height = 640;
+// The field's window is 799 by 636 pixels below a menu of 22; a desktop's frame takes 16 by 40 of the screen.
+TEST(ScaleTest, TheLargestScaleIsTakenAtWhichEveryWindowFits) {
+    TestForm field;
+    field.Width = 799;
+    field.Height = 636;
+    Form file;
+    file.Width = 760;
+    file.Height = 640;
     struct Case {
-        double wanted;
         QSize screen;
         Halves halves;
     };
-    const Case cases[] = {{1, {640, 480}, 2},      {2, {1215, 1024}, 3},    {2, {1214, 1024}, 2},
-                          {2, {1215, 1023}, 2},    {2, {2560, 1440}, 4},    {1.25, {2560, 1440}, 2},
-                          {1.49, {2560, 1440}, 3}, {1.75, {2560, 1440}, 3}, {3, {3840, 2160}, 4}};
-    const Form* const both[] = {&forms[0], &forms[1]};
+    const Case cases[] = {{{640, 480}, 2},   {{1215, 1027}, 3}, {{1214, 1027}, 2}, {{1215, 1026}, 2},
+                          {{1920, 1080}, 3}, {{1920, 1200}, 3}, {{2560, 1440}, 4}, {{3440, 1440}, 4},
+                          {{3840, 2160}, 6}, {{7680, 4320}, 8}};
+    const Form* const both[] = {&field, &file};
     for (const Case& row : cases)
-        EXPECT_EQ(FittingScale(row.wanted, row.screen, both), row.halves)
-            << row.wanted << " " << row.screen.width() << "x" << row.screen.height();
+        EXPECT_EQ(FittingScale(row.screen, both), row.halves)
+            << row.screen.width() << "x" << row.screen.height();
+    EXPECT_EQ(LargestScale(SizeWithMenu(field), {1598, 1316}), 4);
+    EXPECT_EQ(LargestScale(SizeWithMenu(field), {1598, 1315}), 3) << "the menu needs its place";
+    file.Height = 700;
+    EXPECT_EQ(FittingScale({1215, 1027}, both), 2) << "the file doesn't fit";
 }
 
 TEST(ScaleTest, EdgesAreRoundedHalfUp) {
@@ -60,6 +65,21 @@ TEST(ScaleTest, APixelIsTheMeanOfWhatItCovers) {
     const auto* premultiplied = reinterpret_cast<const Colour*>(through.constScanLine(0));
     EXPECT_EQ(premultiplied[0], 0U);
     EXPECT_EQ(premultiplied[1], 0x800A3280U) << "half of RGB(20,100,255)";
+}
+
+TEST(ScaleTest, EveryPixelHasTheSameShareOfTheScreenAtEverySize) {
+    for (Halves halves = SingleSize; halves <= LargestSize; ++halves) {
+        const ScaleSetter setter(halves);
+        for (int lit = 0; lit < 4; ++lit) {
+            Picture line(4, 1);
+            line.SetPixel(lit, 0, Rgb(200, 0, 0));
+            const QImage shown = Enlarged(line, {0, 0, 2 * halves, 1}, Ground::Opaque);
+            int sum = 0;
+            for (int x = 0; x < shown.width(); ++x)
+                sum += qRed(shown.pixel(x, 0));
+            EXPECT_EQ(sum, 100 * halves) << halves << " halves, pixel " << lit;
+        }
+    }
 }
 
 class ScaledTest : private ScaleSetter, public DesktopTest, public testing::WithParamInterface<Halves> {
@@ -124,6 +144,6 @@ TEST_P(ScaledTest, ThePointerIsWhereItIsSeen) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Sizes, ScaledTest, testing::Values(2, 3, 4));
+INSTANTIATE_TEST_SUITE_P(Sizes, ScaledTest, testing::Values(2, 3, 4, 5, 6));
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <thread>
 
 #include "desktop/sound_file.h"
@@ -118,6 +119,21 @@ TEST_F(SoundDeviceTest, AHeaderThatAsksForGigabytesIsRefused) {
         ErrorOf([&] { device.Play(Sound("broken", wave)); }),
         "Run-time error 4: Bad data: wav/broken.wav: byte 40: expected a chunk of up to 20 bytes, found "
         "4294967280");
+}
+
+TEST_F(SoundDeviceTest, AllSoundsAreAsLoudAsThePlayerWantsThem) {
+    const SoundRequest sound = Sound("level", Wave(PlayedRate / 5));
+    for (const int loudness : {100, 50, 0}) {
+        device.SetLoudness(loudness);
+        device.Play(sound);
+        EXPECT_EQ(device.Playing(), loudness != 0);
+        if (loudness == 0) break;
+        SecondsHeard();
+        const std::string bytes = folder.Read("heard.raw");
+        std::int16_t sample = 0;
+        std::memcpy(&sample, bytes.data() + bytes.find_first_not_of('\0') / 4 * 4 + 400, sizeof(sample));
+        EXPECT_NEAR(sample, Amplitude * loudness / 100, 100);
+    }
 }
 
 using SoundDeviceDeathTest = SoundDeviceTest;

@@ -24,10 +24,10 @@ class HastyHost : public DesktopHost {
     void Emit(const SoundRequest& /*sound*/) override {}
 
     std::string message;
-    TurnPause::Moment now{std::chrono::hours(1)};
+    Moment now{std::chrono::hours(1)};
 
   protected:
-    TurnPause::Moment Now() const override { return now; }
+    Moment Now() const override { return now; }
 };
 
 class WindowGame : public testing::Test {
