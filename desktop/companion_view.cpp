@@ -20,7 +20,8 @@ CompanionView::CompanionView(FormWindow& main, Companion& whose)
     : window(main),
       companion(whose),
       onField(*new SketchWidget(*main.WidgetOf(frmField.area), BoundsOf(frmField.area))),
-      onView(*new SketchWidget(*main.WidgetOf(frmField), {ViewLeft, ViewTop, ViewWidth, ViewHeight})) {
+      onView(*new SketchWidget(*main.WidgetOf(frmField), {ViewLeft, ViewTop, ViewWidth, ViewHeight})),
+      readout(*new EmbeddedForm(whose.Readout(), *main.WidgetOf(frmField))) {
     motion.setInterval(FrameTime);
     motion.callOnTimeout([this] { Sync(); });
 }
@@ -29,6 +30,7 @@ void CompanionView::Sync() {
     companion.Look();
     onField.Show(companion.OnField());
     onView.Show(companion.OnView());
+    readout.Sync();
     if (companion.IsMoving() == motion.isActive()) return;
     companion.IsMoving() ? motion.start() : motion.stop();
 }

@@ -4,6 +4,7 @@
 
 #include <QTimer>
 
+#include "desktop/embedded_form.h"
 #include "desktop/sketch_widget.h"
 #include "shell/companion.h"
 
@@ -25,5 +26,6 @@ class CompanionView {
     Companion& companion;
     SketchWidget& onField;
     SketchWidget& onView;
+    EmbeddedForm& readout;
     QTimer motion;
 };

@@ -21,8 +21,11 @@ void Begin(Session& session) {
 int main(int /*count*/, char** arguments) {
     Companion companion;
     Session session(AskToContinue);
+    const auto dispatch = [&](const InputEvent& event) {
+        companion.Pass(event, [&] { session.Dispatch(event); });
+    };
     return RunInWindow(arguments, {.begin = [&] { Begin(session); },
-                                   .dispatch = [&](const InputEvent& event) { session.Dispatch(event); },
+                                   .dispatch = dispatch,
                                    .atEnd = [&](int exitCode) { return session.AtEnd(exitCode); },
                                    .atMessage = [&] { session.NoteEnd(); },
                                    .companion = &companion});
