@@ -16,9 +16,9 @@
 namespace {
 
 constexpr std::uint32_t OddsSeed = 20'011;  // any one will do
-constexpr int MostOrders = 200;
-constexpr int FewestOrders = 40;
-constexpr int FlightsCounted = 800;  // so that the odds of a long burst take no longer than others
+constexpr int MostOrders = 600;
+constexpr int FewestOrders = 100;
+constexpr int FlightsCounted = 4000;  // so that the odds of a long burst take no longer than others
 
 enum class Manner { Fires, Strikes, Cures, Digs, Folds };
 

@@ -10,9 +10,9 @@ namespace {
 
 // In the main window's pixels.
 constexpr int PlaceLeft = 181;
-constexpr int PlaceTop = 525;
+constexpr int PlaceTop = 505;
 constexpr int PlaceWidth = 238;
-constexpr int PlaceHeight = 106;
+constexpr int PlaceHeight = 105;
 constexpr int Edge = 4;
 constexpr int LineHeight = 14;
 constexpr int FaceSide = 3 * LineHeight;

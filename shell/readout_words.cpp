@@ -68,8 +68,7 @@ void AddWalk(const WalkForecast& walk, Lines& lines) {
                 " of " + Cells(steps),
             Tone::Warning);
     } else {
-        const std::string left = Number(walk.timeLeft) + " / " + Number(walk.energyLeft) + " left";
-        Add(lines, walk.turnsFirst ? left + ", the first click turns" : left);
+        Add(lines, "Leaves " + Number(walk.timeLeft) + " time, " + Number(walk.energyLeft) + " energy");
     }
 }
 
@@ -86,7 +85,9 @@ std::string OddsText(const ActForecast& act, const Odds& odds) {
     if (act.family == "cure") return "Heals about " + Number(static_cast<int>(std::lround(-odds.damage)));
     std::string text = "Hits " + Percent(odds.hits);
     if (odds.kills > 0) text += ", kills " + Percent(odds.kills);
-    return text + ", about " + Number(static_cast<int>(std::lround(odds.damage))) + " health";
+    // What is worn out by bodies before it heals.
+    const int health = static_cast<int>(std::lround(std::abs(odds.damage)));
+    return text + (odds.damage < 0 ? ", heals about " + Number(health) : ", about " + Number(health) + " health");
 }
 
 void AddTarget(const Forecast& forecast, Lines& lines) {
@@ -141,6 +142,7 @@ std::vector<ReadoutLine> LinesOf(const Forecast& forecast) {
         AddAct(forecast.act, lines);
     }
     AddDangers(forecast, lines);
+    if (forecast.walk.turnsFirst && !forecast.walk.stages.empty()) Add(lines, "The first click only turns.");
     return lines;
 }
 

@@ -80,6 +80,12 @@ Picture RecordedLook(int x, int y, const std::string& sum, const ShownWatch& sho
     return Hatched();
 }
 
+// Goes on by so much at each look that nothing is left waiting.
+Moment ClockOfMoments() {
+    static Moment now;
+    return now += std::chrono::milliseconds(100);
+}
+
 // Puts the square of a line "  area LEFT,TOP 20x20 SUM" into a picture of the field.
 void PaintRecorded(Picture& field, const std::string& line, const ShownWatch& shown) {
     int left = 0;
@@ -96,6 +102,7 @@ void PaintRecorded(Picture& field, const std::string& line, const ShownWatch& sh
 Replay::Replay(const Recording& ofRecording, std::filesystem::path pictureFolder)
     : recording(ofRecording),
       pictures(std::move(pictureFolder)),
+      companion(ClockOfMoments),
       recorder([this](const std::string& line) { Compare(line); }) {}
 
 void Replay::Start() {
@@ -103,8 +110,12 @@ void Replay::Start() {
 }
 
 void Replay::LetIn(int pump) {
-    while (!Done() && recording.events[next].pump == pump)
-        recorder.Dispatch(recording.events[next++].event);
+    while (!Done() && recording.events[next].pump == pump) {
+        const InputEvent& event = recording.events[next++].event;
+        companion.Pass(event, [&] { recorder.Dispatch(event); });
+        companion.Look();  // forecasts...
+        companion.Look();  // ...and counts the odds
+    }
 }
 
 void Replay::Compare(const std::string& line) {
