@@ -87,7 +87,7 @@ Refusal WhyNotFired(const Case& order, const ActForecast& act, bool fallsShort) 
 }
 
 Refusal WhyNotReached(const Case& order, const ActForecast& act, bool reachesItself) {
-    if (act.distance > 1) return {Why::ArmsLength, act.distance};
+    if (act.distance > 1) return {Why::ArmsLength};
     if (act.distance == 0 && !reachesItself) return {Why::OwnCell};
     if (cellGrid[order.cellY][order.cellX].occupant == -1) return {Why::NobodyThere};
     return {Why::ArmsCorner, LastColumnInReach, LastRowInReach};
@@ -195,8 +195,8 @@ ActForecast ForecastAct(Rehearsal& rehearsal, int x, int y) {
         act.rounds = RoundsIn(whole, act.family);
         act.paid = RoundsIn(own, act.family);
         act.range = before.hand.range;
-        act.blasts = FamilyNamed(act.family).atEnd == AtEnd::Bursts ||
-                     FamilyNamed(act.family).atEnd == AtEnd::IsSet;
+        act.blasts =
+            FamilyNamed(act.family).atEnd == AtEnd::Bursts || FamilyNamed(act.family).atEnd == AtEnd::IsSet;
         act.refusal = WhyNotFired(order, act, fallsShort);
     } else {
         act.refusal = WhyNotDone(order, act, manner, was.cellGrid[before.cellY][before.cellX]);
@@ -212,8 +212,11 @@ Odds CountOdds(Rehearsal& rehearsal, const ActForecast& act, int x, int y) {
     SeedRandom(OddsSeed);
     while (count.orders < orders)
         count.Add(rehearsal.Try([x, y] { ActAt(AsPixel(x), AsPixel(y)); }), rehearsal.Before(), act.target);
-    Odds odds{count.Share(count.hits), count.Share(count.kills), count.Share(count.disables),
-              count.Share(count.damage), {}};
+    Odds odds{count.Share(count.hits),
+              count.Share(count.kills),
+              count.Share(count.disables),
+              count.Share(count.damage),
+              {}};
     if (FamilyNamed(act.family).atEnd == AtEnd::IsSet) odds.ours = InBlast(CellOfPixel(x), CellOfPixel(y));
     for (int unit = 0; unit <= teamLast[SquadTeam]; ++unit) {
         const int hurt = count.ours.at(static_cast<std::size_t>(unit));

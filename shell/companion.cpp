@@ -9,7 +9,12 @@ void Companion::Witness(const Happening& happening) {
 }
 
 void Companion::Pass(const InputEvent& event, const std::function<void()>& door) {
-    if (const Refusal refusal = guide.Pass(event, clock(), door)) chronicle.NoteRefusal(WordsOf(refusal));
+    const Refusal refusal = guide.Pass(event, clock(), door);
+    const auto& entries = chronicle.Entries();
+    const std::string words = WordsOf(refusal);
+    // A person who presses again and again is told once.
+    const bool repeats = !entries.empty() && entries.back().text == words;
+    if (refusal && !repeats) chronicle.NoteRefusal(words);
 }
 
 void Companion::Look() {

@@ -75,11 +75,11 @@ void AddRing(float x, float y, float across, Colour colour, Sketch& sketch) {
 
 void DrawWay(const WalkForecast& walk, Sketch& sketch) {
     constexpr float Across = 4;
-    const bool whole = walk.paid >= walk.stages.size();
-    for (std::size_t i = 0; i < walk.stages.size(); ++i)
-        AddDot(walk.stages[i].cell, Across, i >= walk.paid ? BeyondPurse : whole ? Way : PartOfWay, sketch);
+    const bool whole = walk.paid >= walk.steps.size();
+    for (std::size_t i = 0; i < walk.steps.size(); ++i)
+        AddDot(walk.steps[i].cell, Across, i >= walk.paid ? BeyondPurse : whole ? Way : PartOfWay, sketch);
     if (walk.paid == 0) return;
-    const Spot end = walk.stages[std::min(walk.paid, walk.stages.size()) - 1].cell;
+    const Spot end = walk.steps[std::min(walk.paid, walk.steps.size()) - 1].cell;
     AddRing(MiddleOf(end.x), MiddleOf(end.y), 12, whole ? Way : PartOfWay, sketch);
 }
 
@@ -109,7 +109,7 @@ void DrawSquadMarks(int selected, Sketch& onField) {
 }
 
 void DrawForecast(const Forecast& forecast, Sketch& onField) {
-    if (forecast.left == LeftClick::Goes) DrawWay(forecast.walk, onField);
+    if (forecast.left == LeftClick::Goes && forecast.occupant < 0) DrawWay(forecast.walk, onField);
     const ActForecast& act = forecast.act;
     if (!act.known) return;
     if (act.blasts && act.paid > 0 && act.refusal.why != Why::BeyondReach) DrawBlast(forecast.cell, onField);

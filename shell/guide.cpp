@@ -11,7 +11,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds Rest(60);      // of the pointer, before the odds are counted
+constexpr milliseconds Rest(60);       // of the pointer, before the odds are counted
 constexpr milliseconds SaidFor(4000);  // the least that a refusal is read
 
 // What an order to move changes.
@@ -30,6 +30,10 @@ struct Standing {
 // The squad's turn, with the field in sight.
 bool IsOurView() {
     return curTeam == SquadTeam && frmField.area.Visible && !frmField.bigMapShown && !frmInfo.Visible;
+}
+
+std::vector<ReadoutLine> EnemysTurn() {
+    return {{"The enemy's turn", Tone::Warning}};
 }
 
 }  // namespace
@@ -99,12 +103,17 @@ void Guide::Look(Moment now, Sketch& onField) {
     FillReadout(readout, curTeam == SquadTeam ? selected : -1, Lines());
 }
 
+void Guide::LookAway() {
+    forecast.reset();
+    FillReadout(readout, -1, EnemysTurn());
+}
+
 bool Guide::IsWaiting() const {
     return forecast && !forecast->odds && IsOurView() && MayForecast();
 }
 
 std::vector<ReadoutLine> Guide::Lines() const {
-    if (curTeam == EnemyTeam && !said) return {{"The enemy's turn", Tone::Warning}};
+    if (curTeam == EnemyTeam && !said) return EnemysTurn();
     std::vector<ReadoutLine> lines = Wrapped(WordsOf(said), Tone::Warning);
     std::vector<ReadoutLine> below;
     if (forecast)

@@ -20,6 +20,9 @@ class Guide {
     /// Brings the read-out in line with the game, and appends the marks.
     void Look(Moment now, Sketch& onField);
 
+    /// Instead of Look while the enemy's turn is shown: no marks, and the read-out says whose turn it is.
+    void LookAway();
+
     /// Whether something is to be shown soon that isn't yet.
     bool IsWaiting() const;
 

@@ -14,6 +14,7 @@ constexpr int PlaceTop = 505;
 constexpr int PlaceWidth = 238;
 constexpr int PlaceHeight = 105;
 constexpr int Edge = 4;
+constexpr int LinesLeft = 2;
 constexpr int LineHeight = 14;
 constexpr int FaceSide = 3 * LineHeight;
 
@@ -48,11 +49,10 @@ PictureRef Reduced(const Picture& picture) {
     auto small = std::make_shared<Picture>(FaceSide, FaceSide);
     for (int y = 0; y < FaceSide; ++y)
         for (int x = 0; x < FaceSide; ++x)
-            small->SetPixel(x, y,
-                            MeanOf(picture, EdgeOf(x, picture.Width(), FaceSide),
-                                   EdgeOf(y, picture.Height(), FaceSide),
-                                   EdgeOf(x + 1, picture.Width(), FaceSide),
-                                   EdgeOf(y + 1, picture.Height(), FaceSide)));
+            small->SetPixel(
+                x, y,
+                MeanOf(picture, EdgeOf(x, picture.Width(), FaceSide), EdgeOf(y, picture.Height(), FaceSide),
+                       EdgeOf(x + 1, picture.Width(), FaceSide), EdgeOf(y + 1, picture.Height(), FaceSide)));
     return small;
 }
 
@@ -90,13 +90,12 @@ ReadoutForm::ReadoutForm() {
     for (int y = 1; y < Height - 1; ++y)
         for (int x = 1; x < Width - 1; ++x)
             canvas.SetPixel(x, y, Ground);
-    const int inside = Width - 2 * Edge;
     const int beside = Edge + FaceSide + Edge;
     Put(imgFace, "imgFace", *this, Edge, Edge, FaceSide, FaceSide);
     Put(lblName, "lblName", *this, beside, Edge, Width - beside - Edge, LineHeight);
     Put(lblTurn, "lblTurn", *this, beside, Edge + LineHeight, Width - beside - Edge, LineHeight);
     Put(lblHand, "lblHand", *this, beside, Edge + 2 * LineHeight, Width - beside - Edge, LineHeight);
-    PutArray(lblLine, "lblLine", *this, Edge, 0, inside, LineHeight);
+    PutArray(lblLine, "lblLine", *this, LinesLeft, 0, Width - 2 * LinesLeft, LineHeight);
     int top = Edge + FaceSide + 1;
     for (Label& line : lblLine) {
         line.Top = top;

@@ -13,6 +13,10 @@ std::string Number(int number) {
     return std::to_string(number);
 }
 
+std::size_t Length(const std::string& text) {
+    return ToCodePage(text).size();
+}
+
 // At least one in a hundred for what can happen, at most 99 for what can fail.
 std::string Percent(double share) {
     const int rounded = static_cast<int>(std::lround(share * 100));
@@ -53,15 +57,16 @@ void Add(Lines& lines, const std::string& text, Tone tone = Tone::Plain) {
 
 void AddWalk(const WalkForecast& walk, Lines& lines) {
     if (!walk.known) return;
-    if (walk.stages.empty()) {
+    if (walk.steps.empty()) {
         if (walk.refusal) Add(lines, WordsOf(walk.refusal), Tone::Warning);
-        if (walk.turnsFirst && walk.turnTime > 0)
+        if (walk.refusal.why != Why::NoWay && walk.turnsFirst && walk.turnTime > 0)
             Add(lines, "A click turns: " + Number(walk.turnTime) + " time");
         return;
     }
-    const int steps = static_cast<int>(walk.stages.size());
-    Add(lines, "Walk " + Cells(steps) + ": " + Number(walk.time) + " time, " + Number(walk.energy) + " energy");
-    if (walk.paid < walk.stages.size()) {
+    const int steps = static_cast<int>(walk.steps.size());
+    Add(lines,
+        "Walk " + Cells(steps) + ": " + Number(walk.time) + " time, " + Number(walk.energy) + " energy");
+    if (walk.paid < walk.steps.size()) {
         const bool byEnergy = walk.refusal.why == Why::WalkEnergy || walk.refusal.why == Why::StepEnergy;
         Add(lines,
             std::string(byEnergy ? "Energy" : "Time") + " for " + Number(static_cast<int>(walk.paid)) +
@@ -87,20 +92,21 @@ std::string OddsText(const ActForecast& act, const Odds& odds) {
     if (odds.kills > 0) text += ", kills " + Percent(odds.kills);
     // What is worn out by bodies before it heals.
     const int health = static_cast<int>(std::lround(std::abs(odds.damage)));
-    return text + (odds.damage < 0 ? ", heals about " + Number(health) : ", about " + Number(health) + " health");
+    return text +
+           (odds.damage < 0 ? ", heals about " + Number(health) : ", about " + Number(health) + " health");
 }
 
 void AddTarget(const Forecast& forecast, Lines& lines) {
     const ActForecast& act = forecast.act;
     if (!act.known) return;
     const bool partly = act.refusal.why == Why::TimeForRounds || act.refusal.why == Why::RoundsForRounds;
-    Add(lines, ActName(act) + " at " + Surname(act.target) + ": " + Number(act.time) + " time");
+    Add(lines, ActName(act) + (act.family == "cure" ? " " : " at ") + Surname(act.target) + ": " +
+                   Number(act.time) + " time");
     if (act.refusal) Add(lines, WordsOf(act.refusal), Tone::Warning);
     if (act.refusal && !partly) return;
-    if (!forecast.odds)
-        Add(lines, WayToTarget(act));
-    else
-        Add(lines, OddsText(act, *forecast.odds), IsEnemy(act.target) || act.family == "cure" ? Tone::Good : Tone::Danger);
+    const bool isGood = IsEnemy(act.target) || act.family == "cure";
+    if (forecast.odds) Add(lines, OddsText(act, *forecast.odds), isGood ? Tone::Good : Tone::Danger);
+    if (!act.refusal && act.range > 0) Add(lines, WayToTarget(act));
 }
 
 // The most endangered first.
@@ -109,16 +115,18 @@ void AddDangers(const Forecast& forecast, Lines& lines) {
     std::vector<Danger> ours = forecast.odds->ours;
     std::stable_sort(ours.begin(), ours.end(),
                      [](const Danger& one, const Danger& other) { return one.share > other.share; });
-    std::string text = forecast.act.blasts ? "In the blast: " : "In the line: ";
-    for (const Danger& danger : ours) {
-        if (&danger != &ours.front()) text += ", ";
-        text += Surname(danger.unit) + (danger.share < 0 ? "" : " " + Percent(danger.share));
+    std::string text = forecast.act.blasts ? "In the blast:" : "In the line:";
+    std::size_t named = 0;
+    for (; named < ours.size(); ++named) {
+        const double share = ours[named].share;
+        const std::string one =
+            (named > 0 ? ", " : " ") + Surname(ours[named].unit) + (share < 0 ? "" : " " + Percent(share));
+        constexpr std::size_t RoomForMore = 4;
+        if (Length(text + one) + RoomForMore > LineLength) break;
+        text += one;
     }
-    lines.push_back({Shortened(text, LineLength), Tone::Danger});
-}
-
-std::size_t Length(const std::string& text) {
-    return ToCodePage(text).size();
+    if (named < ours.size()) text += " +" + Number(static_cast<int>(ours.size() - named));
+    lines.push_back({text, Tone::Danger});
 }
 
 }  // namespace
@@ -142,7 +150,8 @@ std::vector<ReadoutLine> LinesOf(const Forecast& forecast) {
         AddAct(forecast.act, lines);
     }
     AddDangers(forecast, lines);
-    if (forecast.walk.turnsFirst && !forecast.walk.stages.empty()) Add(lines, "The first click only turns.");
+    const bool turnsFirst = forecast.walk.turnsFirst && !forecast.walk.steps.empty();
+    if (forecast.occupant < 0 && turnsFirst) Add(lines, "The first click only turns.");
     return lines;
 }
 

@@ -28,7 +28,7 @@ constexpr Words Table[] = {
     {Why::BeyondReach,     "Out of reach: # cells, $ reaches @."},
     {Why::TimeForRounds,   "Time for @ of # rounds."},
     {Why::RoundsForRounds, "Loaded: @ of # rounds."},
-    {Why::ArmsLength,      "Out of reach: # cells, an arm reaches 1."},
+    {Why::ArmsLength,      "Beyond arm's length."},
     {Why::NobodyThere,     "Nobody is there."},
     {Why::ArmsCorner,      "Out here it does nothing: only up to column #, row @."},
     {Why::GroundIsHard,    "Of class $: that can't be dug or filled."},

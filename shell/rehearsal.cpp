@@ -112,7 +112,7 @@ void Rehearsal::Witness::Begin(Trial& of) {
 
 void Rehearsal::Witness::StepEnds(int /*fromX*/, int /*fromY*/) {
     const Unit& unit = UnitTable[curUnit];
-    trial->stages.push_back({{unit.cellX, unit.cellY}, time - unit.time, energy - unit.energy});
+    trial->steps.push_back({{unit.cellX, unit.cellY}, time - unit.time, energy - unit.energy});
 }
 
 void Rehearsal::Witness::UnitHurt(int /*by*/, int damage) {

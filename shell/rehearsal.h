@@ -1,6 +1,6 @@
-// Orders tried out by the rules themselves, on the game's own record, and taken back: what an order would come
-// to. Before quiet windows, without the enemies that the squad hasn't sighted, without a hand-over, and with
-// a chance of its own.
+// Orders tried out by the rules themselves, on the game's own record, and taken back: what an order would
+// come to. Before quiet windows, without the enemies that the squad hasn't sighted, without a hand-over, and
+// with a chance of its own.
 #pragma once
 
 #include <array>
@@ -16,12 +16,12 @@
 constexpr int FightingUnits = FirstOf(EnemyTeam) + TeamStride;  // the squad's and the enemy's
 
 /// A step that was made, and what the unit had paid by then.
-struct Stage {
+struct Footstep {
     Spot cell;
     int time = 0;
     int energy = 0;
 
-    bool operator==(const Stage&) const = default;
+    bool operator==(const Footstep&) const = default;
 };
 
 /// What one order came to.
@@ -32,7 +32,7 @@ struct Trial {
     int condition = 0;
     bool acted = false;  // the thing in hand was heard, and not for want of rounds
     int flights = 0;     // bullets, pellets and thrown things
-    std::vector<Stage> stages;
+    std::vector<Footstep> steps;
     std::array<int, FightingUnits> hits = {};  // that cost the unit some health
 };
 

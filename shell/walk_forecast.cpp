@@ -18,7 +18,7 @@ bool IsWayOpen(const Unit& unit, int cellX, int cellY) {
 
 // Why a soldier who has so much left goes no further.
 Refusal WhyStopped(const Unit& unit, const WalkForecast& walk) {
-    if (walk.paid >= walk.stages.size()) return {};
+    if (walk.paid >= walk.steps.size()) return {};
     const int energy = EnergyOfStep(unit);
     if (walk.energyLeft < energy && walk.timeLeft >= CostOf(unit).time)
         return {walk.paid == 0 ? Why::StepEnergy : Why::WalkEnergy, energy, walk.energyLeft};
@@ -63,10 +63,10 @@ WalkForecast ForecastWalk(Rehearsal& rehearsal, int cellX, int cellY, float x, f
         walk.refusal = {Why::NoWay, own.time};
         return walk;
     }
-    walk.stages = whole.stages;
-    walk.paid = own.stages.size();
-    walk.closed = walk.stages.empty() || !(walk.stages.back().cell == Spot{cellX, cellY});
+    walk.steps = whole.steps;
+    walk.paid = own.steps.size();
+    walk.closed = walk.steps.empty() || !(walk.steps.back().cell == Spot{cellX, cellY});
     walk.refusal = WhyStopped(before, walk);
-    if (walk.stages.empty()) walk.refusal = {Why::WayClosed, 0, 0, ObstacleAt(cellX, cellY)};
+    if (walk.steps.empty()) walk.refusal = {Why::WayClosed, 0, 0, ObstacleAt(cellX, cellY)};
     return walk;
 }

@@ -8,13 +8,13 @@
 #include "shell/rehearsal.h"
 
 struct WalkForecast {
-    bool known = false;       // there is such an order
-    bool turnsFirst = false;  // a click only turns; one more walks
-    int turnTime = 0;         // of that click
-    bool closed = false;      // nobody can stand on the cell: he stops beside it
-    std::vector<Stage> stages;  // all steps of the way
-    std::size_t paid = 0;       // of them, as far as his time and energy go
-    int time = 0;               // of the whole, with the turn
+    bool known = false;           // there is such an order
+    bool turnsFirst = false;      // a click only turns; one more walks
+    int turnTime = 0;             // of that click
+    bool closed = false;          // nobody can stand on the cell: he stops beside it
+    std::vector<Footstep> steps;  // all steps of the way
+    std::size_t paid = 0;         // of them, as far as his time and energy go
+    int time = 0;                 // of the whole, with the turn
     int energy = 0;
     int timeLeft = 0;  // after what he pays
     int energyLeft = 0;

@@ -56,17 +56,37 @@ const WalkCase WalkCases[] = {
     {"straight on", [] {}, {15, 10}},
     {"back, with turns", [] {}, {6, 7}},
     {"next cell", [] {}, {11, 10}},
-    {"round a wall", [] { for (int y = 7; y < 14; ++y) PutTile(12, y, 0, Stone); }, {15, 10}},
+    {"round a wall",
+     [] {
+         for (int y = 7; y < 14; ++y)
+             PutTile(12, y, 0, Stone);
+     },
+     {15, 10}},
     {"to a wall", [] { PutTile(15, 10, 0, Stone); }, {15, 10}},
     {"to a wall beside him", [] { PutTile(11, 10, 0, Stone); }, {11, 10}},
-    {"no way", [] { for (int i = 0; i < 9; ++i) PutTile(19 + i % 3, 9 + i / 3, 0, Stone); }, {20, 10}},
+    {"no way",
+     [] {
+         for (int i = 0; i < 9; ++i)
+             PutTile(19 + i % 3, 9 + i / 3, 0, Stone);
+     },
+     {20, 10}},
     {"prone", [] { UnitTable[Shooter].stance = Prone; }, {14, 8}},
     {"running", [] { UnitTable[Shooter].stance = Run; }, {30, 12}},
-    {"overloaded", [] { UnitTable[Shooter].load = 41; UnitTable[Shooter].stance = Run; }, {16, 10}},
+    {"overloaded",
+     [] {
+         UnitTable[Shooter].load = 41;
+         UnitTable[Shooter].stance = Run;
+     },
+     {16, 10}},
     {"time for a part", [] { UnitTable[Shooter].time = 18; }, {20, 12}},
     {"energy for a part", [] { UnitTable[Shooter].energy = 3; }, {16, 10}},
     {"energy for nothing", [] { UnitTable[Shooter].energy = 0; }, {13, 11}},
-    {"has turned before", [] { lastClickX = 14; lastClickY = 6; }, {14, 6}},
+    {"has turned before",
+     [] {
+         lastClickX = 14;
+         lastClickY = 6;
+     },
+     {14, 6}},
 };
 
 TEST_F(ForecastTest, AWalkCostsAndEndsAsForecast) {
@@ -87,12 +107,12 @@ TEST_F(ForecastTest, AWalkCostsAndEndsAsForecast) {
         const Unit& unit = UnitTable[Shooter];
         EXPECT_EQ(int{unit.time}, walk.timeLeft);
         EXPECT_EQ(int{unit.energy}, walk.energyLeft);
-        const bool whole = walk.paid == walk.stages.size();
-        if (!walk.stages.empty() && whole) {
+        const bool whole = walk.paid == walk.steps.size();
+        if (!walk.steps.empty() && whole) {
             EXPECT_EQ(before.UnitTable[Shooter].time - unit.time, walk.time);
             EXPECT_EQ(before.UnitTable[Shooter].energy - unit.energy, walk.energy);
         }
-        const Spot end = walk.paid == 0 ? Spot{10, 10} : walk.stages[walk.paid - 1].cell;
+        const Spot end = walk.paid == 0 ? Spot{10, 10} : walk.steps[walk.paid - 1].cell;
         if (walk.refusal.why != Why::NoWay) {
             EXPECT_EQ((Spot{unit.cellX, unit.cellY}), end);
         }
@@ -126,7 +146,7 @@ const ActCase ActCases[] = {
     {"m67",     "Throw",    1,    80,  {14, 10}, {14, 10},  1,  ""},
     {"m67",     "Throw",    1,    80,  {30, 10}, Far,       1,  "Out of reach: 20 cells, M67 reaches 14."},
     {"knife",   "Hit",      1,    80,  {11, 10}, {11, 10},  0,  ""},
-    {"knife",   "Hit",      1,    80,  {13, 10}, {13, 10},  0,  "Out of reach: 3 cells, an arm reaches 1."},
+    {"knife",   "Hit",      1,    80,  {13, 10}, {13, 10},  0,  "Beyond arm's length."},
     {"knife",   "Hit",      1,    80,  {11, 11}, Far,       0,  "Nobody is there."},
     {"knife",   "Hit",      1,    80,  {10, 10}, Far,       0,  "That is his own cell."},
     {"knife",   "Hit",      1,     5,  {11, 10}, {11, 10},  0,  "Needs 12 time, has 5."},
@@ -212,7 +232,7 @@ TEST_F(ForecastTest, NothingShowsAnEnemyWhomNobodyHasSighted) {
         const Forecast hidden = At(14, 10);
         EXPECT_TRUE(game == before);
         EXPECT_EQ(LinesOf(hidden), LinesOf(alone));
-        EXPECT_EQ(hidden.walk.stages, alone.walk.stages);
+        EXPECT_EQ(hidden.walk.steps, alone.walk.steps);
         EXPECT_EQ(hidden.odds, alone.odds);
         EXPECT_EQ(hidden.occupant, -1);
     }
@@ -225,16 +245,17 @@ struct RefusalCase {
 };
 
 TEST_F(ForecastTest, RefusedOrdersSayWhy) {
-    const auto stance = [](int wanted) {
-        return InputEvent{EventKind::Click, "frmField.imgStance", wanted};
-    };
+    const auto stance = [](int wanted) { return InputEvent{EventKind::Click, "frmField.imgStance", wanted}; };
     const RefusalCase cases[] = {
         {[] {}, Key(39), ""},
         {[] { PutTile(11, 10, 0, Stone); }, Key(39), "No step there: stone in the way."},
         {[] { PutUnit(Comrade, 11, 10); }, Key(39), "No step there: u1 in the way."},
         {[] { UnitTable[Shooter].energy = 0; }, Key(39), "A step costs 1 energy, he has 0."},
-        {[] { UnitTable[Shooter].stance = Prone; UnitTable[Shooter].time = 5; }, Key(39),
-         "A step needs 8 time, he has 5. Its energy is spent all the same."},
+        {[] {
+             UnitTable[Shooter].stance = Prone;
+             UnitTable[Shooter].time = 5;
+         },
+         Key(39), "A step needs 8 time, he has 5. Its energy is spent all the same."},
         {[] { PutUnit(Enemy, 11, 10); }, Key(39), "No step there: something in the way."},
         {[] {}, stance(Stand), "That is his stance already."},
         {[] { UnitTable[Shooter].time = 5; }, stance(Prone), "That stance needs 8 time, he has 5."},
@@ -244,8 +265,11 @@ TEST_F(ForecastTest, RefusedOrdersSayWhy) {
         {[] { curTeam = EnemyTeam; }, Key(39), "Not now: it is the enemy's turn."},
         {[] { UnitTable[Comrade].time = 3; }, PressOn(3, 40, 1), "u1 has no time left: passed over."},
         {[] { UnitTable[Comrade].status = Wounded; }, PressOn(3, 40, 1), "u1 can't act: passed over."},
-        {[] { lastClickX = lastClickY = 20; UnitTable[Shooter].time = 9; }, PressOn(20, 20, 1),
-         "He stops: the next step needs 4 time, he has 0."},
+        {[] {
+             lastClickX = lastClickY = 20;
+             UnitTable[Shooter].time = 9;
+         },
+         PressOn(20, 20, 1), "He stops: the next step needs 4 time, he has 0."},
     };
     int number = 0;
     for (const RefusalCase& row : cases) {

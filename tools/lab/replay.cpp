@@ -99,10 +99,10 @@ void PaintRecorded(Picture& field, const std::string& line, const ShownWatch& sh
 
 }  // namespace
 
-Replay::Replay(const Recording& ofRecording, std::filesystem::path pictureFolder)
+Replay::Replay(const Recording& ofRecording, Companion& whoGoesAlong, std::filesystem::path pictureFolder)
     : recording(ofRecording),
       pictures(std::move(pictureFolder)),
-      companion(ClockOfMoments),
+      companion(whoGoesAlong),
       recorder([this](const std::string& line) { Compare(line); }) {}
 
 void Replay::Start() {
@@ -190,7 +190,8 @@ ReplayResult Replay::Result() {
 }
 
 ReplayResult ReplayHeadless(const Recording& recording, const std::filesystem::path& pictureFolder) {
-    Replay replay(recording, pictureFolder);
+    Companion companion(ClockOfMoments);
+    Replay replay(recording, companion, pictureFolder);
     const ReplayHost host(replay);
     try {
         replay.Start();

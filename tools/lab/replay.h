@@ -20,8 +20,9 @@ struct ReplayResult {
 /// with a person who plays, and must not change any.
 class Replay {
   public:
-    /// With `pictureFolder` the field as recorded and as replayed is painted into it where they first differ.
-    explicit Replay(const Recording& ofRecording, std::filesystem::path pictureFolder = {});
+    /// `whoGoesAlong` must outlive it. With `pictureFolder` the field as recorded and as replayed is painted
+    /// into it where they first differ.
+    Replay(const Recording& ofRecording, Companion& whoGoesAlong, std::filesystem::path pictureFolder = {});
 
     /// Starts the game; the host must have been installed.
     void Start();
@@ -47,7 +48,7 @@ class Replay {
 
     const Recording& recording;
     const std::filesystem::path pictures;  // empty for none
-    Companion companion;
+    Companion& companion;
     Recorder recorder;
     std::size_t next = 0;      // event
     std::size_t compared = 0;  // lines

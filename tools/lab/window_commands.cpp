@@ -9,6 +9,7 @@
 #include "personal/personal_file.h"
 #include "platform/files.h"
 #include "platform/host.h"
+#include "shell/companion.h"
 #include "tools/game_copy.h"
 #include "tools/lab/commands.h"
 #include "tools/lab/recorder.h"
@@ -44,7 +45,8 @@ int RunWindow(const WindowRun& run) {
 }
 
 int ReplayInWindow(const Recording& recording, const fs::path& pictures, const GameCopy& copy) {
-    Replay replay(recording, pictures);
+    Companion companion;
+    Replay replay(recording, companion, pictures);
     bool byTheGame = true;
     const auto playBack = [&](int pump) {
         replay.LetIn(pump);
