@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::uint32_t OddsSeed = 20'011;  // any one will do
 constexpr int MostOrders = 600;
-constexpr int FewestOrders = 100;
+constexpr int FewestOrders = 250;
 constexpr int FlightsCounted = 4000;  // so that the odds of a long burst take no longer than others
 
 enum class Manner { Fires, Strikes, Cures, Digs, Folds };

@@ -64,8 +64,8 @@ void AddWalk(const WalkForecast& walk, Lines& lines) {
         return;
     }
     const int steps = static_cast<int>(walk.steps.size());
-    Add(lines,
-        "Walk " + Cells(steps) + ": " + Number(walk.time) + " time, " + Number(walk.energy) + " energy");
+    Add(lines, (walk.closed ? "Up to it, " : "Walk ") + Cells(steps) + ": " + Number(walk.time) + " time, " +
+                   Number(walk.energy) + " energy");
     if (walk.paid < walk.steps.size()) {
         const bool byEnergy = walk.refusal.why == Why::WalkEnergy || walk.refusal.why == Why::StepEnergy;
         Add(lines,
@@ -86,27 +86,17 @@ void AddAct(const ActForecast& act, Lines& lines) {
         Add(lines, ActName(act) + ": " + Number(act.time) + " time" + (way.empty() ? "" : ", " + way));
 }
 
-std::string OddsText(const ActForecast& act, const Odds& odds) {
-    if (act.family == "cure") return "Heals about " + Number(static_cast<int>(std::lround(-odds.damage)));
+std::string OddsText(const Odds& odds) {
     std::string text = "Hits " + Percent(odds.hits);
+    if (odds.disables > odds.kills) text += ", disables " + Percent(odds.disables);
     if (odds.kills > 0) text += ", kills " + Percent(odds.kills);
-    // What is worn out by bodies before it heals.
-    const int health = static_cast<int>(std::lround(std::abs(odds.damage)));
-    return text +
-           (odds.damage < 0 ? ", heals about " + Number(health) : ", about " + Number(health) + " health");
+    return text;
 }
 
-void AddTarget(const Forecast& forecast, Lines& lines) {
-    const ActForecast& act = forecast.act;
-    if (!act.known) return;
-    const bool partly = act.refusal.why == Why::TimeForRounds || act.refusal.why == Why::RoundsForRounds;
-    Add(lines, ActName(act) + (act.family == "cure" ? " " : " at ") + Surname(act.target) + ": " +
-                   Number(act.time) + " time");
-    if (act.refusal) Add(lines, WordsOf(act.refusal), Tone::Warning);
-    if (act.refusal && !partly) return;
-    const bool isGood = IsEnemy(act.target) || act.family == "cure";
-    if (forecast.odds) Add(lines, OddsText(act, *forecast.odds), isGood ? Tone::Good : Tone::Danger);
-    if (!act.refusal && act.range > 0) Add(lines, WayToTarget(act));
+// What is worn out by bodies before it heals, too.
+std::string EffectText(const Odds& odds) {
+    const int health = static_cast<int>(std::lround(std::abs(odds.damage)));
+    return (odds.damage < 0 ? "Heals about " : "Costs about ") + Number(health) + " health";
 }
 
 // The most endangered first.
@@ -129,11 +119,32 @@ void AddDangers(const Forecast& forecast, Lines& lines) {
     lines.push_back({text, Tone::Danger});
 }
 
+void AddTarget(const Forecast& forecast, Lines& lines) {
+    const ActForecast& act = forecast.act;
+    if (!act.known) return;
+    const bool partly = act.refusal.why == Why::TimeForRounds || act.refusal.why == Why::RoundsForRounds;
+    Add(lines, ActName(act) + (act.family == "cure" ? " " : " at ") + Surname(act.target) + ": " +
+                   Number(act.time) + " time");
+    if (act.refusal) Add(lines, WordsOf(act.refusal), Tone::Warning);
+    if (act.refusal && !partly) return;
+    if (!forecast.odds) return Add(lines, WayToTarget(act));
+    const bool cures = act.family == "cure";
+    const Tone tone = IsEnemy(act.target) || cures ? Tone::Good : Tone::Danger;
+    if (!cures) Add(lines, OddsText(*forecast.odds), tone);
+    AddDangers(forecast, lines);
+    Add(lines, EffectText(*forecast.odds) + (act.range > 0 ? ", at " + WayToTarget(act) : ""), tone);
+}
+
 }  // namespace
 
 std::vector<ReadoutLine> LinesOf(const Forecast& forecast) {
     Lines lines;
-    if (forecast.occupant == curUnit) return LinesOf(UnitTable[curUnit]);
+    if (forecast.occupant == curUnit) {
+        if (forecast.act.family == "cure" || forecast.act.family == "dig") AddAct(forecast.act, lines);
+        for (const ReadoutLine& line : LinesOf(UnitTable[curUnit]))
+            lines.push_back(line);
+        return lines;
+    }
     if (IsEnemy(forecast.occupant)) {
         AddTarget(forecast, lines);
     } else if (forecast.left == LeftClick::Selects) {
@@ -148,8 +159,8 @@ std::vector<ReadoutLine> LinesOf(const Forecast& forecast) {
         if (forecast.left == LeftClick::OpensStore) Add(lines, "A click opens the vehicle's store");
         AddWalk(forecast.walk, lines);
         AddAct(forecast.act, lines);
+        AddDangers(forecast, lines);
     }
-    AddDangers(forecast, lines);
     const bool turnsFirst = forecast.walk.turnsFirst && !forecast.walk.steps.empty();
     if (forecast.occupant < 0 && turnsFirst) Add(lines, "The first click only turns.");
     return lines;

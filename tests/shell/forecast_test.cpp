@@ -7,6 +7,7 @@
 #include "shell/companion.h"
 #include "shell/readout_words.h"
 #include "tests/support/game_test.h"
+#include "tools/lab/firing_range.h"
 #include "tools/player/orders.h"
 #include "tools/player/scripted_player.h"
 #include "view/start.h"
@@ -207,6 +208,24 @@ TEST_F(ForecastTest, TheChanceIsTheRules) {
     EXPECT_EQ(At(11, 10).odds->kills, At(11, 10).odds->hits);
 }
 
+// On the lab's firing range.
+TEST_F(ForecastTest, TheChanceIsTheLabs) {
+    for (const Drill& drill : {Drill{.weapon = "m4"}, Drill{.weapon = "ak", .mode = 2, .east = 4},
+                               Drill{.weapon = "nova", .east = 6}, Drill{.weapon = "m67", .east = 8},
+                               Drill{.weapon = "m4", .east = 6, .targetStance = Prone}}) {
+        FiringRange range;
+        constexpr int Orders = 2000;
+        const Score score = range.Fire(drill, Orders, 7);
+        UnitTable[Shooter].seen[0] = 1;
+        const Unit& target = range.Target();
+        const Odds odds = *At(target.cellX, target.cellY).odds;
+        const auto share = [](int count) { return static_cast<double>(count) / Orders; };
+        EXPECT_NEAR(odds.hits, share(score.hitting), 0.07) << drill.weapon;
+        EXPECT_NEAR(odds.kills, share(score.killed), 0.07) << drill.weapon;
+        EXPECT_NEAR(odds.damage, share(score.damage), 0.07 * target.health) << drill.weapon;
+    }
+}
+
 TEST_F(ForecastTest, StoneStopsAllAndAComradeInTheLineIsInDanger) {
     SetUpField();
     PutEnemy(16, 10, true);
@@ -270,6 +289,12 @@ TEST_F(ForecastTest, RefusedOrdersSayWhy) {
              UnitTable[Shooter].time = 9;
          },
          PressOn(20, 20, 1), "He stops: the next step needs 4 time, he has 0."},
+        {[] {
+             lastClickX = 11;
+             lastClickY = 10;
+             PutUnit(Enemy, 11, 10);
+         },
+         PressOn(11, 10, 1), "Nothing came of it."},
     };
     int number = 0;
     for (const RefusalCase& row : cases) {
