@@ -140,7 +140,8 @@ void AddTarget(const Forecast& forecast, Lines& lines) {
 std::vector<ReadoutLine> LinesOf(const Forecast& forecast) {
     Lines lines;
     if (forecast.occupant == curUnit) {
-        if (forecast.act.family == "cure" || forecast.act.family == "dig") AddAct(forecast.act, lines);
+        const bool isTool = forecast.act.family == "cure" || forecast.act.family == "dig";
+        if (isTool && forecast.act.refusal.why != Why::OwnCell) AddAct(forecast.act, lines);
         for (const ReadoutLine& line : LinesOf(UnitTable[curUnit]))
             lines.push_back(line);
         return lines;

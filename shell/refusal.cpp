@@ -23,7 +23,7 @@ constexpr Words Table[] = {
     {Why::WalkEnergy,      "He stops: a step costs # energy, he has @."},
     {Why::ActTime,         "Needs # time, has @."},
     {Why::WornOut,         "$ is worn out."},
-    {Why::NoRounds,        "No rounds, yet it costs # time. Load in his file (Enter)."},
+    {Why::NoRounds,        "No rounds, costs # time: load (Enter)."},
     {Why::OwnCell,         "That is his own cell."},
     {Why::BeyondReach,     "Out of reach: # cells, $ reaches @."},
     {Why::TimeForRounds,   "Time for @ of # rounds."},
