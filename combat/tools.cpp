@@ -31,8 +31,6 @@ struct GroundLook {
     int tileY;
 };
 
-constexpr int HighestGround = 200;
-
 constexpr GroundLook GroundLooks[] = {
     {100, 0, Surface},  // plain ground
     {1, 15, Trenches},  // shallow trench
@@ -43,9 +41,7 @@ constexpr GroundLook GroundLooks[] = {
 // ODDITY: blows and cures reach only the first 35 columns and 16 rows of the field; elsewhere they cost their
 // time for nothing.
 bool Reaches(const Unit& unit, int x, int y) {
-    constexpr int LastColumn = 34;
-    constexpr int LastRow = 15;
-    if (x < 0 || x > LastColumn || y < 0 || y > LastRow) return false;
+    if (x < 0 || x > LastColumnInReach || y < 0 || y > LastRowInReach) return false;
     return std::abs(x - unit.cellX) <= 1 && std::abs(y - unit.cellY) <= 1 && cellGrid[y][x].occupant != -1;
 }
 

@@ -2,6 +2,12 @@
 // filling.
 #pragma once
 
+// Blows and cures reach nobody beyond these.
+constexpr int LastColumnInReach = 34;
+constexpr int LastRowInReach = 15;
+
+constexpr int HighestGround = 200;  // level of ground that is full; 0 is the deepest trench
+
 /// The current unit's blow at cell (x, y).
 void MeleeHit(int x, int y);
 

@@ -25,7 +25,8 @@ CompanionView::CompanionView(FormWindow& main, Companion& whose)
       companion(whose),
       onField(*new SketchWidget(*main.WidgetOf(frmField.area), BoundsOf(frmField.area))),
       onView(*new SketchWidget(*main.WidgetOf(frmField), {ViewLeft, ViewTop, ViewWidth, ViewHeight})),
-      onMap(*new SketchWidget(*main.WidgetOf(frmField.picAreaMap), BoundsOf(frmField.picAreaMap))) {
+      onMap(*new SketchWidget(*main.WidgetOf(frmField.picAreaMap), BoundsOf(frmField.picAreaMap))),
+      readout(*new EmbeddedForm(whose.Readout(), *main.WidgetOf(frmField))) {
     companion.FilmTurns();
     motion.setInterval(FrameTime);
     motion.callOnTimeout([this] { Sync(); });
@@ -36,6 +37,7 @@ void CompanionView::Sync() {
     onField.Show(companion.OnField());
     onView.Show(companion.OnView());
     onMap.Show(companion.OnMap());
+    readout.Sync();
     if (companion.IsMoving() == motion.isActive()) return;
     companion.IsMoving() ? motion.start() : motion.stop();
 }

@@ -6,6 +6,7 @@
 
 #include <QTimer>
 
+#include "desktop/embedded_form.h"
 #include "desktop/sketch_widget.h"
 #include "shell/companion.h"
 
@@ -34,5 +35,6 @@ class CompanionView {
     SketchWidget& onField;
     SketchWidget& onView;
     SketchWidget& onMap;
+    EmbeddedForm& readout;
     QTimer motion;
 };

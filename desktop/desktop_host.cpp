@@ -92,7 +92,6 @@ void DesktopHost::Receive(const InputEvent& event) {
     if (refreshing) return late.push_back(event);
     if (SkipsFilm(event) || slips.Swallows(event, Now()) || !MayEnter(event)) return;
     slips.Enters(event);
-    if (companion != nullptr) companion->Before(event);
     Enter([&] { dispatch(event); });
     if (event.kind == EventKind::CloseRequest && event.control == mainWindow.Shown().name)
         EndProcess(EXIT_SUCCESS);

@@ -46,9 +46,12 @@ int main(int count, char** arguments) {
     Session session(AskToContinue);
     Companion companion;
     const Questions questions(settings, session, AskInBox);
+    const auto dispatch = [&](const InputEvent& event) {
+        companion.Pass(event, [&] { session.Dispatch(event); });
+    };
     return RunInWindow(arguments,
                        {.begin = [&] { Begin(session, trouble); },
-                        .dispatch = [&](const InputEvent& event) { session.Dispatch(event); },
+                        .dispatch = dispatch,
                         .atEnd = [&](int exitCode) { return session.AtEnd(exitCode); },
                         .atMessage = [&] { session.NoteEnd(); },
                         .companion = &companion,

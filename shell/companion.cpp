@@ -52,10 +52,6 @@ bool IsDeed(const InputEvent& event) {
 Companion::Companion(Clock whichClock)
     : clock(whichClock), onlooker([this](const Happening& happening) { Witness(happening); }) {}
 
-void Companion::Before(const InputEvent& event) {
-    if (IsDeed(event)) report.clear();
-}
-
 void Companion::Witness(const Happening& happening) {
     if (happening.kind == HappeningKind::MissionBegins) {
         chronicle.Clear();
@@ -119,13 +115,28 @@ void Companion::Report() {
 }
 
 bool Companion::IsMoving() const {
-    return screening.has_value() || effects.Any(clock()) || clock() - turnBegan < AnnounceTime;
+    return screening.has_value() || effects.Any(clock()) || guide.IsWaiting() ||
+           clock() - turnBegan < AnnounceTime;
+}
+
+void Companion::Pass(const InputEvent& event, const std::function<void()>& door) {
+    if (IsDeed(event)) report.clear();
+    const Refusal refusal = guide.Pass(event, clock(), door);
+    const auto& entries = chronicle.Entries();
+    const std::string words = WordsOf(refusal);
+    // A person who presses again and again is told once.
+    const bool repeats = !entries.empty() && entries.back().text == words;
+    if (refusal && !repeats) chronicle.NoteRefusal(words);
 }
 
 void Companion::Look() {
     onField.clear();
     onView.clear();
     onMap.clear();
+    if (screening || film.IsRunning())
+        guide.LookAway();
+    else
+        guide.Look(clock(), onField);
     effects.Draw(clock(), onField, onMap);
     DrawBanner();
     if (!screening) DrawReport();

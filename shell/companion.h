@@ -12,6 +12,7 @@
 #include "shell/chronicle.h"
 #include "shell/effects.h"
 #include "shell/film.h"
+#include "shell/guide.h"
 #include "shell/moment.h"
 #include "shell/onlooker.h"
 #include "shell/screening.h"
@@ -26,11 +27,11 @@ class Companion {
     using Clock = Moment (*)();
     explicit Companion(Clock whichClock = std::chrono::steady_clock::now);
 
-    /// To be called before an event of a person enters the game.
-    void Before(const InputEvent& event);
-
     /// To be called whenever the windows are brought in line with their records: decides what is drawn now.
     void Look();
+
+    /// Gives a person's event to the game through `door`, and notes why it came to nothing.
+    void Pass(const InputEvent& event, const std::function<void()>& door);
 
     /// Whether what is drawn goes on changing by itself.
     bool IsMoving() const;
@@ -39,6 +40,10 @@ class Companion {
     const Sketch& OnField() const { return onField; }
     const Sketch& OnView() const { return onView; }
     const Sketch& OnMap() const { return onMap; }
+
+    /// Stands over the main window, where its Left and Top say.
+    Form& Readout() { return guide.Readout(); }
+    const Guide& TheGuide() const { return guide; }
 
     const Chronicle& TheChronicle() const { return chronicle; }
 
@@ -66,6 +71,7 @@ class Companion {
     const Clock clock;
     Chronicle chronicle;
     Effects effects;
+    Guide guide;
     Film film;
     std::optional<Screening> screening;
     bool filmsTurns = false;
@@ -73,7 +79,6 @@ class Companion {
     std::size_t enemysFirst = 0;      // entry of the chronicle since the computer's turn began
     std::vector<std::string> report;  // of that turn, until the next order
     Moment turnBegan;                 // of the squad
-    int announced = 0;                // turn
     Sketch onField;
     Sketch onView;
     Sketch onMap;

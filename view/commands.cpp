@@ -91,6 +91,12 @@ void Form_KeyDown(int code) {
     }
 }
 
+std::optional<int> FacingOfKey(int code) {
+    for (const KeyCommand& command : KeyCommands)
+        if (command.code == code && command.run == StepKey) return command.argument;
+    return {};
+}
+
 void area_MouseDown(int button, float x, float y) {
     if (button == LeftButton) OrderByClick(CellUnder(x), CellUnder(y), x, y);
     if (button == RightButton) ActAt(x, y);

@@ -2,10 +2,15 @@
 // under the pointer. Each acts on the current unit.
 #pragma once
 
+#include <optional>
+
 struct Form;
 
 /// A key was pressed on the main window; `code` is its virtual key code.
 void Form_KeyDown(int code);
+
+/// The way that a key turns or leads a soldier; nothing for any other key.
+std::optional<int> FacingOfKey(int code);
 
 /// A mouse button was pressed on the field at a pixel of it.
 void area_MouseDown(int button, float x, float y);

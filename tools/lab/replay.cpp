@@ -80,6 +80,12 @@ Picture RecordedLook(int x, int y, const std::string& sum, const ShownWatch& sho
     return Hatched();
 }
 
+// Goes on by so much at each look that nothing is left waiting.
+Moment ClockOfMoments() {
+    static Moment now;
+    return now += std::chrono::milliseconds(100);
+}
+
 // Puts the square of a line "  area LEFT,TOP 20x20 SUM" into a picture of the field.
 void PaintRecorded(Picture& field, const std::string& line, const ShownWatch& shown) {
     int left = 0;
@@ -93,9 +99,10 @@ void PaintRecorded(Picture& field, const std::string& line, const ShownWatch& sh
 
 }  // namespace
 
-Replay::Replay(const Recording& ofRecording, std::filesystem::path pictureFolder)
+Replay::Replay(const Recording& ofRecording, Companion& whoGoesAlong, std::filesystem::path pictureFolder)
     : recording(ofRecording),
       pictures(std::move(pictureFolder)),
+      companion(whoGoesAlong),
       recorder([this](const std::string& line) { Compare(line); }) {}
 
 void Replay::Start() {
@@ -104,8 +111,12 @@ void Replay::Start() {
 
 bool Replay::LetIn(int pump) {
     const std::size_t before = next;
-    while (!Done() && recording.events[next].pump == pump && (pump != 0 || next == before))
-        recorder.Dispatch(recording.events[next++].event);
+    while (!Done() && recording.events[next].pump == pump && (pump != 0 || next == before)) {
+        const InputEvent& event = recording.events[next++].event;
+        companion.Pass(event, [&] { recorder.Dispatch(event); });
+        companion.Look();  // forecasts...
+        companion.Look();  // ...and counts the odds
+    }
     return next != before;
 }
 
@@ -181,7 +192,8 @@ ReplayResult Replay::Result() {
 }
 
 ReplayResult ReplayHeadless(const Recording& recording, const std::filesystem::path& pictureFolder) {
-    Replay replay(recording, pictureFolder);
+    Companion companion(ClockOfMoments);
+    Replay replay(recording, companion, pictureFolder);
     const ReplayHost host(replay);
     try {
         replay.Start();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/headless_host.h"
+#include "shell/companion.h"
 #include "tools/lab/recorder.h"
 #include "tools/lab/recording.h"
 
@@ -15,11 +16,13 @@ struct ReplayResult {
     std::string difference;  // empty when everything went as recorded
 };
 
-/// Gives the recorded events to the game where they came, and compares the lines.
+/// Gives the recorded events to the game where they came, and compares the lines. A companion goes along, as
+/// with a person who plays, and must not change any.
 class Replay {
   public:
-    /// With `pictureFolder` the field as recorded and as replayed is painted into it where they first differ.
-    explicit Replay(const Recording& ofRecording, std::filesystem::path pictureFolder = {});
+    /// `whoGoesAlong` must outlive it. With `pictureFolder` the field as recorded and as replayed is painted
+    /// into it where they first differ.
+    Replay(const Recording& ofRecording, Companion& whoGoesAlong, std::filesystem::path pictureFolder = {});
 
     /// Starts the game; the host must have been installed.
     void Start();
@@ -46,6 +49,7 @@ class Replay {
 
     const Recording& recording;
     const std::filesystem::path pictures;  // empty for none
+    Companion& companion;
     Recorder recorder;
     std::size_t next = 0;      // event
     std::size_t compared = 0;  // lines

@@ -46,7 +46,7 @@ int RunWindow(const WindowRun& run) {
 
 int ReplayInWindow(const Recording& recording, const fs::path& pictures, const GameCopy& copy) {
     Companion companion;
-    Replay replay(recording, pictures);
+    Replay replay(recording, companion, pictures);
     bool byTheGame = true;
     const auto playBack = [&](int pump) {
         replay.LetIn(pump);
