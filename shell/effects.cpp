@@ -77,8 +77,9 @@ float Share(milliseconds age, milliseconds length) {
 
 // 0 to 1, the same for the same place and number.
 float Scatter(const Happening& at, int number) {
-    auto mixed = static_cast<unsigned>(at.toX * 73856093 ^ at.toY * 19349663 ^ at.x * 83492791 ^
-                                       (at.y + 97 * number) * 2971215073U);
+    const auto wide = [](int value) { return static_cast<unsigned>(value); };
+    unsigned mixed = wide(at.toX) * 73856093U ^ wide(at.toY) * 19349663U ^ wide(at.x) * 83492791U ^
+                     wide(at.y + 97 * number) * 2971215073U;
     mixed ^= mixed >> 13;
     mixed *= 0x5bd1e995U;
     mixed ^= mixed >> 15;
