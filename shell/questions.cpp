@@ -37,14 +37,14 @@ std::optional<Question> BeforeEndTurn() {
     const std::string count = names.size() == 1 ? "One soldier" : std::to_string(names.size()) + " soldiers";
     return Question{"End the turn?",
                     count + " could still act: " + Listed(names) + ".\n\nTime that is left is lost.",
-                    "&End turn", "&Go on", "&Don't ask again"};
+                    "&End turn", "&Keep playing", "&Don't ask again"};
 }
 
 Question BeforeExit() {
     return {"Leave the mission?",
             "The mission ends as a withdrawal and can't be continued.\n\nWhat lies in the vehicle's store is "
             "kept. What the soldiers carry, and what lies on the field, is left behind.",
-            "&Leave the mission", "&Go on", ""};
+            "&Leave the mission", "&Keep playing", ""};
 }
 
 std::optional<Question> BeforeClosing(Keeping keeping) {
@@ -54,14 +54,14 @@ std::optional<Question> BeforeClosing(Keeping keeping) {
         case Keeping::Journal:
             return Question{"Close the game?",
                             "The mission isn't over. It is kept: the next start offers to continue here.",
-                            "&Close", "&Go on", ""};
+                            "&Close", "&Keep playing", ""};
         case Keeping::GivenUp:
             break;
     }
     return Question{"Close the game?",
                     "The mission isn't over, and its journal couldn't be written: it can't be continued.\n\n"
                     "The vehicle's store stays as it was before the mission.",
-                    "&Close", "&Go on", ""};
+                    "&Close", "&Keep playing", ""};
 }
 
 }  // namespace

@@ -96,7 +96,7 @@ std::string OddsText(const Odds& odds) {
 // What is worn out by bodies before it heals, too.
 std::string EffectText(const Odds& odds) {
     const int health = static_cast<int>(std::lround(std::abs(odds.damage)));
-    return (odds.damage < 0 ? "Heals about " : "Costs about ") + Number(health) + " health";
+    return (odds.damage < 0 ? "Heals about " : "About ") + Number(health) + " health";
 }
 
 // The most endangered first.
@@ -132,7 +132,7 @@ void AddTarget(const Forecast& forecast, Lines& lines) {
     const Tone tone = IsEnemy(act.target) || cures ? Tone::Good : Tone::Danger;
     if (!cures) Add(lines, OddsText(*forecast.odds), tone);
     AddDangers(forecast, lines);
-    Add(lines, EffectText(*forecast.odds) + (act.range > 0 ? ", at " + WayToTarget(act) : ""), tone);
+    Add(lines, EffectText(*forecast.odds) + (act.range > 0 ? ", " + WayToTarget(act) : ""), tone);
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ TEST_P(EmbeddedFormTest, ItsLinesFitAndTheMouseFallsThroughThem) {
     EmbeddedForm embedded(readout, *window.WidgetOf(form));
     std::vector<std::string> texts = {
         "Walk 48 cells: 199 time, 144 energy", "Hits 62 %, disables 44 %, kills 41 %",
-        "Costs about 119 health, at 38 of 38 cells", "In the blast: Fournier 82 %, Solberg 73 %"};
+        "About 119 health, 38 of 38 cells", "In the blast: Fournier 82 %, Solberg 73 %"};
     for (int why = 0; why <= static_cast<int>(Why::Nothing); ++why)
         texts.push_back(WordsOf({static_cast<Why>(why), 28, 28, "Remington 870 Mk1"}));
     for (const std::string& text : texts) {
