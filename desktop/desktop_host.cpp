@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "desktop/squad_window.h"
 #include "state/state.h"
 
 namespace {
@@ -111,6 +112,8 @@ FormWindow& DesktopHost::WindowOf(Form& form) {
 void DesktopHost::Accompany(Companion& whoGoesAlong) {
     companion = &whoGoesAlong;
     companionView = std::make_unique<CompanionView>(mainWindow, whoGoesAlong);
+    squadWindow =
+        new SquadWindow(mainWindow, whoGoesAlong, [this](const InputEvent& event) { Receive(event); });
 }
 
 // While a film is shown, keys and presses only end it.
@@ -141,6 +144,7 @@ void DesktopHost::Sync() {
     for (FormWindow* window : otherWindows)
         window->Sync();
     if (companionView) companionView->Sync();
+    if (squadWindow != nullptr) squadWindow->Sync();
 }
 
 void DesktopHost::Refresh(Control& control) {

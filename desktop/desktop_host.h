@@ -15,6 +15,8 @@
 #include "desktop/turn_pause.h"
 #include "platform/host.h"
 
+class SquadWindow;
+
 class DesktopHost : public Host {
   public:
     /// `mainForm` is the window whose close button ends the program; `otherForms` are shown when they turn
@@ -34,8 +36,11 @@ class DesktopHost : public Host {
     /// next event by itself.
     void PlayBack(std::function<void(int pump)> source);
 
-    /// Shows on the main window what the companion draws; it must outlive the host.
+    /// Shows on the main window what the companion draws, and beside it the squad; it must outlive the host.
     void Accompany(Companion& whoGoesAlong);
+
+    /// nullptr where nobody goes along.
+    SquadWindow* Squad() { return squadWindow; }
 
     /// `last` runs when the process is about to end, whatever ends it, and gives its exit code.
     void AtEnd(std::function<int(int exitCode)> last) { atEnd = std::move(last); }
@@ -75,6 +80,7 @@ class DesktopHost : public Host {
     std::vector<Form*> forms;               // all but the main one
     Companion* companion = nullptr;         // nobody goes along
     std::unique_ptr<CompanionView> companionView;
+    SquadWindow* squadWindow = nullptr;  // the main window owns it
     SoundDevice soundDevice;
     TurnPause turnPause;
     bool refreshing = false;

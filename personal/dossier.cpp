@@ -66,14 +66,6 @@ std::string Shortened(const std::string& name) {
     return FromCodePage(ToCodePage(name).substr(0, Longest));
 }
 
-std::string FaceFile(const Unit& unit) {
-    const std::string extension = unit.faceType == "b"   ? ".bmp"
-                                  : unit.faceType == "j" ? ".jpg"
-                                  : unit.faceType == "g" ? ".gif"
-                                                         : "";
-    return "\\pic\\faces\\" + unit.facePrefix + unit.faceGroup + TwoDigits(unit.faceNo) + extension;
-}
-
 void TypeRow(const Attribute& row, int value, int x, int y) {
     Typewriter(row.label, WithShadow, frmInfo.canvas, x, y);
     Typewriter(PadNumber(value), WithShadow, frmInfo.canvas, AtThePen, AtThePen);
@@ -96,6 +88,14 @@ const char* TeamWord(int team) {
 }
 
 }  // namespace
+
+std::string FaceFile(const Unit& unit) {
+    const std::string extension = unit.faceType == "b"   ? ".bmp"
+                                  : unit.faceType == "j" ? ".jpg"
+                                  : unit.faceType == "g" ? ".gif"
+                                                         : "";
+    return "\\pic\\faces\\" + unit.facePrefix + unit.faceGroup + TwoDigits(unit.faceNo) + extension;
+}
 
 void FillDossier() {
     const Unit& unit = UnitTable[curUnit];

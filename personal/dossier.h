@@ -2,9 +2,14 @@
 // the small panel with his state in plain words.
 #pragma once
 
-#include <string_view>
+#include <string>
 
 #include "platform/controls.h"
+
+struct Unit;
+
+/// The picture of his face, as "\\pic\\faces\\usa01.bmp".
+std::string FaceFile(const Unit& unit);
 
 /// Draws the current unit's sheet on frmInfo. Throws RunTimeError for a missing picture.
 void FillDossier();

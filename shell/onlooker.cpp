@@ -43,6 +43,7 @@ Onlooker::~Onlooker() {
 
 void Onlooker::MissionBegins() {
     FieldAudience::MissionBegins();
+    ready = false;
     team = -1;
     statuses.fill(Active);
     wounds.fill({});
@@ -55,6 +56,7 @@ void Onlooker::MissionReady() {
     FieldAudience::MissionReady();
     for (std::size_t unit = 0; unit < statuses.size(); ++unit)
         statuses[unit] = UnitTable[static_cast<int>(unit)].status;
+    ready = true;
 }
 
 void Onlooker::LineLogged(const std::string& line) {
@@ -71,7 +73,9 @@ void Onlooker::UnitHurt(int by, int damage) {
     hit.amount = damage;
     hit.seen = IsSeen(curUnit);
     hit.text = UnitTable[by].hand.name;
-    wounds.at(static_cast<std::size_t>(int{curUnit})) = {by, hit.text};
+    hit.mode = fireModes.Text();
+    if (UnitTable[curUnit].health == 0)
+        wounds.at(static_cast<std::size_t>(int{curUnit})) = {by, hit.text, hit.mode};
     Report(hit);
 }
 
@@ -107,7 +111,8 @@ void Onlooker::TrailChanged(std::string_view mode) {
                           .y = muzzleY,
                           .toX = muzzleX,
                           .toY = muzzleY,
-                          .text = UnitTable[curUnit].hand.name});
+                          .text = UnitTable[curUnit].hand.name,
+                          .mode = fireModes.Text()});
     } else if (mode == "finalize" && !flying.empty()) {
         Happening shot = flying.back();
         flying.pop_back();
@@ -136,7 +141,7 @@ void Onlooker::Report(const Happening& happening) {
 }
 
 void Onlooker::NoteTurn() {
-    if (team == curTeam || (curTeam != SquadTeam && curTeam != EnemyTeam)) return;
+    if (!ready || team == curTeam || (curTeam != SquadTeam && curTeam != EnemyTeam)) return;
     team = curTeam;
     witness({.kind = HappeningKind::TurnBegins, .unit = team});
 }
@@ -149,6 +154,7 @@ void Onlooker::NoteDeaths() {
         Happening death = At(HappeningKind::Death, unit);
         death.by = wounds[place].by;
         death.text = wounds[place].weapon;
+        death.mode = wounds[place].mode;
         death.seen = IsSeen(unit);
         Report(death);
     }

@@ -34,6 +34,7 @@ class Onlooker : public FieldAudience {
     struct Wound {
         int by = -1;
         std::string weapon;
+        std::string mode;
     };
 
     void Report(const Happening& happening);
@@ -41,9 +42,10 @@ class Onlooker : public FieldAudience {
     void NoteDeaths();
 
     Witness witness;
-    int team = -1;  // whose turn was reported last
+    bool ready = false;  // both teams have landed
+    int team = -1;       // whose turn was reported last
     std::array<int, 2 * TeamStride> statuses = {};
-    std::array<Wound, 2 * TeamStride> wounds = {};  // the last of each unit
+    std::array<Wound, 2 * TeamStride> wounds = {};  // those that killed
     std::vector<Happening> flying;                  // shots that are on their way, the newest last
     std::vector<Happening> meanwhile;               // what they do: it is reported when they have been
 };
