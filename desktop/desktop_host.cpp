@@ -206,8 +206,10 @@ void DesktopHost::ShowModal(Form& form) {
 
 void DesktopHost::ShowMessage(const std::string& text) {
     if (atMessage) atMessage();
+    if (companion != nullptr && !missionVerdict.empty()) companion->Settle();
     Screen();
     Sync();
+    if (atVerdict && !playBack && !missionVerdict.empty()) atVerdict();
     ShowBox(QMessageBox::Information, text);
 }
 

@@ -48,6 +48,10 @@ class DesktopHost : public Host {
     /// `first` runs before each message of the game is shown.
     void AtMessage(std::function<void()> first) { atMessage = std::move(first); }
 
+    /// `first` runs before the message of the mission's verdict, when everything before has been seen; not
+    /// while events come from a source.
+    void AtVerdict(std::function<void()> first) { atVerdict = std::move(first); }
+
     void Refresh(Control& control) override;
     void PumpEvents() override;
     void Wait(std::chrono::nanoseconds time, bool pump) override;
@@ -91,6 +95,7 @@ class DesktopHost : public Host {
     QTimer playBackPace;
     std::function<int(int exitCode)> atEnd;
     std::function<void()> atMessage;
+    std::function<void()> atVerdict;
     bool failed = false;  // the error is being shown: ticks and the close button reach the game no more
     QTimer quiet;         // runs out when no sound was asked for in a while
 };

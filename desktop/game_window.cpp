@@ -115,6 +115,7 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     if (run.companion != nullptr) host.Accompany(*run.companion);
     host.AtEnd(run.atEnd);
     host.AtMessage(run.atMessage);
+    host.AtVerdict(run.atVerdict);
     // Within the event loop, so that the game can wait, and show boxes, from its first moment.
     QTimer begin;
     begin.setSingleShot(true);

@@ -15,6 +15,7 @@ struct WindowRun {
     std::function<void(int pump)> playBack = nullptr;  // see DesktopHost::PlayBack; empty for a person's play
     std::function<int(int exitCode)> atEnd = nullptr;  // see DesktopHost::AtEnd; may be empty
     std::function<void()> atMessage = nullptr;         // see DesktopHost::AtMessage; may be empty
+    std::function<void()> atVerdict = nullptr;         // see DesktopHost::AtVerdict; may be empty
     Companion* companion = nullptr;                    // goes along with the game; nullptr for none
 };
 

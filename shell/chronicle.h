@@ -30,7 +30,7 @@ struct Tally {
     int hits = 0;    // enemies that one of those, or a blow, cost health
     int kills = 0;   // of enemies
     int wounds = 0;  // times that it lost health by a hit
-    int damage = 0;  // health that it took from enemies
+    int damage = 0;  // done to enemies, also beyond what health they had
 
     bool operator==(const Tally&) const = default;
 };

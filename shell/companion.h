@@ -37,6 +37,9 @@ class Companion {
     const Sketch& OnView() const { return onView; }
     const Sketch& OnMap() const { return onMap; }
 
+    /// The mission has ended, maybe in the middle of a shot.
+    void Settle() { onlooker.Settle(); }
+
     const Chronicle& TheChronicle() const { return chronicle; }
 
     /// The computer's turns are filmed from now on: the front end shows nothing while one is, doesn't wait,

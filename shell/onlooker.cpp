@@ -114,13 +114,22 @@ void Onlooker::TrailChanged(std::string_view mode) {
                           .text = UnitTable[curUnit].hand.name,
                           .mode = fireModes.Text()});
     } else if (mode == "finalize" && !flying.empty()) {
-        Happening shot = flying.back();
-        flying.pop_back();
-        shot.seen = IsSeen(shot.unit) || EndsNearOurs(shot);
-        witness(shot);
-        for (const Happening& happening : std::exchange(meanwhile, {}))
-            Report(happening);
+        Land();
     }
+}
+
+void Onlooker::Land() {
+    Happening shot = flying.back();
+    flying.pop_back();
+    shot.seen = IsSeen(shot.unit) || EndsNearOurs(shot);
+    witness(shot);
+    for (const Happening& happening : std::exchange(meanwhile, {}))
+        Report(happening);
+}
+
+void Onlooker::Settle() {
+    while (!flying.empty())
+        Land();
 }
 
 void Onlooker::TrailDrawn(int pixelX, int pixelY) {

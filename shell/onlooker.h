@@ -19,6 +19,9 @@ class Onlooker : public FieldAudience {
     explicit Onlooker(Witness whoListens);
     ~Onlooker() override;
 
+    /// Reports the shots that are in the air and what they did: a mission may end in the middle of one.
+    void Settle();
+
     void MissionBegins() override;
     void MissionReady() override;
     void LineLogged(const std::string& line) override;
@@ -38,6 +41,7 @@ class Onlooker : public FieldAudience {
     };
 
     void Report(const Happening& happening);
+    void Land();
     void NoteTurn();
     void NoteDeaths();
 

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <utility>
 
 #include "platform/files.h"
@@ -57,6 +58,7 @@ void Session::Begin(std::uint32_t seed) {
     file.Close();
     head = HeadOfGame(seed);
     events = 0;
+    recording.clear();
     TheHost().CountPumpsFrom(0);
     Main(seed);
 }
@@ -137,8 +139,29 @@ void Session::WriteMark(const char* line) {
 }
 
 void Session::Shelve() {
-    if (file.IsOpen() && !ShelveFinished()) PrintTrouble(std::strerror(errno));
+    if (file.IsOpen()) {
+        if (!missionVerdict.empty()) KeepRecording();
+        if (!ShelveFinished()) PrintTrouble(std::strerror(errno));
+    }
     file.Close();
+}
+
+// One that can't be read can't be saved; the mission has ended all the same.
+void Session::KeepRecording() {
+    try {
+        recording = ReadWholeFile(CurrentJournal);
+    } catch (const RunTimeError& error) {
+        PrintTrouble(error.About());
+    }
+}
+
+std::string Session::SaveRecording(const std::filesystem::path& to) const {
+    errno = 0;
+    std::ofstream copy(to, std::ios::binary | std::ios::trunc);
+    copy << recording;
+    copy.close();
+    if (copy) return "";
+    return errno != 0 ? std::strerror(errno) : "it isn't a file that can be written";
 }
 
 void Session::KeepAside(const std::string& reason) {

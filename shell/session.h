@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <string>
 
@@ -27,6 +28,12 @@ class Session {
     /// last one may stand for long.
     void NoteEnd();
 
+    /// Whether there is a recording of the mission that is over.
+    bool HasRecording() const { return !recording.empty(); }
+
+    /// Writes it to a file of the player's. The result is why it couldn't; empty when it could.
+    std::string SaveRecording(const std::filesystem::path& to) const;
+
     /// The process ends. Gives the exit code back.
     int AtEnd(int exitCode);
 
@@ -38,6 +45,7 @@ class Session {
     bool BeginJournal();
     void WriteMark(const char* line);
     void Shelve();
+    void KeepRecording();
     void KeepAside(const std::string& reason);
     void GiveUp();
 
@@ -46,6 +54,7 @@ class Session {
     JournalHead head;  // of this game
     int events = 0;    // in the journal
     bool givenUp = false;
+    std::string recording;  // the journal of a mission that is over
 };
 
 /// Whether the journal may leave an event out. The pointer over the main window shows tips, but for the mini

@@ -6,7 +6,10 @@
 
 #include "desktop/game_window.h"
 #include "platform/keys.h"
+#include "shell/session.h"
 #include "test_form.h"
+#include "view/start.h"
+#include "window_game.h"
 
 namespace {
 
@@ -37,6 +40,17 @@ class EventCounter : public QObject {
 
   private:
     const std::set<QEvent::Type> kinds;
+};
+
+// The box is answered as soon as it stands.
+class VerdictHost : public DesktopHost {
+  public:
+    using DesktopHost::DesktopHost;
+    void ShowMessage(const std::string& text) override {
+        QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+        DesktopHost::ShowMessage(text);
+    }
+    [[noreturn]] void EndProcess(int exitCode) override { throw ProcessEnded{exitCode}; }
 };
 
 void PressLater(QWidget& widget) {
@@ -184,6 +198,36 @@ TEST_F(DesktopTest, AModalFormMayBeClosedUnderAMessageOfPlainText) {
     });
     dialog.Visible = true;
     host.ShowModal(dialog);
+}
+
+// The store has been saved and the journal put on the shelf before: a kill while it stands loses nothing.
+TEST(VerdictTest, TheDebriefingComesBeforeTheLastBoxAndAfterTheGameIsKept) {
+    const ProgramFolder folder;
+    SetProgramFolder(folder.Path());
+    Session session([](const std::string&) { return true; });
+    VerdictHost host(frmField, OtherForms(), [&](const InputEvent& event) { session.Dispatch(event); });
+    host.AtMessage([&session] { session.NoteEnd(); });
+    const std::string store = folder.Read("dat/apc.dat");
+    std::string seen;
+    host.AtVerdict([&] {
+        EXPECT_NE(folder.Read("dat/apc.dat"), store);
+        EXPECT_TRUE(session.HasRecording());
+        EXPECT_EQ(session.SaveRecording(folder.Path() / "saved.txt"), "");
+        EXPECT_EQ(folder.Read("saved.txt"), folder.Read("journal/finished-1.txt"));
+        EXPECT_EQ(session.SaveRecording(folder.Path() / "none/saved.txt"), "No such file or directory");
+        EXPECT_NE(session.SaveRecording("/dev/full"), "");
+        seen = missionVerdict;
+    });
+    session.Begin(1);
+    EXPECT_THROW(session.Dispatch({EventKind::Click, "frmField.mnuExit"}), ProcessEnded);
+    EXPECT_EQ(seen, "Withdrawal");
+    seen.clear();
+    host.PlayBack([](int) {});
+    Main(1);
+    EXPECT_THROW(Dispatch({EventKind::Click, "frmField.mnuExit"}), ProcessEnded);
+    EXPECT_EQ(seen, "") << "a recording is played back";
+    ResetState();
+    ResetForms();
 }
 
 TEST(QuestionTest, OnlyNewGameBeginsOne) {
