@@ -48,6 +48,7 @@ DesktopHost::DesktopHost(Form& mainForm, const std::vector<Form*>& otherForms, E
     : dispatch(std::move(dispatchRoutine)),
       mainWindow(mainForm, nullptr, [this](const InputEvent& event) { Receive(event); }),
       forms(otherForms) {
+    playBackPace.callOnTimeout([this] { LetInAtPace(); });
     quiet.setSingleShot(true);
     quiet.setInterval(QuietTime);
     QObject::connect(&quiet, &QTimer::timeout, &quiet, [this] { CloseQuietDevice(); });
@@ -71,17 +72,38 @@ void DesktopHost::Enter(const std::function<void()>& piece) {
     if (InnermostPump() == 0) TakeLate();
 }
 
-void DesktopHost::PlayBack(std::function<void(int pump)> source) {
+void DesktopHost::PlayBack(Source source, EventSink toWhom) {
     playBack = std::move(source);
-    playBackPace.callOnTimeout([this] {
-        if (InnermostPump() == 0) LetIn();
-    });
+    meanwhile = std::move(toWhom);
     playBackPace.start(PlayBackPause);
 }
 
+void DesktopHost::Hasten() {
+    hastens = true;
+    playBackPace.start(0);
+    if (companion != nullptr && companion->TheScreening() != nullptr) companion->TheScreening()->Skip();
+}
+
+void DesktopHost::StopPlayBack() {
+    playBack = nullptr;
+    meanwhile = nullptr;
+    hastens = false;
+    playBackPace.stop();
+}
+
+void DesktopHost::LetInAtPace() {
+    if (InnermostPump() != 0) return;
+    if (companion != nullptr && companion->TheScreening() != nullptr) return;
+    do
+        LetIn();
+    while (hastens && InnermostPump() == 0);
+}
+
+// The source may end the playing back.
 void DesktopHost::LetIn() {
     if (companion != nullptr && companion->TheScreening() != nullptr) return;
-    if (playBack) Enter([this] { playBack(InnermostPump()); });
+    const bool lasts = !hastens && (InnermostPump() == 0 || InnermostPump() == modalPump);
+    if (playBack) Enter([this, lasts, source = playBack] { source(InnermostPump(), lasts); });
     TakeLate();
 }
 
@@ -91,7 +113,11 @@ void DesktopHost::TakeLate() {
 }
 
 void DesktopHost::Receive(const InputEvent& event) {
-    if (playBack || failed) return;
+    if (failed) return;
+    if (playBack) {
+        if (meanwhile) meanwhile(event);
+        return;
+    }
     if (refreshing) return late.push_back(event);
     if (SkipsFilm(event) || turnPause.Swallows(event, Now())) return;
     if (companion != nullptr) companion->Before(event);
@@ -128,7 +154,8 @@ bool DesktopHost::SkipsFilm(const InputEvent& event) {
 
 void DesktopHost::Screen() {
     if (companionView)
-        companionView->Screen(HandleEventsUntil, [this](const SoundRequest& sound) { Emit(sound); });
+        companionView->Screen(
+            HandleEventsUntil, [this](const SoundRequest& sound) { Emit(sound); }, hastens);
 }
 
 void DesktopHost::NoteTurn() {
@@ -137,7 +164,7 @@ void DesktopHost::NoteTurn() {
 
 void DesktopHost::Sync() {
     NoteTurn();
-    if (IsFilming()) return;
+    if (IsFilming() || hastens) return;
     mainWindow.Sync();
     for (Form* form : forms)
         if (form->Visible) WindowOf(*form);
@@ -149,6 +176,7 @@ void DesktopHost::Sync() {
 
 void DesktopHost::Refresh(Control& control) {
     NoteTurn();
+    if (hastens) return;
     if (IsFilming()) return companion->Shoot({});
     FormWindow& window = WindowOf(*control.form);
     window.Sync();
@@ -162,10 +190,12 @@ void DesktopHost::PumpEvents() {
     const Pumping pumping(*this);
     Sync();
     LetIn();
-    if (!IsFilming()) QCoreApplication::processEvents();
+    if (!IsFilming() && !hastens) QCoreApplication::processEvents();
 }
 
 void DesktopHost::Wait(std::chrono::nanoseconds time, bool pump) {
+    if (hastens && pump) PumpEvents();
+    if (hastens) return;
     if (IsFilming()) return WaitInFilm(time, pump);
     const auto end = steady_clock::now() + time;
     if (pump) {
@@ -196,10 +226,16 @@ void DesktopHost::ShowModal(Form& form) {
     }
     Sync();
     const Pumping pumping(*this);
+    const int outer = std::exchange(modalPump, InnermostPump());
     while (form.Visible) {
         LetIn();
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        // The timer of the pace may be what led here; it doesn't tick within its own tick.
+        if (playBack && !hastens)
+            HandleEventsUntil(steady_clock::now() + PlayBackPause);
+        else if (!hastens)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
+    modalPump = outer;
     Sync();
     if (outermost) window.setWindowModality(Qt::NonModal);
 }
@@ -214,6 +250,7 @@ void DesktopHost::ShowMessage(const std::string& text) {
 }
 
 void DesktopHost::Emit(const SoundRequest& sound) {
+    if (hastens) return;
     if (IsFilming()) return companion->Keep(sound);
     soundDevice.Play(sound);
     quiet.start();

@@ -31,10 +31,20 @@ class DesktopHost : public Host {
     /// The window of a form; made at its first use.
     FormWindow& WindowOf(Form& form);
 
-    /// Events come from `source` instead of the windows: it is asked at each pump, wait and modal window with
-    /// their number (see InnermostPump), and from time to time with 0 when none of them runs, and enters the
-    /// next event by itself.
-    void PlayBack(std::function<void(int pump)> source);
+    /// Enters the next events of a run by itself. It is asked at each pump and wait with their number (see
+    /// InnermostPump). When none of them runs, and while a modal window is open, it is asked from time to
+    /// time; `lasts` says so, as there is no hurry then.
+    using Source = std::function<void(int pump, bool lasts)>;
+
+    /// Events come from `source` instead of the windows from now on. Keys and clicks of a person, and the
+    /// main window's close button, go to `meanwhile`, if there is one.
+    void PlayBack(Source source, EventSink meanwhile = nullptr);
+
+    /// What is left is played back without a wait, and unseen.
+    void Hasten();
+
+    /// Events come from the windows again.
+    void StopPlayBack();
 
     /// Shows on the main window what the companion draws, and beside it the squad; it must outlive the host.
     void Accompany(Companion& whoGoesAlong);
@@ -67,6 +77,7 @@ class DesktopHost : public Host {
 
   private:
     void LetIn();
+    void LetInAtPace();
     void TakeLate();
     void Receive(const InputEvent& event);
     bool IsFilming() const { return companion != nullptr && companion->IsFilming(); }
@@ -90,8 +101,11 @@ class DesktopHost : public Host {
     bool refreshing = false;
     int entered = 0;  // pieces of the game that run within each other
     std::vector<InputEvent>
-        late;  // came from the windows while one was refreshed; they wait for the next pump
-    std::function<void(int pump)> playBack;  // empty: a person plays
+        late;              // came from the windows while one was refreshed; they wait for the next pump
+    Source playBack;       // empty: a person plays
+    EventSink meanwhile;   // takes what he does while it isn't
+    bool hastens = false;  // nothing is shown or takes time
+    int modalPump = 0;     // of the innermost modal window
     QTimer playBackPace;
     std::function<int(int exitCode)> atEnd;
     std::function<void()> atMessage;

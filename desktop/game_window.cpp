@@ -20,6 +20,9 @@
 #include "desktop/desktop_host.h"
 #include "desktop/scale.h"
 #include "platform/run_time_error.h"
+#include "shell/companion.h"
+#include "shell/watching.h"
+#include "view/events.h"
 #include "view/field_form.h"
 #include "view/forms.h"
 
@@ -111,7 +114,7 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     QGuiApplication::setDesktopFileName(QLatin1String(DesktopEntry));
 
     DesktopHost host(frmField, OtherForms(), run.dispatch);
-    if (run.playBack) host.PlayBack(run.playBack);
+    if (run.playBack) host.PlayBack([&run](int pump, bool /*lasts*/) { run.playBack(pump); });
     if (run.companion != nullptr) host.Accompany(*run.companion);
     host.AtEnd(run.atEnd);
     host.AtMessage(run.atMessage);
@@ -124,15 +127,38 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     return QApplication::exec();
 }
 
-bool AskToContinue(const std::string& text) {
+Resumption AskToContinue(const std::string& text) {
     QMessageBox box(QMessageBox::Question, QString::fromUtf8(GameName), QString::fromStdString(text));
     box.setTextFormat(Qt::PlainText);
     QPushButton* const goOn = box.addButton(QStringLiteral("&Continue"), QMessageBox::AcceptRole);
+    QPushButton* const watch = box.addButton(QStringLiteral("&Watch it"), QMessageBox::AcceptRole);
     QPushButton* const begin = box.addButton(QStringLiteral("&New game"), QMessageBox::DestructiveRole);
     box.setDefaultButton(goOn);
     box.setEscapeButton(goOn);
     box.exec();
-    return box.clickedButton() != begin;
+    if (box.clickedButton() == watch) return Resumption::Watched;
+    return box.clickedButton() == begin ? Resumption::NewGame : Resumption::Continued;
+}
+
+void ShowPlayedBack(Watching& watching, Companion& companion) {
+    auto& host = static_cast<DesktopHost&>(TheHost());
+    const auto give = [&companion](const InputEvent& event) {
+        companion.Before(event);
+        Dispatch(event);
+    };
+    const auto source = [&, give](int pump, bool lasts) {
+        watching.LetIn(pump, lasts, give);
+        if (!watching.Done()) return;
+        companion.SetWatched("");
+        host.StopPlayBack();
+    };
+    const auto meanwhile = [&host](const InputEvent& event) {
+        if (event.kind == EventKind::CloseRequest && event.control == frmField.name)
+            host.EndProcess(EXIT_SUCCESS);
+        if (IsDeed(event)) host.Hasten();
+    };
+    companion.SetWatched("any key or click: to its end, and play on");
+    host.PlayBack(source, meanwhile);
 }
 
 bool SaveWindow(const std::string& form, const std::filesystem::path& file) {

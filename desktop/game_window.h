@@ -6,8 +6,10 @@
 #include <string>
 
 #include "platform/input_event.h"
+#include "shell/session.h"
 
 class Companion;
+class Watching;
 
 struct WindowRun {
     std::function<void()> begin;                       // starts the game, its folder too unless that was set
@@ -23,9 +25,13 @@ struct WindowRun {
 /// window it says so on standard error and is 1.
 int RunInWindow(char** arguments, const WindowRun& run);
 
-/// Shows `text` in a box with the buttons "Continue" and "New game", of which closing the box presses the
-/// first. True for "Continue".
-bool AskToContinue(const std::string& text);
+/// Shows `text` in a box with the buttons "Continue", "Watch it" and "New game", of which closing the box
+/// presses the first.
+Resumption AskToContinue(const std::string& text);
+
+/// Plays a run back on the windows from now on, at a pace that can be followed. Keys and clicks bring it to
+/// its end at once; then the game is the person's. Both must outlive that.
+void ShowPlayedBack(Watching& watching, Companion& companion);
 
 /// Saves a window of the running game, named as "frmField", as it would be shown. False when it can't be
 /// written.

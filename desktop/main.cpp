@@ -29,7 +29,7 @@ void Debrief(const Companion& companion, const Session& session) {
 
 int main(int /*count*/, char** arguments) {
     Companion companion;
-    Session session(AskToContinue);
+    Session session(AskToContinue, [&](Watching& watching) { ShowPlayedBack(watching, companion); });
     return RunInWindow(arguments, {.begin = [&] { Begin(session); },
                                    .dispatch = [&](const InputEvent& event) { session.Dispatch(event); },
                                    .atEnd = [&](int exitCode) { return session.AtEnd(exitCode); },

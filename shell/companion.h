@@ -37,6 +37,9 @@ class Companion {
     const Sketch& OnView() const { return onView; }
     const Sketch& OnMap() const { return onMap; }
 
+    /// A game is played back: a banner says so, with what a key or click does. An empty text: no more.
+    void SetWatched(const std::string& whatKeysDo) { watched = whatKeysDo; }
+
     /// The mission has ended, maybe in the middle of a shot.
     void Settle() { onlooker.Settle(); }
 
@@ -72,6 +75,7 @@ class Companion {
     ViewPlace filmedFrom;             // what was in view when the film began
     std::size_t enemysFirst = 0;      // entry of the chronicle since the computer's turn began
     std::vector<std::string> report;  // of that turn, until the next order
+    std::string watched;              // what a key does while a game is played back; empty: none is
     Moment turnBegan;                 // of the squad
     int announced = 0;                // turn
     Sketch onField;

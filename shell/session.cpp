@@ -111,9 +111,21 @@ bool Session::AskAbout(bool orderDropped) {
                        std::to_string(SoldiersAlive()) + " of " + std::to_string(teamLast[SquadTeam] + 1) +
                        " soldiers alive.";
     if (orderDropped) text += " Its last order ended in an error and is left out.";
-    if (wantsToContinue(text)) return true;
-    Shelve();
-    return false;
+    const Resumption resumption = ask(text);
+    if (resumption == Resumption::NewGame) {
+        Shelve();
+        return false;
+    }
+    if (resumption == Resumption::Watched) Watch();
+    return true;
+}
+
+// The journal has grown by what closed an open window.
+void Session::Watch() {
+    watching.emplace(ReadJournal(ReadWholeFile(CurrentJournal), ShownName(CurrentJournal)).events);
+    TheHost().CountPumpsFrom(0);
+    show(*watching);
+    Main(head.seed);
 }
 
 void Session::Dispatch(const InputEvent& event) {

@@ -5,17 +5,27 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/append_file.h"
 #include "platform/input_event.h"
 #include "shell/journal.h"
+#include "shell/watching.h"
+
+/// What a player does about a game that was broken off.
+enum class Resumption { Continued, Watched, NewGame };
 
 class Session {
   public:
-    /// Asks the player whether to go on with the game that the text names; else he begins a new one.
-    using Question = std::function<bool(const std::string& text)>;
-    explicit Session(Question question) : wantsToContinue(std::move(question)) {}
+    /// Asks the player about the game that the text names.
+    using Question = std::function<Resumption(const std::string& text)>;
+
+    /// Lets a game's events in from now on, until all have been given.
+    using Projector = std::function<void(Watching& watching)>;
+
+    explicit Session(Question question, Projector projector = nullptr)
+        : ask(std::move(question)), show(std::move(projector)) {}
 
     /// The start of play; `seed` is for a new game. A game that can't be continued is kept, and the host
     /// shows a message that says so. Throws RunTimeError.
@@ -41,6 +51,7 @@ class Session {
     bool TakeUp();
     bool TakeUp(Journal journal);
     bool AskAbout(bool orderDropped);
+    void Watch();
     void Write(const InputEvent& event);
     bool BeginJournal();
     void WriteMark(const char* line);
@@ -49,12 +60,14 @@ class Session {
     void KeepAside(const std::string& reason);
     void GiveUp();
 
-    const Question wantsToContinue;
+    const Question ask;
+    const Projector show;
     AppendFile file;   // open while the journal on the disk is this game's
     JournalHead head;  // of this game
     int events = 0;    // in the journal
     bool givenUp = false;
-    std::string recording;  // the journal of a mission that is over
+    std::optional<Watching> watching;  // the game as far as it had come, while it is watched
+    std::string recording;             // the journal of a mission that is over
 };
 
 /// Whether the journal may leave an event out. The pointer over the main window shows tips, but for the mini

@@ -204,7 +204,7 @@ TEST_F(DesktopTest, AModalFormMayBeClosedUnderAMessageOfPlainText) {
 TEST(VerdictTest, TheDebriefingComesBeforeTheLastBoxAndAfterTheGameIsKept) {
     const ProgramFolder folder;
     SetProgramFolder(folder.Path());
-    Session session([](const std::string&) { return true; });
+    Session session([](const std::string&) { return Resumption::Continued; });
     VerdictHost host(frmField, OtherForms(), [&](const InputEvent& event) { session.Dispatch(event); });
     host.AtMessage([&session] { session.NoteEnd(); });
     const std::string store = folder.Read("dat/apc.dat");
@@ -222,7 +222,7 @@ TEST(VerdictTest, TheDebriefingComesBeforeTheLastBoxAndAfterTheGameIsKept) {
     EXPECT_THROW(session.Dispatch({EventKind::Click, "frmField.mnuExit"}), ProcessEnded);
     EXPECT_EQ(seen, "Withdrawal");
     seen.clear();
-    host.PlayBack([](int) {});
+    host.PlayBack([](int, bool) {});
     Main(1);
     EXPECT_THROW(Dispatch({EventKind::Click, "frmField.mnuExit"}), ProcessEnded);
     EXPECT_EQ(seen, "") << "a recording is played back";
@@ -230,17 +230,23 @@ TEST(VerdictTest, TheDebriefingComesBeforeTheLastBoxAndAfterTheGameIsKept) {
     ResetForms();
 }
 
-TEST(QuestionTest, OnlyNewGameBeginsOne) {
-    for (const char* pressed : {"&Continue", "&New game", ""}) {
-        QTimer::singleShot(20, [pressed] {
+TEST(QuestionTest, ClosingTheBoxContinues) {
+    struct Case {
+        const char* pressed;
+        Resumption resumption;
+    };
+    for (const auto& [pressed, resumption] :
+         {Case{"&Continue", Resumption::Continued}, Case{"&Watch it", Resumption::Watched},
+          Case{"&New game", Resumption::NewGame}, Case{"", Resumption::Continued}}) {
+        QTimer::singleShot(20, [&wanted = pressed] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
             EXPECT_EQ(box->text(), "turn 3");
             for (QAbstractButton* button : box->buttons())
-                if (button->text() == QLatin1String(pressed)) return button->click();
+                if (button->text() == QLatin1String(wanted)) return button->click();
             box->close();
         });
-        EXPECT_EQ(AskToContinue("turn 3"), std::string(pressed) != "&New game") << pressed;
+        EXPECT_EQ(AskToContinue("turn 3"), resumption) << pressed;
     }
 }
 

@@ -83,7 +83,7 @@ class SessionTest : public testing::Test {
         session.reset();
         session.emplace([this, continues](const std::string& text) {
             asked = text;
-            return continues;
+            return continues ? Resumption::Continued : Resumption::NewGame;
         });
         host->session = &*session;
         host->messages.clear();
@@ -336,7 +336,7 @@ TEST_F(SessionTest, PlayGoesOnWithoutAJournal) {
     EXPECT_NE(asked, "");
     EXPECT_TRUE(fireInMotion) << "as after the first event";
 
-    Session second([](const std::string& /*text*/) { return true; });
+    Session second([](const std::string& /*text*/) { return Resumption::Continued; });
     second.Begin(3);
     host->session = &second;
     const std::string first = Current();
