@@ -140,24 +140,29 @@ Resumption AskToContinue(const std::string& text) {
     return box.clickedButton() == begin ? Resumption::NewGame : Resumption::Continued;
 }
 
-void ShowPlayedBack(Watching& watching, Companion& companion) {
+void ShowPlayedBack(Watching& watching, Companion& companion, AfterWatching after) {
     auto& host = static_cast<DesktopHost&>(TheHost());
+    const bool playGoesOn = after == AfterWatching::PlayGoesOn;
     const auto give = [&companion](const InputEvent& event) {
         companion.Before(event);
         Dispatch(event);
     };
-    const auto source = [&, give](int pump, bool lasts) {
+    const auto source = [&, playGoesOn, give](int pump, bool lasts) {
         watching.LetIn(pump, lasts, give);
-        if (!watching.Done()) return;
+        if (!watching.Done() || (!playGoesOn && host.InnermostPump() != 0)) return;
         companion.SetWatched("");
         host.StopPlayBack();
+        if (playGoesOn) return;
+        host.ShowMessage("The recording ends here.");
+        host.EndProcess(EXIT_SUCCESS);
     };
-    const auto meanwhile = [&host](const InputEvent& event) {
-        if (event.kind == EventKind::CloseRequest && event.control == frmField.name)
-            host.EndProcess(EXIT_SUCCESS);
+    const auto meanwhile = [&host, playGoesOn](const InputEvent& event) {
+        const bool closes = event.kind == EventKind::CloseRequest && event.control == frmField.name;
+        if (closes || (!playGoesOn && IsDeed(event))) host.EndProcess(EXIT_SUCCESS);
         if (IsDeed(event)) host.Hasten();
     };
-    companion.SetWatched("any key or click: to its end, and play on");
+    companion.SetWatched(playGoesOn ? "any key or click: to its end, and play on"
+                                    : "any key or click ends it");
     host.PlayBack(source, meanwhile);
 }
 

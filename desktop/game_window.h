@@ -29,9 +29,12 @@ int RunInWindow(char** arguments, const WindowRun& run);
 /// presses the first.
 Resumption AskToContinue(const std::string& text);
 
+/// What becomes of a run that is played back, at its end.
+enum class AfterWatching { PlayGoesOn, ProcessEnds };
+
 /// Plays a run back on the windows from now on, at a pace that can be followed. Keys and clicks bring it to
-/// its end at once; then the game is the person's. Both must outlive that.
-void ShowPlayedBack(Watching& watching, Companion& companion);
+/// its end at once. Both must outlive that.
+void ShowPlayedBack(Watching& watching, Companion& companion, AfterWatching after);
 
 /// Saves a window of the running game, named as "frmField", as it would be shown. False when it can't be
 /// written.

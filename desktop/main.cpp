@@ -1,4 +1,7 @@
-// The game: it takes no arguments and reads no settings.
+// The game. With "--watch FILE" it plays a recording back.
+#include <filesystem>
+#include <string_view>
+
 #include "data/campaign_files.h"
 #include "desktop/debriefing_window.h"
 #include "desktop/game_window.h"
@@ -11,9 +14,10 @@
 
 namespace {
 
-void Begin(Session& session) {
+void Begin(Session& session, const std::filesystem::path& recording) {
     const GameFolders folders = FoldersOf(OwnFolder());
     SetProgramFolder(folders.program, folders.players);
+    if (!recording.empty()) return session.WatchRecording(recording, folders.program);
     KeepStore();
     session.Begin(TimerSeed());
 }
@@ -27,10 +31,14 @@ void Debrief(const Companion& companion, const Session& session) {
 
 }  // namespace
 
-int main(int /*count*/, char** arguments) {
+int main(int count, char** arguments) {
+    const bool watches = count == 3 && arguments[1] == std::string_view("--watch");
+    const std::filesystem::path recording = watches ? std::filesystem::absolute(arguments[2]) : "";
     Companion companion;
-    Session session(AskToContinue, [&](Watching& watching) { ShowPlayedBack(watching, companion); });
-    return RunInWindow(arguments, {.begin = [&] { Begin(session); },
+    Session session(AskToContinue, [&](Watching& watching) {
+        ShowPlayedBack(watching, companion, watches ? AfterWatching::ProcessEnds : AfterWatching::PlayGoesOn);
+    });
+    return RunInWindow(arguments, {.begin = [&] { Begin(session, recording); },
                                    .dispatch = [&](const InputEvent& event) { session.Dispatch(event); },
                                    .atEnd = [&](int exitCode) { return session.AtEnd(exitCode); },
                                    .atMessage = [&] { session.NoteEnd(); },

@@ -11,6 +11,7 @@
 #include "platform/host.h"
 #include "shell/continuing.h"
 #include "shell/journal_files.h"
+#include "shell/watched_file.h"
 #include "state/state.h"
 #include "view/events.h"
 #include "view/start.h"
@@ -25,13 +26,10 @@ bool GoesToDisk(const InputEvent& event) {
     return event.kind != EventKind::MouseMove && event.kind != EventKind::Scroll;
 }
 
-// Why a game with that head would go another way now; empty when it wouldn't.
 std::string Difference(const JournalHead& was, const JournalHead& now) {
-    if (was.build != now.build) return "was played with another build of the program";
-    if (was.data != now.data) return "was played with other data";
-    if (was.store != now.store)
+    if (was.store != now.store && DifferenceOfGames(was, now).empty())
         return "began with another vehicle store: it had just ended, or another game has ended since";
-    return "";
+    return DifferenceOfGames(was, now);
 }
 
 int SoldiersAlive() {
@@ -59,6 +57,7 @@ void Session::Begin(std::uint32_t seed) {
     head = HeadOfGame(seed);
     events = 0;
     recording.clear();
+    storeAtStart = StoreText();
     TheHost().CountPumpsFrom(0);
     Main(seed);
 }
@@ -120,6 +119,17 @@ bool Session::AskAbout(bool orderDropped) {
     return true;
 }
 
+void Session::WatchRecording(const std::filesystem::path& from, const std::filesystem::path& program) {
+    Journal journal = RecordingToWatch(from);
+    borrowed = BorrowStore(journal, program);
+    givenUp = true;  // it keeps no journal
+    head = journal.head;
+    watching.emplace(std::move(journal.events));
+    TheHost().CountPumpsFrom(0);
+    show(*watching);
+    Main(head.seed);
+}
+
 // The journal has grown by what closed an open window.
 void Session::Watch() {
     watching.emplace(ReadJournal(ReadWholeFile(CurrentJournal), ShownName(CurrentJournal)).events);
@@ -143,7 +153,7 @@ void Session::Write(const InputEvent& event) {
 
 // A game that nothing was done in leaves no journal.
 bool Session::BeginJournal() {
-    return file.Create(CurrentJournal) && file.Append(HeadText(head), true);
+    return file.Create(CurrentJournal) && file.Append(HeadText(head) + storeAtStart, true);
 }
 
 void Session::WriteMark(const char* line) {
@@ -199,6 +209,7 @@ void Session::NoteEnd() {
 
 int Session::AtEnd(int exitCode) {
     NoteEnd();
+    ReturnStore(borrowed);
     if (exitCode != EXIT_SUCCESS) WriteMark(FailedLine);
     return exitCode;
 }

@@ -31,6 +31,11 @@ class Session {
     /// shows a message that says so. Throws RunTimeError.
     void Begin(std::uint32_t seed);
 
+    /// Plays a recording back instead, from the start values and the vehicle store that it had. `program` is
+    /// the folder of the game's data; nothing of the player's is changed. Throws RunTimeError for a file that
+    /// is no recording, or that of another build or data.
+    void WatchRecording(const std::filesystem::path& from, const std::filesystem::path& program);
+
     /// Writes the event down and gives it to the game.
     void Dispatch(const InputEvent& event);
 
@@ -62,11 +67,13 @@ class Session {
 
     const Question ask;
     const Projector show;
-    AppendFile file;   // open while the journal on the disk is this game's
-    JournalHead head;  // of this game
-    int events = 0;    // in the journal
+    AppendFile file;           // open while the journal on the disk is this game's
+    JournalHead head;          // of this game
+    std::string storeAtStart;  // as the journal has it
+    int events = 0;            // in the journal
     bool givenUp = false;
     std::optional<Watching> watching;  // the game as far as it had come, while it is watched
+    std::filesystem::path borrowed;    // folder of a watched recording's store
     std::string recording;             // the journal of a mission that is over
 };
 

@@ -20,7 +20,7 @@ class WatchingTest : public WindowGame {
         companion.emplace();
         session.emplace([resumption](const std::string&) { return resumption; },
                         [this](Watching& watching) {
-                            ShowPlayedBack(watching, *companion);
+                            ShowPlayedBack(watching, *companion, AfterWatching::PlayGoesOn);
                             watched = &watching;
                         });
         watched = nullptr;
