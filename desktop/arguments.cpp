@@ -9,12 +9,13 @@ namespace {
 constexpr int WrongArgument = 2;
 
 constexpr const char* Usage =
-    "Usage: sarnoth [--help | --version]\n"
+    "Usage: sarnoth [--help | --version | --watch FILE]\n"
     "\n"
     "Sarnoth III, turn-based squad combat. F1 in the game shows its keys.\n"
     "\n"
     "  --help     prints this\n"
     "  --version  prints the version\n"
+    "  --watch    plays back a recording that the debriefing has saved\n"
     "\n"
     "The vehicle's store, the settings and the journal of a mission that was broken off lie beside the "
     "program,\n"
@@ -29,13 +30,19 @@ int Print(const char* text) {
 
 }  // namespace
 
-std::optional<int> AnswerArguments(int count, const char* const* arguments) {
-    if (count < 2) return std::nullopt;
+Arguments ReadArguments(int count, const char* const* arguments) {
+    if (count < 2) return {};
     const std::string_view first = arguments[1];
-    if (count == 2 && first == "--help") return Print(Usage);
-    if (count == 2 && first == "--version") return Print("Sarnoth III " SARNOTH_VERSION "\n");
-    const bool firstIsKnown = first == "--help" || first == "--version";
-    std::fprintf(stderr, "Sarnoth III: unknown argument \"%s\"; see sarnoth --help\n",
-                 arguments[firstIsKnown ? 2 : 1]);
-    return WrongArgument;
+    if (count == 2 && first == "--help") return {Print(Usage), {}};
+    if (count == 2 && first == "--version") return {Print("Sarnoth III " SARNOTH_VERSION "\n"), {}};
+    if (count == 3 && first == "--watch") return {std::nullopt, std::filesystem::absolute(arguments[2])};
+    const bool firstIsKnown = first == "--help" || first == "--version" || first == "--watch";
+    if (firstIsKnown && count == 2)
+        std::fprintf(stderr, "Sarnoth III: \"%s\" needs a file; see sarnoth --help\n", arguments[1]);
+    else
+        std::fprintf(stderr, "Sarnoth III: unknown argument \"%s\"; see sarnoth --help\n",
+                     arguments[!firstIsKnown        ? 1
+                               : first == "--watch" ? 3
+                                                    : 2]);
+    return {WrongArgument, {}};
 }

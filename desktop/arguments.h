@@ -1,8 +1,13 @@
-// The game's command line: it takes "--help" and "--version" alone.
+// The game's command line.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 
-/// Answers main's arguments, without a display. The result is the exit code; nothing when the game shall
-/// start.
-std::optional<int> AnswerArguments(int count, const char* const* arguments);
+struct Arguments {
+    std::optional<int> exitCode;    // the process ends with it: what was asked for has been printed
+    std::filesystem::path watched;  // a recording to be played back; empty for none
+};
+
+/// Reads main's arguments, and answers those that need no display.
+Arguments ReadArguments(int count, const char* const* arguments);

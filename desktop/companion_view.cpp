@@ -43,9 +43,10 @@ void CompanionView::Sync() {
 }
 
 void CompanionView::Screen(const std::function<void(Moment end)>& handleUntil,
-                           const Screening::PlaySound& play) {
+                           const Screening::PlaySound& play, bool skips) {
     if (!companion.IsFilming() || !companion.BeginScreening(play)) return;
     Screening& screening = *companion.TheScreening();
+    if (skips) screening.Skip();
     auto& field = dynamic_cast<CanvasWidget&>(*window.WidgetOf(frmField.area));
     field.ShowInstead(&screening.Field());
     for (Moment now = Clock::now(); screening.Advance(now); now = Clock::now()) {

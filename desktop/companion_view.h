@@ -21,8 +21,10 @@ class CompanionView {
     void Sync();
 
     /// Shows the film of the computer's turn, if there is one worth it, and lets in the window system's
-    /// events meanwhile through `handleUntil`; returns when it has been seen or skipped.
-    void Screen(const std::function<void(Moment end)>& handleUntil, const Screening::PlaySound& play);
+    /// events meanwhile through `handleUntil`; returns when it has been seen or skipped, at once with
+    /// `skips`.
+    void Screen(const std::function<void(Moment end)>& handleUntil, const Screening::PlaySound& play,
+                bool skips);
 
     /// Waits until `end` without an event, and keeps moving meanwhile what moves.
     void SleepUntil(Moment end);

@@ -10,6 +10,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "desktop/squad_window.h"
+
 namespace {
 
 using std::chrono::steady_clock;
@@ -45,6 +47,7 @@ DesktopHost::DesktopHost(Form& mainForm, const std::vector<Form*>& otherForms, E
     : dispatch(std::move(dispatchRoutine)),
       mainWindow(mainForm, nullptr, [this](const InputEvent& event) { Receive(event); }),
       forms(otherForms) {
+    playBackPace.callOnTimeout([this] { LetInAtPace(); });
     quiet.setSingleShot(true);
     quiet.setInterval(QuietTime);
     QObject::connect(&quiet, &QTimer::timeout, &quiet, [this] { CloseQuietDevice(); });
@@ -68,17 +71,38 @@ void DesktopHost::Enter(const std::function<void()>& piece) {
     if (InnermostPump() == 0) TakeLate();
 }
 
-void DesktopHost::PlayBack(std::function<void(int pump)> source) {
+void DesktopHost::PlayBack(Source source, EventSink toWhom) {
     playBack = std::move(source);
-    playBackPace.callOnTimeout([this] {
-        if (InnermostPump() == 0) LetIn();
-    });
+    meanwhile = std::move(toWhom);
     playBackPace.start(PlayBackPause);
 }
 
+void DesktopHost::Hasten() {
+    hastens = true;
+    playBackPace.start(0);
+    if (companion != nullptr && companion->TheScreening() != nullptr) companion->TheScreening()->Skip();
+}
+
+void DesktopHost::StopPlayBack() {
+    playBack = nullptr;
+    meanwhile = nullptr;
+    hastens = false;
+    playBackPace.stop();
+}
+
+void DesktopHost::LetInAtPace() {
+    if (InnermostPump() != 0) return;
+    if (companion != nullptr && companion->TheScreening() != nullptr) return;
+    do
+        LetIn();
+    while (hastens && InnermostPump() == 0);
+}
+
+// The source may end the playing back.
 void DesktopHost::LetIn() {
     if (companion != nullptr && companion->TheScreening() != nullptr) return;
-    if (playBack) Enter([this] { playBack(InnermostPump()); });
+    const bool lasts = !hastens && (InnermostPump() == 0 || InnermostPump() == modalPump);
+    if (playBack) Enter([this, lasts, source = playBack] { source(InnermostPump(), lasts); });
     TakeLate();
 }
 
@@ -88,7 +112,11 @@ void DesktopHost::TakeLate() {
 }
 
 void DesktopHost::Receive(const InputEvent& event) {
-    if (playBack || failed) return;
+    if (failed) return;
+    if (playBack) {
+        if (meanwhile) meanwhile(event);
+        return;
+    }
     if (refreshing) return late.push_back(event);
     if (SkipsFilm(event) || slips.Swallows(event, Now()) || !MayEnter(event)) return;
     slips.Enters(event);
@@ -118,6 +146,8 @@ FormWindow& DesktopHost::WindowOf(Form& form) {
 void DesktopHost::Accompany(Companion& whoGoesAlong) {
     companion = &whoGoesAlong;
     companionView = std::make_unique<CompanionView>(mainWindow, whoGoesAlong);
+    squadWindow =
+        new SquadWindow(mainWindow, whoGoesAlong, [this](const InputEvent& event) { Receive(event); });
 }
 
 // While a film is shown, keys and presses only end it; neither does the second press of the double click that
@@ -137,22 +167,25 @@ bool DesktopHost::SkipsFilm(const InputEvent& event) {
 
 void DesktopHost::Screen() {
     if (companionView)
-        companionView->Screen(HandleEventsUntil, [this](const SoundRequest& sound) { Emit(sound); });
+        companionView->Screen(
+            HandleEventsUntil, [this](const SoundRequest& sound) { Emit(sound); }, hastens);
 }
 
 void DesktopHost::Sync() {
     slips.Note(Now());
-    if (IsFilming()) return;
+    if (IsFilming() || hastens) return;
     mainWindow.Sync();
     for (Form* form : forms)
         if (form->Visible) WindowOf(*form);
     for (FormWindow* window : otherWindows)
         window->Sync();
     if (companionView) companionView->Sync();
+    if (squadWindow != nullptr) squadWindow->Sync();
 }
 
 void DesktopHost::Refresh(Control& control) {
     slips.Note(Now());
+    if (hastens) return;
     if (IsFilming()) return companion->Shoot({});
     FormWindow& window = WindowOf(*control.form);
     window.Sync();
@@ -166,10 +199,12 @@ void DesktopHost::PumpEvents() {
     const Pumping pumping(*this);
     Sync();
     LetIn();
-    if (!IsFilming()) QCoreApplication::processEvents();
+    if (!IsFilming() && !hastens) QCoreApplication::processEvents();
 }
 
 void DesktopHost::Wait(std::chrono::nanoseconds time, bool pump) {
+    if (hastens && pump) PumpEvents();
+    if (hastens) return;
     if (IsFilming()) return WaitInFilm(time, pump);
     const auto end = steady_clock::now() + time;
     if (pump) {
@@ -200,22 +235,31 @@ void DesktopHost::ShowModal(Form& form) {
     }
     Sync();
     const Pumping pumping(*this);
+    const int outer = std::exchange(modalPump, InnermostPump());
     while (form.Visible) {
         LetIn();
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        // The timer of the pace may be what led here; it doesn't tick within its own tick.
+        if (playBack && !hastens)
+            HandleEventsUntil(steady_clock::now() + PlayBackPause);
+        else if (!hastens)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
+    modalPump = outer;
     Sync();
     if (outermost) window.setWindowModality(Qt::NonModal);
 }
 
 void DesktopHost::ShowMessage(const std::string& text) {
     if (atMessage) atMessage();
+    if (companion != nullptr && !missionVerdict.empty()) companion->Settle();
     Screen();
     Sync();
+    if (atVerdict && !playBack && !missionVerdict.empty()) atVerdict();
     ShowBox(QMessageBox::Information, text);
 }
 
 void DesktopHost::Emit(const SoundRequest& sound) {
+    if (hastens) return;
     if (IsFilming()) return companion->Keep(sound);
     soundDevice.Play(sound);
     quiet.start();

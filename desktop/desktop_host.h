@@ -15,6 +15,8 @@
 #include "platform/host.h"
 #include "shell/slips.h"
 
+class SquadWindow;
+
 class DesktopHost : public Host {
   public:
     /// `mainForm` is the window whose close button ends the program; `otherForms` are shown when they turn
@@ -29,13 +31,26 @@ class DesktopHost : public Host {
     /// The window of a form; made at its first use.
     FormWindow& WindowOf(Form& form);
 
-    /// Events come from `source` instead of the windows: it is asked at each pump, wait and modal window with
-    /// their number (see InnermostPump), and from time to time with 0 when none of them runs, and enters the
-    /// next event by itself.
-    void PlayBack(std::function<void(int pump)> source);
+    /// Enters the next events of a run by itself. It is asked at each pump and wait with their number (see
+    /// InnermostPump). When none of them runs, and while a modal window is open, it is asked from time to
+    /// time; `lasts` says so, as there is no hurry then.
+    using Source = std::function<void(int pump, bool lasts)>;
 
-    /// Shows on the main window what the companion draws; it must outlive the host.
+    /// Events come from `source` instead of the windows from now on. Keys and clicks of a person, and the
+    /// main window's close button, go to `meanwhile`, if there is one.
+    void PlayBack(Source source, EventSink meanwhile = nullptr);
+
+    /// What is left is played back without a wait, and unseen.
+    void Hasten();
+
+    /// Events come from the windows again.
+    void StopPlayBack();
+
+    /// Shows on the main window what the companion draws, and beside it the squad; it must outlive the host.
     void Accompany(Companion& whoGoesAlong);
+
+    /// nullptr where nobody goes along.
+    SquadWindow* Squad() { return squadWindow; }
 
     /// `last` runs when the process is about to end, whatever ends it, and gives its exit code.
     void AtEnd(std::function<int(int exitCode)> last) { atEnd = std::move(last); }
@@ -52,6 +67,9 @@ class DesktopHost : public Host {
 
     SoundDevice& Sounds() { return soundDevice; }
     const Slips& TheSlips() const { return slips; }
+    /// `first` runs before the message of the mission's verdict, when everything before has been seen; not
+    /// while events come from a source.
+    void AtVerdict(std::function<void()> first) { atVerdict = std::move(first); }
 
     void Refresh(Control& control) override;
     void PumpEvents() override;
@@ -68,6 +86,7 @@ class DesktopHost : public Host {
 
   private:
     void LetIn();
+    void LetInAtPace();
     void TakeLate();
     void Receive(const InputEvent& event);
     bool IsFilming() const { return companion != nullptr && companion->IsFilming(); }
@@ -84,6 +103,7 @@ class DesktopHost : public Host {
     std::vector<Form*> forms;               // all but the main one
     Companion* companion = nullptr;         // nobody goes along
     std::unique_ptr<CompanionView> companionView;
+    SquadWindow* squadWindow = nullptr;  // the main window owns it
     SoundDevice soundDevice;
     Slips slips;
     std::function<bool(const InputEvent&)> asker;  // empty: nothing is asked
@@ -92,11 +112,15 @@ class DesktopHost : public Host {
     Moment skipped;   // a film
     int entered = 0;  // pieces of the game that run within each other
     std::vector<InputEvent>
-        late;  // came from the windows while one was refreshed; they wait for the next pump
-    std::function<void(int pump)> playBack;  // empty: a person plays
+        late;              // came from the windows while one was refreshed; they wait for the next pump
+    Source playBack;       // empty: a person plays
+    EventSink meanwhile;   // takes what he does while it isn't
+    bool hastens = false;  // nothing is shown or takes time
+    int modalPump = 0;     // of the innermost modal window
     QTimer playBackPace;
     std::function<int(int exitCode)> atEnd;
     std::function<void()> atMessage;
+    std::function<void()> atVerdict;
     bool failed = false;  // the error is being shown: ticks and the close button reach the game no more
     QTimer quiet;         // runs out when no sound was asked for in a while
 };

@@ -20,7 +20,10 @@
 #include "desktop/desktop_host.h"
 #include "desktop/front_end.h"
 #include "platform/run_time_error.h"
+#include "shell/companion.h"
 #include "shell/settings.h"
+#include "shell/watching.h"
+#include "view/events.h"
 #include "view/field_form.h"
 #include "view/forms.h"
 
@@ -101,7 +104,7 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     QGuiApplication::setDesktopFileName(QLatin1String(DesktopEntry));
 
     DesktopHost host(frmField, OtherForms(), run.dispatch);
-    if (run.playBack) host.PlayBack(run.playBack);
+    if (run.playBack) host.PlayBack([&run](int pump, bool /*lasts*/) { run.playBack(pump); });
     if (run.companion != nullptr) host.Accompany(*run.companion);
     host.AtEnd(run.atEnd);
     host.AtMessage(run.atMessage);
@@ -109,6 +112,7 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     SettingsFile forgotten;
     FrontEnd frontEnd(host, host.WindowOf(frmField), ShownForms(),
                       run.settings != nullptr ? *run.settings : forgotten);
+    host.AtVerdict(run.atVerdict);
     // Within the event loop, so that the game can wait, and show boxes, from its first moment.
     QTimer begin;
     begin.setSingleShot(true);
@@ -120,15 +124,42 @@ int RunInWindow(char** arguments, const WindowRun& run) {
     return QApplication::exec();
 }
 
-bool AskToContinue(const std::string& text) {
+Resumption AskToContinue(const std::string& text) {
     QMessageBox box(QMessageBox::Question, QString::fromUtf8(GameName), QString::fromStdString(text));
     box.setTextFormat(Qt::PlainText);
     QPushButton* const goOn = box.addButton(QStringLiteral("&Continue"), QMessageBox::AcceptRole);
+    QPushButton* const watch = box.addButton(QStringLiteral("&Watch it"), QMessageBox::AcceptRole);
     QPushButton* const begin = box.addButton(QStringLiteral("&New game"), QMessageBox::DestructiveRole);
     box.setDefaultButton(goOn);
     box.setEscapeButton(goOn);
     box.exec();
-    return box.clickedButton() != begin;
+    if (box.clickedButton() == watch) return Resumption::Watched;
+    return box.clickedButton() == begin ? Resumption::NewGame : Resumption::Continued;
+}
+
+void ShowPlayedBack(Watching& watching, Companion& companion, AfterWatching after) {
+    auto& host = static_cast<DesktopHost&>(TheHost());
+    const bool playGoesOn = after == AfterWatching::PlayGoesOn;
+    const auto give = [&companion](const InputEvent& event) {
+        companion.Pass(event, [&event] { Dispatch(event); });
+    };
+    const auto source = [&, playGoesOn, give](int pump, bool lasts) {
+        watching.LetIn(pump, lasts, give);
+        if (!watching.Done() || (!playGoesOn && host.InnermostPump() != 0)) return;
+        companion.SetWatched("");
+        host.StopPlayBack();
+        if (playGoesOn) return;
+        host.ShowMessage("The recording ends here.");
+        host.EndProcess(EXIT_SUCCESS);
+    };
+    const auto meanwhile = [&host, playGoesOn](const InputEvent& event) {
+        const bool closes = event.kind == EventKind::CloseRequest && event.control == frmField.name;
+        if (closes || (!playGoesOn && IsDeed(event))) host.EndProcess(EXIT_SUCCESS);
+        if (IsDeed(event)) host.Hasten();
+    };
+    companion.SetWatched(playGoesOn ? "any key or click: to its end, and play on"
+                                    : "any key or click ends it");
+    host.PlayBack(source, meanwhile);
 }
 
 bool SaveWindow(const std::string& form, const std::filesystem::path& file) {

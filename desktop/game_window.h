@@ -6,9 +6,11 @@
 #include <string>
 
 #include "platform/input_event.h"
+#include "shell/session.h"
 
 class Companion;
 class SettingsFile;
+class Watching;
 
 struct WindowRun {
     std::function<void()> begin;                       // starts the game, its folder too unless that was set
@@ -16,6 +18,7 @@ struct WindowRun {
     std::function<void(int pump)> playBack = nullptr;  // see DesktopHost::PlayBack; empty for a person's play
     std::function<int(int exitCode)> atEnd = nullptr;  // see DesktopHost::AtEnd; may be empty
     std::function<void()> atMessage = nullptr;         // see DesktopHost::AtMessage; may be empty
+    std::function<void()> atVerdict = nullptr;         // see DesktopHost::AtVerdict; may be empty
     Companion* companion = nullptr;                    // goes along with the game; nullptr for none
     std::function<bool(const InputEvent&)> mayEnter = nullptr;  // see DesktopHost::AskBefore; may be empty
     SettingsFile* settings = nullptr;  // null: nothing is remembered, and no card is shown
@@ -25,9 +28,16 @@ struct WindowRun {
 /// window it says so on standard error and is 1.
 int RunInWindow(char** arguments, const WindowRun& run);
 
-/// Shows `text` in a box with the buttons "Continue" and "New game", of which closing the box presses the
-/// first. True for "Continue".
-bool AskToContinue(const std::string& text);
+/// Shows `text` in a box with the buttons "Continue", "Watch it" and "New game", of which closing the box
+/// presses the first.
+Resumption AskToContinue(const std::string& text);
+
+/// What becomes of a run that is played back, at its end.
+enum class AfterWatching { PlayGoesOn, ProcessEnds };
+
+/// Plays a run back on the windows from now on, at a pace that can be followed. Keys and clicks bring it to
+/// its end at once. Both must outlive that.
+void ShowPlayedBack(Watching& watching, Companion& companion, AfterWatching after);
 
 /// Saves a window of the running game, named as "frmField", as it would be shown. False when it can't be
 /// written.

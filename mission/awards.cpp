@@ -18,15 +18,6 @@ int RowOf(std::string_view code) {
     return row;
 }
 
-// The row that the unit gets when it is to be given `row`.
-int RowToGrant(const Unit& unit, int row) {
-    for (;;) {
-        if (unit.awards[row] <= 0 || awardTable[row].repeatable != 0 || awardTable[row].chained == 0)
-            return row;
-        if (++row == EmptyRow) return NoRow;
-    }
-}
-
 void ShowGranted(int row) {
     TheAudience().AwardShown(row);
     TheHost().ShowMessage("");
@@ -35,19 +26,30 @@ void ShowGranted(int row) {
 
 }  // namespace
 
+std::vector<std::string_view> AwardsOfMission(const Unit& unit) {
+    if (unit.status == Dead || unit.wasWounded != False) return {"PH", "GCM"};
+    return {"GCM"};
+}
+
 void AwardMissionEnd() {
     RunOperation([] {
-        for (curUnit = 0; curUnit <= teamLast[SquadTeam]; ++curUnit) {
-            const Unit& unit = UnitTable[curUnit];
-            if (unit.status == Dead || unit.wasWounded != False) AwardGive("PH");
-            AwardGive("GCM");
-        }
+        for (curUnit = 0; curUnit <= teamLast[SquadTeam]; ++curUnit)
+            for (const std::string_view code : AwardsOfMission(UnitTable[curUnit]))
+                AwardGive(code);
     });
+}
+
+int AwardRowFor(const Unit& unit, std::string_view code) {
+    for (int row = RowOf(code);;) {
+        if (unit.awards[row] <= 0 || awardTable[row].repeatable != 0 || awardTable[row].chained == 0)
+            return row;
+        if (++row == EmptyRow) return NoRow;
+    }
 }
 
 void AwardGive(std::string_view code) {
     Unit& unit = UnitTable[curUnit];
-    const int row = RowToGrant(unit, RowOf(code));
+    const int row = AwardRowFor(unit, code);
     if (row == NoRow) return;
     ++unit.awards[row];
     AddToLog(unit.name + " awarded the " + AwardOrdinal(row) + awardTable[row].title, 0);
@@ -59,10 +61,13 @@ void AwardGive(std::string_view code) {
         RunOperation([row] { ShowGranted(row); });
 }
 
-// ODDITY: every number from the fourth on ends alike, so the 21st is the "21th".
 std::string AwardOrdinal(int row) {
+    return AwardOrdinalOf(UnitTable[curUnit].awards[row]);
+}
+
+// ODDITY: every number from the fourth on ends alike, so the 21st is the "21th".
+std::string AwardOrdinalOf(int count) {
     constexpr int LastTold = 100;
-    const int count = UnitTable[curUnit].awards[row];
     if (count < 2 || count > LastTold) return "";
     if (count == 2) return "2nd ";
     return std::to_string(count) + (count == 3 ? "rd " : "th ");

@@ -29,6 +29,11 @@ constexpr std::array<KindName, 11> KindNames = {{
 
 }  // namespace
 
+bool IsDeed(const InputEvent& event) {
+    return event.kind == EventKind::KeyDown || event.kind == EventKind::MouseDown ||
+           event.kind == EventKind::Click || event.kind == EventKind::Choose;
+}
+
 std::string EventText(const InputEvent& event) {
     std::ostringstream text;
     for (const KindName& entry : KindNames)

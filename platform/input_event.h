@@ -30,6 +30,9 @@ struct InputEvent {
     bool operator==(const InputEvent&) const = default;
 };
 
+/// Whether a person does something by the event, and isn't merely looking.
+bool IsDeed(const InputEvent& event);
+
 /// One line of text, as "MouseDown frmField.area -1 1 0 150.5 90".
 std::string EventText(const InputEvent& event);
 

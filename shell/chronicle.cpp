@@ -1,56 +1,44 @@
 #include "shell/chronicle.h"
 
-#include "data/weapons_file.h"
+#include <utility>
+
+#include "combat/families.h"
+#include "data/mode_words.h"
+#include "shell/wording.h"
 
 namespace {
-
-bool IsOurs(int unit) {
-    return TeamOfUnit(unit) == SquadTeam;
-}
-
-// A charge is a unit without a name.
-std::string NameOf(int unit) {
-    return unit >= 0 && unit < ChargeBase ? UnitTable[unit].name : "A charge";
-}
-
-std::string InCell(const Happening& happening) {
-    return ", [" + std::to_string(happening.x / CellSize) + "," + std::to_string(happening.y / CellSize) +
-           "]";
-}
 
 bool AreEnemies(int one, int other) {
     return one >= 0 && one < ChargeBase && TeamOfUnit(one) != TeamOfUnit(other);
 }
 
-}  // namespace
-
-std::string MeansOf(const std::string& weapon) {
-    if (weapon.empty()) return "a charge";
-    const WeaponInfo& row = WeaponInfoByName(weapon);
-    const bool fires = (row.kind == "m" || row.kind == "w") && row.range > 1;
-    return row.title + (fires ? " fire" : "");
+template <typename Table>
+auto& EntryOf(Table& table, int unit) {
+    return table.at(static_cast<std::size_t>(unit));
 }
 
+Spot CellOf(const Happening& happening) {
+    return {happening.x / CellSize, happening.y / CellSize};
+}
+
+}  // namespace
+
 void Chronicle::Clear() {
-    entries.clear();
-    tallies.fill({});
+    const std::size_t before = revision;
+    *this = Chronicle();
+    revision = before + 1;
 }
 
 void Chronicle::Note(const Happening& happening) {
     switch (happening.kind) {
         case HappeningKind::TurnBegins:
-            return Add(
-                EntryKind::Turn,
-                happening.unit == SquadTeam ? "Turn " + std::to_string(squadTurns) : "The enemy's turn",
-                happening);
+            return NoteTurn(happening);
         case HappeningKind::Sighting:
-            return Add(EntryKind::Sighting,
-                       NameOf(happening.by) + " sights " + NameOf(happening.unit) + InCell(happening),
-                       happening);
+            return NoteSighting(happening);
         case HappeningKind::Shot:
-            ++tallies.at(static_cast<std::size_t>(happening.unit)).shots;
-            return;
+            return CountShot(happening);
         case HappeningKind::Hit:
+            CountHit(happening);
             return NoteHit(happening);
         case HappeningKind::Death:
             return NoteDeath(happening);
@@ -60,41 +48,82 @@ void Chronicle::Note(const Happening& happening) {
 }
 
 void Chronicle::NoteRefusal(const std::string& reason) {
-    Add(EntryKind::Refusal, reason, {});
+    const bool again =
+        !entries.empty() && entries.back().kind == EntryKind::Refusal && entries.back().text == reason;
+    if (!again) Add(EntryKind::Refusal, reason, {});
 }
 
-void Chronicle::NoteHit(const Happening& hit) {
-    if (hit.amount > 0) {
-        Tally& hurt = tallies.at(static_cast<std::size_t>(hit.unit));
-        ++hurt.wounds;
-        if (AreEnemies(hit.by, hit.unit)) {
-            Tally& by = tallies.at(static_cast<std::size_t>(hit.by));
-            ++by.hits;
-            by.damage += hit.amount;
-        }
+// The rules count the turn only after it has begun.
+void Chronicle::NoteTurn(const Happening& happening) {
+    if (happening.unit != SquadTeam) return Add(EntryKind::Turn, "Enemy's turn", happening);
+    if (++turn == 1) storeAtStart = CountStore();
+    Add(EntryKind::Turn, "Turn " + std::to_string(turn), happening);
+}
+
+// Whoever is selected sights everybody once more; an enemy where he was seen last, a turn ago at most, is no
+// news.
+void Chronicle::NoteSighting(const Happening& sighting) {
+    const Sighted now = {CellOf(sighting), turn};
+    const Sighted before = std::exchange(EntryOf(sighted, sighting.unit), now);
+    if (before.cell == now.cell && before.turn > 0 && turn - before.turn <= 1) return;
+    Add(EntryKind::Sighting, SightingText(sighting), sighting);
+}
+
+void Chronicle::CountShot(const Happening& shot) {
+    Round& round = EntryOf(rounds, shot.unit);
+    const int pellets = FamilyNamed(FamilyOf(shot.text, shot.mode)).pellets;
+    if (round.pellets == 0) {
+        ++EntryOf(tallies, shot.unit).shots;
+        round.hit = -1;
     }
-    if (!hit.seen) return;
-    const std::string whom = NameOf(hit.unit) + " hit by " + MeansOf(hit.text);
-    const std::string by = IsOurs(hit.by) ? " of " + NameOf(hit.by) : "";
-    Add(EntryKind::Hit, whom + by + ", " + std::to_string(-hit.amount) + " health" + InCell(hit), hit);
+    round.pellets = (round.pellets + 1) % pellets;
 }
 
+void Chronicle::CountHit(const Happening& hit) {
+    if (hit.amount <= 0) return;
+    ++EntryOf(tallies, hit.unit).wounds;
+    if (!AreEnemies(hit.by, hit.unit)) return;
+    Tally& by = EntryOf(tallies, hit.by);
+    by.damage += hit.amount;
+    const bool sameRound = std::exchange(EntryOf(rounds, hit.by).hit, hit.unit) == hit.unit;
+    if (!sameRound || hit.mode == HitMode) ++by.hits;
+}
+
+// The bullets of a burst that hit the same man are one entry.
+void Chronicle::NoteHit(const Happening& hit) {
+    if (!hit.seen) return;
+    const bool goesOn = IsOfLastHits(hit);
+    if (!goesOn) hits = {};
+    hits.last = hit;
+    ++hits.times;
+    hits.amount += hit.amount;
+    const std::string text = HitText(hit, hits.times, hits.amount);
+    if (!goesOn) return Add(EntryKind::Hit, text, hit);
+    entries.back().text = text;
+    ++revision;
+}
+
+// Who dies of what hit him is said to have been killed.
 void Chronicle::NoteDeath(const Happening& death) {
-    if (AreEnemies(death.by, death.unit)) ++tallies.at(static_cast<std::size_t>(death.by)).kills;
+    if (AreEnemies(death.by, death.unit)) ++EntryOf(tallies, death.by).kills;
     if (!death.seen) return;
-    const bool ofWounds = death.by < 0;
-    Add(EntryKind::Death,
-        NameOf(death.unit) + (ofWounds ? " died of wounds" : " killed by " + MeansOf(death.text)) +
-            InCell(death),
-        death);
+    if (IsOfLastHits(death)) entries.pop_back();
+    Add(EntryKind::Death, DeathText(death), death);
+}
+
+bool Chronicle::IsOfLastHits(const Happening& act) const {
+    const Happening& last = hits.last;
+    return !entries.empty() && entries.back().kind == EntryKind::Hit && last.unit == act.unit &&
+           last.by == act.by && last.text == act.text && last.mode == act.mode;
 }
 
 void Chronicle::Add(EntryKind kind, const std::string& text, const Happening& happening) {
+    ++revision;
     entries.push_back({.kind = kind,
-                       .turn = squadTurns,
+                       .turn = turn,
                        .team = curTeam,
                        .text = text,
-                       .cell = {happening.x / CellSize, happening.y / CellSize},
+                       .cell = CellOf(happening),
                        .ours = happening.kind != HappeningKind::TurnBegins && happening.unit >= 0 &&
-                               IsOurs(happening.unit)});
+                               TeamOfUnit(happening.unit) == SquadTeam});
 }

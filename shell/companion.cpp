@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "shell/watching.h"
 #include "view/field_form.h"
 
 namespace {
@@ -43,11 +44,6 @@ ViewPlace ViewNow() {
 }
 
 }  // namespace
-
-bool IsDeed(const InputEvent& event) {
-    return event.kind == EventKind::KeyDown || event.kind == EventKind::MouseDown ||
-           event.kind == EventKind::Click || event.kind == EventKind::Choose;
-}
 
 Companion::Companion(Clock whichClock)
     : clock(whichClock), onlooker([this](const Happening& happening) { Witness(happening); }) {}
@@ -143,6 +139,11 @@ void Companion::Look() {
 }
 
 void Companion::DrawBanner() {
+    if (!watched.empty()) {
+        DrawPlate(ViewHeight - 50, 300, 42, 1, onView);
+        DrawWords(ViewHeight - 37, 15, Lettering, "Watching, turn " + std::to_string(squadTurns), onView);
+        DrawWords(ViewHeight - 20, 11, Quiet, watched, onView);
+    }
     if (screening) {
         DrawPlate(8, 220, 40, 1, onView);
         DrawWords(21, 16, EnemysLettering, "Enemy's turn", onView);

@@ -18,9 +18,6 @@
 #include "shell/screening.h"
 #include "shell/sketch.h"
 
-/// Whether a person does something by the event, and isn't merely looking.
-bool IsDeed(const InputEvent& event);
-
 class Companion {
   public:
     /// The clock of what is shown for a while.
@@ -44,6 +41,11 @@ class Companion {
     /// Stands over the main window, where its Left and Top say.
     Form& Readout() { return guide.Readout(); }
     const Guide& TheGuide() const { return guide; }
+    /// A game is played back: a banner says so, with what a key or click does. An empty text: no more.
+    void SetWatched(const std::string& whatKeysDo) { watched = whatKeysDo; }
+
+    /// The mission has ended, maybe in the middle of a shot.
+    void Settle() { onlooker.Settle(); }
 
     const Chronicle& TheChronicle() const { return chronicle; }
 
@@ -78,6 +80,7 @@ class Companion {
     ViewPlace filmedFrom;             // what was in view when the film began
     std::size_t enemysFirst = 0;      // entry of the chronicle since the computer's turn began
     std::vector<std::string> report;  // of that turn, until the next order
+    std::string watched;              // what a key does while a game is played back; empty: none is
     Moment turnBegan;                 // of the squad
     Sketch onField;
     Sketch onView;

@@ -26,6 +26,7 @@ struct Happening {
     int toY = 0;
     bool seen = true;       // by the squad, or to one of its own
     std::string text = {};  // of a line; of a shot, hit or death the weapon's key
+    std::string mode = {};  // in which that weapon was used, as "Full auto"
 };
 
 /// Whether it is something that is done to somebody or something: a shot, a hit, a death, a blast.

@@ -56,6 +56,31 @@ std::uint32_t SeedFrom(const std::string& text) {
     return seed;
 }
 
+constexpr std::string_view StoreWord = "things";
+constexpr std::string_view HexDigits = "0123456789abcdef";
+
+std::string HexOf(std::string_view bytes) {
+    std::string hex;
+    for (const char byte : bytes) {
+        const auto value = static_cast<unsigned char>(byte);
+        hex += HexDigits[value >> 4];
+        hex += HexDigits[value & 15U];
+    }
+    return hex;
+}
+
+std::string BytesFrom(std::string_view hex) {
+    std::string bytes;
+    for (std::size_t i = 0; i + 1 < hex.size(); i += 2) {
+        const std::size_t high = HexDigits.find(hex[i]);
+        const std::size_t low = HexDigits.find(hex[i + 1]);
+        if (high == std::string_view::npos || low == std::string_view::npos)
+            throw RunTimeError(Fault::BadData, "expected bytes as pairs of hexadecimal digits");
+        bytes += static_cast<char>(high << 4 | low);
+    }
+    return bytes;
+}
+
 class JournalReader {
   public:
     JournalReader(std::string_view of, std::string called) : text(of), name(std::move(called)) {}
@@ -106,6 +131,8 @@ class JournalReader {
             tries = 0;
         } else if (line + "\n" == FailedLine) {
             tries = MostTries;
+        } else if (line.starts_with(StoreWord)) {
+            journal.store = BytesFrom(After(std::string(StoreWord), line));
         } else {
             journal.events.push_back(RecordedEventFromText(line));
             journal.places.push_back(journal.length);
@@ -133,6 +160,20 @@ JournalHead HeadOfGame(std::uint32_t seed) {
 std::string HeadText(const JournalHead& head) {
     return std::string(FirstLine) + "\nbuild " + head.build + "\ndata " + head.data + "\nstore " +
            head.store + "\nseed " + std::to_string(head.seed) + "\n";
+}
+
+std::string StoreText() {
+    try {
+        return std::string(StoreWord) + " " + HexOf(ReadWholeFile(StoreFile, MaxDataFile)) + "\n";
+    } catch (const RunTimeError&) {
+        return "";
+    }
+}
+
+std::string DifferenceOfGames(const JournalHead& was, const JournalHead& now) {
+    if (was.build != now.build) return "was played with another build of the program";
+    if (was.data != now.data) return "was played with other data";
+    return "";
 }
 
 Journal ReadJournal(std::string_view text, const std::string& name) {

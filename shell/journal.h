@@ -23,6 +23,7 @@ struct JournalHead {
 struct Journal {
     JournalHead head;
     std::vector<RecordedEvent> events;
+    std::string store;                // the vehicle store's file at the game's start; empty for one without
     std::vector<std::size_t> places;  // the byte at which each event's line begins
     std::size_t length = 0;           // bytes; what follows was cut off in its middle
     bool isStuck = false;             // it ended in an error, or twice didn't come to the end of a replay
@@ -39,6 +40,12 @@ JournalHead HeadOfGame(std::uint32_t seed);
 
 /// The lines before the first event.
 std::string HeadText(const JournalHead& head);
+
+/// The vehicle store's file as it is now, as the line of a journal; empty where it can't be read.
+std::string StoreText();
+
+/// Why a game with that head would go another way now, but for its store; empty when it wouldn't.
+std::string DifferenceOfGames(const JournalHead& was, const JournalHead& now);
 
 /// Reads a journal that may have been cut anywhere: its last line counts when it is whole, and one without a
 /// whole head has no events. `name` is what messages call it. Throws RunTimeError (BadData).

@@ -74,7 +74,9 @@ void Onlooker::UnitHurt(int by, int damage) {
     hit.amount = damage;
     hit.seen = IsSeen(curUnit);
     hit.text = UnitTable[by].hand.name;
-    wounds.at(static_cast<std::size_t>(int{curUnit})) = {by, hit.text};
+    hit.mode = fireModes.Text();
+    if (UnitTable[curUnit].health == 0)
+        wounds.at(static_cast<std::size_t>(int{curUnit})) = {by, hit.text, hit.mode};
     Report(hit);
 }
 
@@ -110,15 +112,25 @@ void Onlooker::TrailChanged(std::string_view mode) {
                           .y = muzzleY,
                           .toX = muzzleX,
                           .toY = muzzleY,
-                          .text = UnitTable[curUnit].hand.name});
+                          .text = UnitTable[curUnit].hand.name,
+                          .mode = fireModes.Text()});
     } else if (mode == "finalize" && !flying.empty()) {
-        Happening shot = flying.back();
-        flying.pop_back();
-        shot.seen = IsSeen(shot.unit) || EndsNearOurs(shot);
-        witness(shot);
-        for (const Happening& happening : std::exchange(meanwhile, {}))
-            Report(happening);
+        Land();
     }
+}
+
+void Onlooker::Land() {
+    Happening shot = flying.back();
+    flying.pop_back();
+    shot.seen = IsSeen(shot.unit) || EndsNearOurs(shot);
+    witness(shot);
+    for (const Happening& happening : std::exchange(meanwhile, {}))
+        Report(happening);
+}
+
+void Onlooker::Settle() {
+    while (!flying.empty())
+        Land();
 }
 
 void Onlooker::TrailDrawn(int pixelX, int pixelY) {
@@ -145,6 +157,7 @@ void Onlooker::NoteDeaths() {
         Happening death = At(HappeningKind::Death, unit);
         death.by = wounds[place].by;
         death.text = wounds[place].weapon;
+        death.mode = wounds[place].mode;
         death.seen = IsSeen(unit);
         Report(death);
     }

@@ -19,6 +19,9 @@ class Onlooker : public FieldAudience {
     explicit Onlooker(Witness whoListens);
     ~Onlooker() override;
 
+    /// Reports the shots that are in the air and what they did: a mission may end in the middle of one.
+    void Settle();
+
     void MissionBegins() override;
     void MissionReady() override;
     void TurnBegins() override;
@@ -35,14 +38,16 @@ class Onlooker : public FieldAudience {
     struct Wound {
         int by = -1;
         std::string weapon;
+        std::string mode;
     };
 
     void Report(const Happening& happening);
+    void Land();
     void NoteDeaths();
 
     Witness witness;
     std::array<int, 2 * TeamStride> statuses = {};
-    std::array<Wound, 2 * TeamStride> wounds = {};  // the last of each unit
+    std::array<Wound, 2 * TeamStride> wounds = {};  // those that killed
     std::vector<Happening> flying;                  // shots that are on their way, the newest last
     std::vector<Happening> meanwhile;               // what they do: it is reported when they have been
 };

@@ -4,12 +4,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <utility>
 
 #include "platform/files.h"
 #include "platform/host.h"
 #include "shell/continuing.h"
 #include "shell/journal_files.h"
+#include "shell/watched_file.h"
 #include "state/state.h"
 #include "view/events.h"
 #include "view/start.h"
@@ -24,13 +26,10 @@ bool GoesToDisk(const InputEvent& event) {
     return event.kind != EventKind::MouseMove && event.kind != EventKind::Scroll;
 }
 
-// Why a game with that head would go another way now; empty when it wouldn't.
 std::string Difference(const JournalHead& was, const JournalHead& now) {
-    if (was.build != now.build) return "was played with another build of the program";
-    if (was.data != now.data) return "was played with other data";
-    if (was.store != now.store)
+    if (was.store != now.store && DifferenceOfGames(was, now).empty())
         return "began with another vehicle store: it had just ended, or another game has ended since";
-    return "";
+    return DifferenceOfGames(was, now);
 }
 
 int SoldiersAlive() {
@@ -57,6 +56,8 @@ void Session::Begin(std::uint32_t seed) {
     file.Close();
     head = HeadOfGame(seed);
     events = 0;
+    recording.clear();
+    storeAtStart = StoreText();
     TheHost().CountPumpsFrom(0);
     Main(seed);
 }
@@ -109,9 +110,32 @@ bool Session::AskAbout(bool orderDropped) {
                        std::to_string(SoldiersAlive()) + " of " + std::to_string(teamLast[SquadTeam] + 1) +
                        " soldiers alive.";
     if (orderDropped) text += " Its last order ended in an error and is left out.";
-    if (wantsToContinue(text)) return true;
-    Shelve();
-    return false;
+    const Resumption resumption = ask(text);
+    if (resumption == Resumption::NewGame) {
+        Shelve();
+        return false;
+    }
+    if (resumption == Resumption::Watched) Watch();
+    return true;
+}
+
+void Session::WatchRecording(const std::filesystem::path& from, const std::filesystem::path& program) {
+    Journal journal = RecordingToWatch(from);
+    borrowed = BorrowStore(journal, program);
+    givenUp = true;  // it keeps no journal
+    head = journal.head;
+    watching.emplace(std::move(journal.events));
+    TheHost().CountPumpsFrom(0);
+    show(*watching);
+    Main(head.seed);
+}
+
+// The journal has grown by what closed an open window.
+void Session::Watch() {
+    watching.emplace(ReadJournal(ReadWholeFile(CurrentJournal), ShownName(CurrentJournal)).events);
+    TheHost().CountPumpsFrom(0);
+    show(*watching);
+    Main(head.seed);
 }
 
 void Session::Dispatch(const InputEvent& event) {
@@ -129,7 +153,7 @@ void Session::Write(const InputEvent& event) {
 
 // A game that nothing was done in leaves no journal.
 bool Session::BeginJournal() {
-    return file.Create(CurrentJournal) && file.Append(HeadText(head), true);
+    return file.Create(CurrentJournal) && file.Append(HeadText(head) + storeAtStart, true);
 }
 
 void Session::WriteMark(const char* line) {
@@ -137,8 +161,29 @@ void Session::WriteMark(const char* line) {
 }
 
 void Session::Shelve() {
-    if (file.IsOpen() && !ShelveFinished()) PrintTrouble(std::strerror(errno));
+    if (file.IsOpen()) {
+        if (!missionVerdict.empty()) KeepRecording();
+        if (!ShelveFinished()) PrintTrouble(std::strerror(errno));
+    }
     file.Close();
+}
+
+// One that can't be read can't be saved; the mission has ended all the same.
+void Session::KeepRecording() {
+    try {
+        recording = ReadWholeFile(CurrentJournal);
+    } catch (const RunTimeError& error) {
+        PrintTrouble(error.About());
+    }
+}
+
+std::string Session::SaveRecording(const std::filesystem::path& to) const {
+    errno = 0;
+    std::ofstream copy(to, std::ios::binary | std::ios::trunc);
+    copy << recording;
+    copy.close();
+    if (copy) return "";
+    return errno != 0 ? std::strerror(errno) : "it isn't a file that can be written";
 }
 
 void Session::KeepAside(const std::string& reason) {
@@ -169,6 +214,7 @@ Keeping Session::Keeps() const {
 
 int Session::AtEnd(int exitCode) {
     NoteEnd();
+    ReturnStore(borrowed);
     if (exitCode != EXIT_SUCCESS) WriteMark(FailedLine);
     return exitCode;
 }

@@ -6,7 +6,10 @@
 
 #include "desktop/game_window.h"
 #include "platform/keys.h"
+#include "shell/session.h"
 #include "test_form.h"
+#include "view/start.h"
+#include "window_game.h"
 
 namespace {
 
@@ -37,6 +40,17 @@ class EventCounter : public QObject {
 
   private:
     const std::set<QEvent::Type> kinds;
+};
+
+// The box is answered as soon as it stands.
+class VerdictHost : public DesktopHost {
+  public:
+    using DesktopHost::DesktopHost;
+    void ShowMessage(const std::string& text) override {
+        QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+        DesktopHost::ShowMessage(text);
+    }
+    [[noreturn]] void EndProcess(int exitCode) override { throw ProcessEnded{exitCode}; }
 };
 
 void PressLater(QWidget& widget) {
@@ -186,17 +200,53 @@ TEST_F(DesktopTest, AModalFormMayBeClosedUnderAMessageOfPlainText) {
     host.ShowModal(dialog);
 }
 
-TEST(QuestionTest, OnlyNewGameBeginsOne) {
-    for (const char* pressed : {"&Continue", "&New game", ""}) {
-        QTimer::singleShot(20, [pressed] {
+// The store has been saved and the journal put on the shelf before: a kill while it stands loses nothing.
+TEST(VerdictTest, TheDebriefingComesBeforeTheLastBoxAndAfterTheGameIsKept) {
+    const ProgramFolder folder;
+    SetProgramFolder(folder.Path());
+    Session session([](const std::string&) { return Resumption::Continued; });
+    VerdictHost host(frmField, OtherForms(), [&](const InputEvent& event) { session.Dispatch(event); });
+    host.AtMessage([&session] { session.NoteEnd(); });
+    const std::string store = folder.Read("dat/apc.dat");
+    std::string seen;
+    host.AtVerdict([&] {
+        EXPECT_NE(folder.Read("dat/apc.dat"), store);
+        EXPECT_TRUE(session.HasRecording());
+        EXPECT_EQ(session.SaveRecording(folder.Path() / "saved.txt"), "");
+        EXPECT_EQ(folder.Read("saved.txt"), folder.Read("journal/finished-1.txt"));
+        EXPECT_EQ(session.SaveRecording(folder.Path() / "none/saved.txt"), "No such file or directory");
+        EXPECT_NE(session.SaveRecording("/dev/full"), "");
+        seen = missionVerdict;
+    });
+    session.Begin(1);
+    EXPECT_THROW(session.Dispatch({EventKind::Click, "frmField.mnuExit"}), ProcessEnded);
+    EXPECT_EQ(seen, "Withdrawal");
+    seen.clear();
+    host.PlayBack([](int, bool) {});
+    Main(1);
+    EXPECT_THROW(Dispatch({EventKind::Click, "frmField.mnuExit"}), ProcessEnded);
+    EXPECT_EQ(seen, "") << "a recording is played back";
+    ResetState();
+    ResetForms();
+}
+
+TEST(QuestionTest, ClosingTheBoxContinues) {
+    struct Case {
+        const char* pressed;
+        Resumption resumption;
+    };
+    for (const auto& [pressed, resumption] :
+         {Case{"&Continue", Resumption::Continued}, Case{"&Watch it", Resumption::Watched},
+          Case{"&New game", Resumption::NewGame}, Case{"", Resumption::Continued}}) {
+        QTimer::singleShot(20, [&wanted = pressed] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
             EXPECT_EQ(box->text(), "turn 3");
             for (QAbstractButton* button : box->buttons())
-                if (button->text() == QLatin1String(pressed)) return button->click();
+                if (button->text() == QLatin1String(wanted)) return button->click();
             box->close();
         });
-        EXPECT_EQ(AskToContinue("turn 3"), std::string(pressed) != "&New game") << pressed;
+        EXPECT_EQ(AskToContinue("turn 3"), resumption) << pressed;
     }
 }
 

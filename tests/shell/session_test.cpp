@@ -32,6 +32,7 @@ class PlayingHost : public HeadlessHost {
 
     void PumpEvents() override {
         const Pumping pumping(*this);
+        if (watching != nullptr) return watching->LetIn(InnermostPump(), false, ::Dispatch);
         while (MayGive() && player.Draw(8) == 0)
             Give(player.Meanwhile());
     }
@@ -54,7 +55,13 @@ class PlayingHost : public HeadlessHost {
             Give(player.Draw(4) == 0 && !frmInfo.Visible ? player.Lasting() : player.Next());
     }
 
+    void Watch() {
+        while (!watching->Done())
+            watching->LetIn(0, true, ::Dispatch);
+    }
+
     Session* session = nullptr;
+    Watching* watching = nullptr;  // what is played back instead
     RandomPlayer player;
     int left = 0;
     bool isMortal = false;
@@ -83,7 +90,7 @@ class SessionTest : public testing::Test {
         session.reset();
         session.emplace([this, continues](const std::string& text) {
             asked = text;
-            return continues;
+            return continues ? Resumption::Continued : Resumption::NewGame;
         });
         host->session = &*session;
         host->messages.clear();
@@ -298,6 +305,37 @@ TEST_F(SessionTest, AnOrderThatEndedInAnErrorIsLeftOut) {
     EXPECT_TRUE(game == state);
 }
 
+// A saved recording begins with its own store and leaves the player's as it is.
+TEST_F(SessionTest, ARecordingIsWatchedWithTheStoreThatItBeganWith) {
+    const std::string stock = folder.Read("dat/apc.dat");
+    Start(1);
+    Click("frmField.cmdNextTurn");
+    storeItems[3] = InvItem();
+    Exit();
+    ASSERT_EQ(session->SaveRecording(folder.Path() / "saved.txt"), "");
+    const std::string store = folder.Read("dat/apc.dat");
+    ASSERT_NE(store, stock);
+
+    Session other(nullptr, [this](Watching& watching) { host->watching = &watching; });
+    host->session = &other;
+    other.WatchRecording(folder.Path() / "saved.txt", folder.Path());
+    EXPECT_EQ(storeItems[3].name, "m24") << "as the recording began";
+    EXPECT_THROW(host->Watch(), ProcessEnded);
+    EXPECT_EQ(missionVerdict, "Withdrawal");
+    EXPECT_EQ(squadTurns, 2);
+    EXPECT_EQ(other.AtEnd(EXIT_SUCCESS), EXIT_SUCCESS);
+    SetProgramFolder(folder.Path());
+    EXPECT_EQ(folder.Read("dat/apc.dat"), store);
+    EXPECT_FALSE(Lies("watched"));
+    EXPECT_FALSE(Lies("current.txt"));
+
+    std::string text = folder.Read("saved.txt");
+    text[text.find("build ") + 6] = 'x';
+    folder.Write("saved.txt", text);
+    const auto watch = [&] { other.WatchRecording(folder.Path() / "saved.txt", folder.Path()); };
+    EXPECT_NE(ErrorOf(watch).find("can't be watched: it was played with another build"), std::string::npos);
+}
+
 // Whatever stands in the way: one line on standard error, and the game goes on.
 TEST_F(SessionTest, PlayGoesOnWithoutAJournal) {
     std::signal(SIGXFSZ, SIG_IGN);
@@ -327,16 +365,17 @@ TEST_F(SessionTest, PlayGoesOnWithoutAJournal) {
     EXPECT_EQ(playAndRead(), name + "Not a directory" + without);
     folder.Remove("journal");
 
+    const std::size_t full = 170 + StoreText().size();
     Start(1);
-    allow(170);  // the disk is full in the middle of the second event
+    allow(full);  // the disk is full in the middle of the second event
     EXPECT_EQ(playAndRead(), name + "File too large" + without);
     allow(usual.rlim_cur);
-    EXPECT_EQ(Current().size(), 170U);
+    EXPECT_EQ(Current().size(), full);
     Start(2);
     EXPECT_NE(asked, "");
     EXPECT_TRUE(fireInMotion) << "as after the first event";
 
-    Session second([](const std::string& /*text*/) { return true; });
+    Session second([](const std::string& /*text*/) { return Resumption::Continued; });
     second.Begin(3);
     host->session = &second;
     const std::string first = Current();
