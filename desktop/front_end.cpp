@@ -8,6 +8,7 @@
 #include <QMenuBar>
 
 #include "desktop/desktop_host.h"
+#include "desktop/squad_window.h"
 #include "shell/help_pages.h"
 
 namespace {
@@ -44,6 +45,7 @@ FrontEnd::FrontEnd(DesktopHost& onHost, FormWindow& ofMain, const std::vector<co
     noteEnd.callOnTimeout(&note, &QWidget::hide);
     if (auto* const bar = window.findChild<QMenuBar*>()) FillMenu(*bar->addMenu(tr("&Help")));
     host.Sounds().SetLoudness(settings.Now().Loudness());
+    KeepSquadWindow();
 }
 
 void FrontEnd::FillMenu(QMenu& menu) {
@@ -59,7 +61,10 @@ void FrontEnd::FillMenu(QMenu& menu) {
     AddEntry(menu, "Lo&uder", FrontCommand::Louder);
     AddEntry(menu, "Sof&ter", FrontCommand::Softer);
     menu.addSeparator();
-    AddTick(menu);
+    if (SquadWindow* const squad = host.Squad())
+        connect(AddTick(menu, tr("S&quad and log\tCtrl+B"), &Settings::squadWindowShown), &QAction::triggered,
+                squad, &SquadWindow::SetShown);
+    AddTick(menu, tr("&End Turn asks"), &Settings::askBeforeEndTurn);
     connect(&menu, &QMenu::aboutToShow, this, [this] { SyncMenu(); });
 }
 
@@ -72,15 +77,25 @@ void FrontEnd::AddEntry(QMenu& menu, const char* caption, FrontCommand command, 
     ticks.push_back({action, shown});
 }
 
-void FrontEnd::AddTick(QMenu& menu) {
-    QAction* const action = menu.addAction(tr("&End Turn asks"));
+QAction* FrontEnd::AddTick(QMenu& menu, const QString& caption, bool Settings::*shown) {
+    QAction* const action = menu.addAction(caption);
     action->setCheckable(true);
-    ticks.push_back({action, &Settings::askBeforeEndTurn});
-    connect(action, &QAction::triggered, this, [this](bool on) {
-        Settings changed = settings.Now();
-        changed.askBeforeEndTurn = on;
-        settings.Change(changed);
-    });
+    ticks.push_back({action, shown});
+    connect(action, &QAction::triggered, this, [this, shown](bool on) { Set(shown, on); });
+    return action;
+}
+
+void FrontEnd::Set(bool Settings::*what, bool on) {
+    Settings changed = settings.Now();
+    changed.*what = on;
+    settings.Change(changed);
+}
+
+void FrontEnd::KeepSquadWindow() {
+    SquadWindow* const squad = host.Squad();
+    if (squad == nullptr) return;
+    squad->SetShown(settings.Now().squadWindowShown);
+    squad->AtToggle([this](bool shown) { Set(&Settings::squadWindowShown, shown); });
 }
 
 void FrontEnd::SyncMenu() {

@@ -34,9 +34,11 @@ class FrontEnd : public QObject {
         bool Settings::*shown;
     };
 
+    void KeepSquadWindow();
     void FillMenu(QMenu& menu);
     void AddEntry(QMenu& menu, const char* caption, FrontCommand command, bool Settings::*shown = nullptr);
-    void AddTick(QMenu& menu);
+    QAction* AddTick(QMenu& menu, const QString& caption, bool Settings::*shown);
+    void Set(bool Settings::*what, bool on);
     void SyncMenu();
     void Resized();
     void SetLoudness(int volume, bool muted);

@@ -72,3 +72,13 @@ QVariant LogModel::data(const QModelIndex& index, int role) const {
     }
     return {};
 }
+
+QSize EntryPainter::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const int fontHeight = option.fontMetrics.height();
+    if (width != option.rect.width() || height != fontHeight) sizes.clear();
+    width = option.rect.width();
+    height = fontHeight;
+    QSize& size = sizes[index.data().toString()];
+    if (!size.isValid()) size = QStyledItemDelegate::sizeHint(option, index);
+    return size;
+}

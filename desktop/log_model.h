@@ -4,6 +4,8 @@
 #include <vector>
 
 #include <QAbstractListModel>
+#include <QHash>
+#include <QStyledItemDelegate>
 
 #include "shell/log_filter.h"
 
@@ -23,4 +25,18 @@ class LogModel : public QAbstractListModel {
     std::vector<ChronicleEntry> entries;
     std::size_t shownRevision = 0;
     LogFilter shownFilter;
+};
+
+/// Paints the entries over several lines where they are long. A list asks for all sizes whenever one entry is
+/// new, so each is worked out once.
+class EntryPainter : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+  private:
+    mutable QHash<QString, QSize> sizes;  // by text, at that width and font height
+    mutable int width = 0;
+    mutable int height = 0;
 };

@@ -60,6 +60,7 @@ void SquadWindow::Build() {
     connect(squadList, &QListView::clicked, this, [this](const QModelIndex& row) { Choose(row); });
     logList->setAccessibleName(tr("Log"));
     logList->setModel(log);
+    logList->setItemDelegate(new EntryPainter(this));
     logList->setResizeMode(QListView::Adjust);
     logList->setWordWrap(true);
     logList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -56,6 +56,7 @@ constexpr KeyRow WindowAndSound[] = {
     {"Larger, smaller",                     "the window's edge",              "Ctrl+plus, Ctrl+minus"},
     {"As large as fits the screen",         "Help",                           "Ctrl+0"},
     {"Full screen, and back",               "Help",                           "F11"},
+    {"The squad and the log, beside the field", "Help",                         "Ctrl+B; F6 takes the keys there and back"},
     {"Sound off, and on",                   "Help",                           "Ctrl+M"},
     {"Louder, softer",                      "Help",                           "Ctrl+Shift+up, Ctrl+Shift+down"},
     // clang-format on

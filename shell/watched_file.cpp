@@ -29,7 +29,7 @@ Journal RecordingToWatch(const fs::path& file) {
 }
 
 fs::path BorrowStore(const Journal& journal, const fs::path& program) {
-    const fs::path folder = PlayersPath(BorrowedFolder);
+    fs::path folder = PlayersPath(BorrowedFolder);
     ReturnStore(folder);
     fs::create_directories(folder / "dat");
     SetProgramFolder(program, folder);
