@@ -132,7 +132,10 @@ void SquadWindow::Sync() {
     if (companion.IsFilming() || companion.TheScreening() != nullptr) return;
     if (!placed && owner.isVisible()) SetShown(wanted && HasRoom());
     if (!isVisible()) return;
-    if (shownScale != ScaleFactor()) Rescale();
+    if (shownScale != ScaleFactor()) {
+        Rescale();
+        PlaceBeside();
+    }
     squad->Show(SquadRows());
     SyncLog();
 }
