@@ -52,8 +52,8 @@ class Audience {
     /// A step of (dx, dy) cells that nobody sees has been made.
     virtual void UnitMovedUnseen(int dx, int dy) = 0;
 
-    /// The current unit was hit by the unit `by`, from ChargeBase on by a charge, and has lost `damage` points
-    /// of health; a negative number was given back.
+    /// The current unit was hit by the unit `by`, from ChargeBase on by a charge, and has lost `damage`
+    /// points of health; a negative number was given back.
     virtual void UnitHurt(int by, int damage) = 0;
 
     /// The current unit has sighted the one on a cell.
