@@ -87,6 +87,7 @@ void DesktopHost::Hasten() {
 void DesktopHost::StopPlayBack() {
     playBack = nullptr;
     meanwhile = nullptr;
+    if (hastens && companion != nullptr) companion->ForgetUnseen();
     hastens = false;
     playBackPace.stop();
 }

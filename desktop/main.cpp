@@ -35,7 +35,11 @@ int main(int count, char** arguments) {
     const bool watches = count == 3 && arguments[1] == std::string_view("--watch");
     const std::filesystem::path recording = watches ? std::filesystem::absolute(arguments[2]) : "";
     Companion companion;
-    Session session(AskToContinue, [&](Watching& watching) {
+    const auto ask = [&companion](const std::string& text) {
+        companion.ForgetUnseen();
+        return AskToContinue(text);
+    };
+    Session session(ask, [&](Watching& watching) {
         ShowPlayedBack(watching, companion, watches ? AfterWatching::ProcessEnds : AfterWatching::PlayGoesOn);
     });
     return RunInWindow(arguments, {.begin = [&] { Begin(session, recording); },
