@@ -97,8 +97,9 @@ class SteelStyle : public QProxyStyle {
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-        const bool isTick = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
-        if (option != nullptr && !isTick) return QProxyStyle::pixelMetric(metric, option, widget);
+        const bool isPart =
+            metric == PM_IndicatorWidth || metric == PM_IndicatorHeight || metric == PM_ScrollBarExtent;
+        if (option != nullptr && !isPart) return QProxyStyle::pixelMetric(metric, option, widget);
         const QStyleOption scaled = AtScale(QStyleOption(), QApplication::font());
         return QProxyStyle::pixelMetric(metric, &scaled, widget);
     }

@@ -86,6 +86,7 @@ void DesktopHost::Hasten() {
 void DesktopHost::StopPlayBack() {
     playBack = nullptr;
     meanwhile = nullptr;
+    if (hastens && companion != nullptr) companion->ForgetUnseen();
     hastens = false;
     playBackPace.stop();
 }

@@ -57,7 +57,11 @@ int main(int count, char** arguments) {
     Companion companion;
     const AfterWatching after =
         given.watched.empty() ? AfterWatching::PlayGoesOn : AfterWatching::ProcessEnds;
-    Session session(AskToContinue, [&](Watching& watching) { ShowPlayedBack(watching, companion, after); });
+    const auto ask = [&companion](const std::string& text) {
+        companion.ForgetUnseen();
+        return AskToContinue(text);
+    };
+    Session session(ask, [&](Watching& watching) { ShowPlayedBack(watching, companion, after); });
     const Questions questions(settings, session, AskInBox);
     const auto dispatch = [&](const InputEvent& event) {
         companion.Pass(event, [&] { session.Dispatch(event); });

@@ -97,6 +97,12 @@ void Companion::EndScreening() {
     Report();
 }
 
+void Companion::ForgetUnseen() {
+    effects.Clear();
+    film.End();
+    film.Clear();
+}
+
 // What became of somebody is said once: who was hit and then killed was killed.
 void Companion::Report() {
     report.clear();

@@ -44,6 +44,9 @@ class Companion {
     /// A game is played back: a banner says so, with what a key or click does. An empty text: no more.
     void SetWatched(const std::string& whatKeysDo) { watched = whatKeysDo; }
 
+    /// All so far has happened unseen: it has no effects, and no film.
+    void ForgetUnseen();
+
     /// The mission has ended, maybe in the middle of a shot.
     void Settle() { onlooker.Settle(); }
 
