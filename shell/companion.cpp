@@ -128,7 +128,7 @@ void Companion::Pass(const InputEvent& event, const std::function<void()>& door)
     const std::string words = WordsOf(refusal);
     // A person who presses again and again is told once.
     const bool repeats = !entries.empty() && entries.back().text == words;
-    if (refusal && !repeats) chronicle.NoteRefusal(words);
+    if (refusal && !IsPartial(refusal.why) && !repeats) chronicle.NoteRefusal(words);
 }
 
 void Companion::Look() {

@@ -122,7 +122,7 @@ void AddDangers(const Forecast& forecast, Lines& lines) {
 void AddTarget(const Forecast& forecast, Lines& lines) {
     const ActForecast& act = forecast.act;
     if (!act.known) return;
-    const bool partly = act.refusal.why == Why::TimeForRounds || act.refusal.why == Why::RoundsForRounds;
+    const bool partly = IsPartial(act.refusal.why);
     Add(lines, ActName(act) + (act.family == "cure" ? " " : " at ") + Surname(act.target) + ": " +
                    Number(act.time) + " time");
     if (act.refusal) Add(lines, WordsOf(act.refusal), Tone::Warning);

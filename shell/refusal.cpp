@@ -48,6 +48,11 @@ static_assert(std::size(Table) == static_cast<std::size_t>(Why::Nothing) + 1);
 
 }  // namespace
 
+bool IsPartial(Why why) {
+    return why == Why::WalkTime || why == Why::WalkEnergy || why == Why::TimeForRounds ||
+           why == Why::RoundsForRounds;
+}
+
 std::string WordsOf(const Refusal& refusal) {
     std::string words;
     for (const Words& row : Table) {

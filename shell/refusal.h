@@ -51,5 +51,9 @@ struct Refusal {
     bool operator==(const Refusal&) const = default;
 };
 
+/// Whether the order did a part of what it was given for: a walk goes as far as the time lasts, a burst fires
+/// the rounds that it pays for.
+bool IsPartial(Why why);
+
 /// As "Needs 12 time, has 8."; empty for none.
 std::string WordsOf(const Refusal& refusal);
