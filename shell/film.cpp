@@ -65,8 +65,10 @@ void Film::Keep(const SoundRequest& sound) {
     open.sounds.push_back(sound);
 }
 
+// A shot is reported when its trail has just been seen: the view goes there before.
 void Film::Keep(const Happening& happening) {
-    open.happenings.push_back(happening);
+    const bool wasSeen = happening.kind == HappeningKind::Shot && !frames.empty();
+    (wasSeen ? frames.back() : open).happenings.push_back(happening);
 }
 
 void Film::NoteTurnOver() {

@@ -71,6 +71,17 @@ TEST_F(FilmTest, TheViewGoesToWhatIsSeenAndBack) {
     EXPECT_EQ(furthest, 760) << "the field's end";
 }
 
+TEST_F(FilmTest, TheViewIsThereBeforeATrailIsSeen) {
+    field.SetPixel(1400, 100, Rgb(255, 0, 0));
+    film.Shoot(milliseconds(23));
+    field.SetPixel(1400, 100, Rgb(0, 80, 0));
+    film.Keep({.kind = HappeningKind::Shot, .unit = 20, .x = 1300, .y = 100, .toX = 1400, .toY = 100});
+    film.End();
+    EXPECT_EQ(film.Frames()[0].happenings.size(), 1U);
+    // There in 350, 200 to arrive, 450 on the shot, 350 back.
+    EXPECT_EQ(Shown(), "act at 1300 at 850\nend at 1650\n");
+}
+
 TEST_F(FilmTest, MovementOutOfViewTakesNoTime) {
     field.SetPixel(1200, 100, Rgb(255, 0, 0));
     film.Shoot(milliseconds(500));
