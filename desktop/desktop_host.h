@@ -66,7 +66,6 @@ class DesktopHost : public Host {
     void Sync();
 
     SoundDevice& Sounds() { return soundDevice; }
-    const Slips& TheSlips() const { return slips; }
     /// `first` runs before the message of the mission's verdict, when everything before has been seen; not
     /// while events come from a source.
     void AtVerdict(std::function<void()> first) { atVerdict = std::move(first); }

@@ -21,22 +21,9 @@ constexpr float Middle = ViewWidth / 2.0F;
 
 // A plate of that size in the middle of the view, and its frame.
 void DrawPlate(float top, float width, float height, double share, Sketch& sketch) {
-    const Stroke box = {.kind = StrokeKind::Box,
-                        .x = Middle - width / 2,
-                        .y = top,
-                        .toX = Middle + width / 2,
-                        .toY = top + height,
-                        .colour = Faded(Plate, share)};
-    sketch.push_back(box);
-    Stroke frame = box;
-    frame.kind = StrokeKind::Frame;
-    frame.colour = Faded(Rgb(74, 103, 85), share);
-    sketch.push_back(frame);
-}
-
-void DrawWords(float y, float height, Colour colour, const std::string& text, Sketch& sketch) {
-    sketch.push_back(
-        {.kind = StrokeKind::Words, .x = Middle, .y = y, .breadth = height, .colour = colour, .text = text});
+    const float left = Middle - width / 2;
+    sketch.push_back(Box(left, top, width, height, Faded(Plate, share)));
+    sketch.push_back(Outline(left, top, width, height, 1, Faded(Rgb(74, 103, 85), share)));
 }
 
 ViewPlace ViewNow() {
@@ -147,19 +134,21 @@ void Companion::Look() {
 void Companion::DrawBanner() {
     if (!watched.empty()) {
         DrawPlate(ViewHeight - 50, 300, 42, 1, onView);
-        DrawWords(ViewHeight - 37, 15, Lettering, "Watching, turn " + std::to_string(squadTurns), onView);
-        DrawWords(ViewHeight - 20, 11, Quiet, watched, onView);
+        onView.push_back(
+            Words(Middle, ViewHeight - 37, 15, Lettering, "Watching, turn " + std::to_string(squadTurns)));
+        onView.push_back(Words(Middle, ViewHeight - 20, 11, Quiet, watched));
     }
     if (screening) {
         DrawPlate(8, 220, 40, 1, onView);
-        DrawWords(21, 16, EnemysLettering, "Enemy's turn", onView);
-        DrawWords(38, 11, Quiet, "any key or click skips it", onView);
+        onView.push_back(Words(Middle, 21, 16, EnemysLettering, "Enemy's turn"));
+        onView.push_back(Words(Middle, 38, 11, Quiet, "any key or click skips it"));
         return;
     }
     const double left = 1 - std::chrono::duration<double>(clock() - turnBegan) / AnnounceTime;
     if (left <= 0 || squadTurns == 0) return;
     DrawPlate(8, 180, 28, 2 * left, onView);
-    DrawWords(22, 16, Faded(Lettering, 2 * left), "Your turn: " + std::to_string(squadTurns), onView);
+    onView.push_back(
+        Words(Middle, 22, 16, Faded(Lettering, 2 * left), "Your turn: " + std::to_string(squadTurns)));
 }
 
 void Companion::DrawReport() {
@@ -173,7 +162,7 @@ void Companion::DrawReport() {
               12 + LineHeight * static_cast<float>(report.size()), 1, onView);
     float y = Top + 6 + LineHeight / 2;
     for (const std::string& line : report) {
-        DrawWords(y, 12, Lettering, line, onView);
+        onView.push_back(Words(Middle, y, 12, Lettering, line));
         y += LineHeight;
     }
 }

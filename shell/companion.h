@@ -40,7 +40,7 @@ class Companion {
 
     /// Stands over the main window, where its Left and Top say.
     Form& Readout() { return guide.Readout(); }
-    const Guide& TheGuide() const { return guide; }
+
     /// A game is played back: a banner says so, with what a key or click does. An empty text: no more.
     void SetWatched(const std::string& whatKeysDo) { watched = whatKeysDo; }
 

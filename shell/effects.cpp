@@ -86,26 +86,13 @@ float Scatter(const Happening& at, int number) {
     return static_cast<float>(mixed & 0xFFFFU) / 65536.0F;
 }
 
-Stroke Disc(float x, float y, float across, Colour colour) {
-    return {.kind = StrokeKind::Disc, .x = x, .y = y, .breadth = across, .colour = colour};
-}
-
-Stroke Ring(float x, float y, float across, Colour colour) {
-    return {.kind = StrokeKind::Ring, .x = x, .y = y, .breadth = across, .colour = colour};
-}
-
 // Wholly on the field, also over a unit at its edge.
-Stroke Words(float x, float y, float height, Colour colour, std::string text) {
+Stroke WordsInside(float x, float y, float height, Colour colour, const std::string& text) {
     constexpr float HalfOfLetter = 0.36F;  // of its width, for one of height 1
     const float half = HalfOfLetter * height * static_cast<float>(text.size()) + 2;
     x = std::clamp(x, half, static_cast<float>(FieldWidth * CellSize) - half);
     y = std::clamp(y, height / 2 + 2, static_cast<float>(FieldHeight * CellSize) - height / 2 - 2);
-    return {.kind = StrokeKind::Words,
-            .x = x,
-            .y = y,
-            .breadth = height,
-            .colour = colour,
-            .text = std::move(text)};
+    return Words(x, y, height, colour, text);
 }
 
 // `count` specks that fly from (x, y) to `reach` pixels away.
@@ -125,9 +112,8 @@ void DrawShot(const Happening& shot, milliseconds age, int ground, Sketch& sketc
     const auto toY = static_cast<float>(shot.toY);
     if (age < TracerTime) {
         const double left = 1 - static_cast<double>(Share(age, TracerTime));
-        sketch.push_back(
-            {StrokeKind::Line, x, y, toX, toY, 3.5F, Faded(MuzzleFlash, 0.35 * left * left), {}});
-        sketch.push_back({StrokeKind::Line, x, y, toX, toY, 1.3F, Faded(Tracer, left), {}});
+        sketch.push_back(Line(x, y, toX, toY, 3.5F, Faded(MuzzleFlash, 0.35 * left * left)));
+        sketch.push_back(Line(x, y, toX, toY, 1.3F, Faded(Tracer, left)));
     }
     if (age < FlashTime) {
         const float left = 1 - Share(age, FlashTime);
@@ -166,7 +152,8 @@ void DrawHit(const Happening& hit, milliseconds age, int /*ground*/, Sketch& ske
                                   Faded(White, 1 - static_cast<double>(Share(age, FlinchTime)))));
     }
     constexpr float Rise = 16;
-    sketch.push_back(Words(x, y - 14 - Rise * grown, 13, Faded(ColourOfPoints(hit), 2 * left), Points(hit)));
+    sketch.push_back(
+        WordsInside(x, y - 14 - Rise * grown, 13, Faded(ColourOfPoints(hit), 2 * left), Points(hit)));
 }
 
 void DrawDeath(const Happening& death, milliseconds age, int /*ground*/, Sketch& sketch) {
@@ -175,7 +162,7 @@ void DrawDeath(const Happening& death, milliseconds age, int /*ground*/, Sketch&
     const auto left = static_cast<double>(1 - Share(age, HitTime));
     DrawSpecks(death, x, y, 12, 6 + 8 * Share(age, HitTime), 3, Faded(Blood, left), sketch);
     const Colour colour = TeamOfUnit(death.unit) == SquadTeam ? OursHurt : TheirsHurt;
-    sketch.push_back(Words(x, y + 18, 12, Faded(colour, 2 * left), death.by < 0 ? "died" : "killed"));
+    sketch.push_back(WordsInside(x, y + 18, 12, Faded(colour, 2 * left), death.by < 0 ? "died" : "killed"));
 }
 
 void DrawBlast(const Happening& blast, milliseconds age, int /*ground*/, Sketch& sketch) {
@@ -194,7 +181,7 @@ void DrawSighting(const Happening& sighting, milliseconds age, int /*ground*/, S
     const float grown = Share(age, SightingTime);
     const auto left = static_cast<double>(1 - grown);
     sketch.push_back(Ring(x, y, 44 - 20 * grown, Faded(Sighted, 2 * left)));
-    sketch.push_back(Words(x, y - 20, 14, Faded(Sighted, 2 * left), "!"));
+    sketch.push_back(WordsInside(x, y - 20, 14, Faded(Sighted, 2 * left), "!"));
 }
 
 void DrawPing(const Happening& cause, milliseconds age, Sketch& onMap) {
@@ -209,7 +196,7 @@ void DrawSelected(const Happening& selected, milliseconds age, int /*ground*/, S
     const auto x = static_cast<float>(selected.x);
     const auto y = static_cast<float>(selected.y);
     const auto left = static_cast<double>(1 - Share(age, SelectedTime));
-    sketch.push_back(Words(x, y - 19, 12, Faded(White, 2 * left), UnitTable[selected.unit].name));
+    sketch.push_back(WordsInside(x, y - 19, 12, Faded(White, 2 * left), UnitTable[selected.unit].name));
 }
 
 struct Look {

@@ -21,15 +21,11 @@ float MiddleOf(int cell) {
     return static_cast<float>(cell * CellSize + HalfCell);
 }
 
-void AddLine(float x, float y, float toX, float toY, float breadth, Colour colour, Sketch& sketch) {
-    sketch.push_back({StrokeKind::Line, x, y, toX, toY, breadth, colour, {}});
-}
-
 // An angle at a corner, with its arms towards the middle of the cell.
 void AddCorner(float x, float y, float right, float down, float breadth, Colour colour, Sketch& sketch) {
     constexpr float Arm = 5;
-    AddLine(x, y, x + Arm * right, y, breadth, colour, sketch);
-    AddLine(x, y, x, y + Arm * down, breadth, colour, sketch);
+    sketch.push_back(Line(x, y, x + Arm * right, y, breadth, colour));
+    sketch.push_back(Line(x, y, x, y + Arm * down, breadth, colour));
 }
 
 void DrawCorners(const Unit& unit, Sketch& sketch) {
@@ -46,31 +42,27 @@ void DrawCorners(const Unit& unit, Sketch& sketch) {
     }
 }
 
-void AddBox(float x, float y, float width, float height, Colour colour, Sketch& sketch) {
-    sketch.push_back({StrokeKind::Box, x, y, x + width, y + height, 1, colour, {}});
-}
-
 void DrawHealth(const Unit& unit, Sketch& sketch) {
     constexpr float Width = 16;
     constexpr float Height = 2;
     const float share = static_cast<float>(unit.health) / static_cast<float>(unit.vitality);
     const float x = static_cast<float>(unit.pixelX) + 2;
     const float y = static_cast<float>(unit.pixelY) - 4;
-    AddBox(x - 1, y - 1, Width + 2, Height + 2, Shadow, sketch);
+    sketch.push_back(Box(x - 1, y - 1, Width + 2, Height + 2, Shadow));
     const Colour colour = unit.status == Active ? share > 0.75F ? Healthy : Hurt : Dying;
-    AddBox(x, y, Width * share, Height, colour, sketch);
+    sketch.push_back(Box(x, y, Width * share, Height, colour));
 }
 
 void AddDot(Spot cell, float across, Colour colour, Sketch& sketch) {
     const float x = MiddleOf(cell.x);
     const float y = MiddleOf(cell.y);
-    sketch.push_back({StrokeKind::Disc, x, y, 0, 0, across + 2, Faded(Shadow, 0.7), {}});
-    sketch.push_back({StrokeKind::Disc, x, y, 0, 0, across, colour, {}});
+    sketch.push_back(Disc(x, y, across + 2, Faded(Shadow, 0.7)));
+    sketch.push_back(Disc(x, y, across, colour));
 }
 
 void AddRing(float x, float y, float across, Colour colour, Sketch& sketch) {
-    sketch.push_back({StrokeKind::Ring, x, y, 0, 0, across + 2, Shadow, {}});
-    sketch.push_back({StrokeKind::Ring, x, y, 0, 0, across, colour, {}});
+    sketch.push_back(Ring(x, y, across + 2, Shadow));
+    sketch.push_back(Ring(x, y, across, colour));
 }
 
 void DrawWay(const WalkForecast& walk, Sketch& sketch) {
@@ -93,8 +85,8 @@ void DrawBlast(Spot cell, Sketch& sketch) {
     const auto x = static_cast<float>((cell.x - 1) * CellSize);
     const auto y = static_cast<float>((cell.y - 1) * CellSize);
     constexpr float Side = 3 * CellSize;
-    sketch.push_back({StrokeKind::Frame, x, y, x + Side, y + Side, 2.5F, Faded(Shadow, 0.6), {}});
-    sketch.push_back({StrokeKind::Frame, x, y, x + Side, y + Side, 1.2F, Blast, {}});
+    sketch.push_back(Outline(x, y, Side, Side, 2.5F, Faded(Shadow, 0.6)));
+    sketch.push_back(Outline(x, y, Side, Side, 1.2F, Blast));
 }
 
 }  // namespace

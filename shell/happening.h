@@ -12,11 +12,10 @@ enum class HappeningKind {
     Death,       // of `unit`; `by` -1: of a wound
     Blast,       // three cells by three, around the place
     Sighting,    // `by` has sighted the enemy `unit`
-    Line,        // of the log: `text`
 };
 
 struct Happening {
-    HappeningKind kind = HappeningKind::Line;
+    HappeningKind kind = HappeningKind::MissionBegins;
     int unit = -1;
     int by = -1;
     int amount = 0;
@@ -25,7 +24,7 @@ struct Happening {
     int toX = 0;
     int toY = 0;
     bool seen = true;       // by the squad, or to one of its own
-    std::string text = {};  // of a line; of a shot, hit or death the weapon's key
+    std::string text = {};  // of a shot, hit or death the weapon's key
     std::string mode = {};  // in which that weapon was used, as "Full auto"
 };
 

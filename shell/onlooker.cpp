@@ -63,7 +63,6 @@ void Onlooker::TurnBegins() {
 
 void Onlooker::LineLogged(const std::string& line) {
     FieldAudience::LineLogged(line);
-    witness({.kind = HappeningKind::Line, .unit = curUnit, .text = line});
     NoteDeaths();
 }
 

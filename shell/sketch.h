@@ -32,6 +32,30 @@ struct Stroke {
 
 using Sketch = std::vector<Stroke>;
 
+inline Stroke Line(float x, float y, float toX, float toY, float breadth, Colour colour) {
+    return {StrokeKind::Line, x, y, toX, toY, breadth, colour, {}};
+}
+
+inline Stroke Disc(float x, float y, float across, Colour colour) {
+    return {StrokeKind::Disc, x, y, 0, 0, across, colour, {}};
+}
+
+inline Stroke Ring(float x, float y, float across, Colour colour) {
+    return {StrokeKind::Ring, x, y, 0, 0, across, colour, {}};
+}
+
+inline Stroke Box(float x, float y, float width, float height, Colour colour) {
+    return {StrokeKind::Box, x, y, x + width, y + height, 1, colour, {}};
+}
+
+inline Stroke Outline(float x, float y, float width, float height, float breadth, Colour colour) {
+    return {StrokeKind::Frame, x, y, x + width, y + height, breadth, colour, {}};
+}
+
+inline Stroke Words(float x, float y, float height, Colour colour, const std::string& text) {
+    return {StrokeKind::Words, x, y, 0, 0, height, colour, text};
+}
+
 /// `colour` seen through: `share` of its own alpha, 0 to 1.
 constexpr Colour Faded(Colour colour, double share) {
     const double held = share < 0 ? 0 : share > 1 ? 1 : share;

@@ -25,7 +25,7 @@ TEST(EffectsTest, EachIsSeenForItsTimeAndNoLonger) {
         {HappeningKind::Death, true, milliseconds(700), true},
         {HappeningKind::Blast, true, milliseconds(700), true},
         {HappeningKind::Hit, false, milliseconds(0), false},
-        {HappeningKind::Line, true, milliseconds(0), false},
+        {HappeningKind::TurnBegins, true, milliseconds(0), false},
     };
     for (const Case& entry : cases) {
         Effects effects;

@@ -9,8 +9,7 @@
 
 namespace {
 
-constexpr const char* Names[] = {"mission", "turn",  "selected", "shot", "hit",
-                                 "death",   "blast", "sighting", "line"};
+constexpr const char* Names[] = {"mission", "turn", "selected", "shot", "hit", "death", "blast", "sighting"};
 
 class OnlookerTest : public GameTest {
   protected:
@@ -41,8 +40,7 @@ class OnlookerTest : public GameTest {
     Onlooker onlooker{[this](const Happening& happening) {
         const auto kind = static_cast<std::size_t>(happening.kind);
         last[kind] = happening;
-        if (happening.kind != HappeningKind::Line)
-            told += std::string(Names[kind]) + (happening.seen ? " " : "? ");
+        told += std::string(Names[kind]) + (happening.seen ? " " : "? ");
     }};
 };
 
