@@ -23,7 +23,8 @@ QRect BoundsOf(const Control& control) {
 CompanionView::CompanionView(FormWindow& main, Companion& whose)
     : window(main),
       companion(whose),
-      onField(*new SketchWidget(*main.WidgetOf(frmField.area), BoundsOf(frmField.area))),
+      field(dynamic_cast<CanvasWidget&>(*main.WidgetOf(frmField.area))),
+      onField(*new SketchWidget(field, BoundsOf(frmField.area), &field)),
       onView(*new SketchWidget(*main.WidgetOf(frmField), {ViewLeft, ViewTop, ViewWidth, ViewHeight})),
       onMap(*new SketchWidget(*main.WidgetOf(frmField.picAreaMap), BoundsOf(frmField.picAreaMap))),
       readout(*new EmbeddedForm(whose.Readout(), *main.WidgetOf(frmField))) {
@@ -47,7 +48,6 @@ void CompanionView::Screen(const std::function<void(Moment end)>& handleUntil,
     if (!companion.IsFilming() || !companion.BeginScreening(play)) return;
     Screening& screening = *companion.TheScreening();
     if (skips) screening.Skip();
-    auto& field = dynamic_cast<CanvasWidget&>(*window.WidgetOf(frmField.area));
     field.ShowInstead(&screening.Field());
     for (Moment now = Clock::now(); screening.Advance(now); now = Clock::now()) {
         ShowScreening(screening, now);

@@ -10,6 +10,7 @@
 #include "desktop/sketch_widget.h"
 #include "shell/companion.h"
 
+class CanvasWidget;
 class FormWindow;
 
 class CompanionView {
@@ -34,6 +35,7 @@ class CompanionView {
 
     FormWindow& window;
     Companion& companion;
+    CanvasWidget& field;
     SketchWidget& onField;
     SketchWidget& onView;
     SketchWidget& onMap;

@@ -19,6 +19,8 @@ class CanvasSurface : public QWidget {
     /// again.
     void ShowInstead(Picture* other) { canvas = other != nullptr ? other : &own; }
 
+    const Picture& Shown() const { return *canvas; }
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "desktop/picture_widget.h"
 #include "desktop/scale.h"
 
 namespace {
@@ -62,6 +63,8 @@ QRegion AreaOf(const Stroke& stroke) {
             return OnScreen(QRectF(at, QPointF(stroke.toX, stroke.toY)).adjusted(-half, -half, half, half));
         case StrokeKind::Words:
             return OnScreen(Around(stroke));
+        case StrokeKind::Piece:
+            return OnScreen(QRectF(stroke.toX, stroke.toY, stroke.breadth, stroke.breadth));
     }
     return {};
 }
@@ -119,12 +122,15 @@ void Draw(QPainter& painter, const Stroke& stroke) {
             return painter.drawRect(QRectF(at, to));
         case StrokeKind::Words:
             return DrawWords(painter, stroke);
+        case StrokeKind::Piece:
+            return;
     }
 }
 
 }  // namespace
 
-SketchWidget::SketchWidget(QWidget& parent, const QRect& extent) : QWidget(&parent), place(extent) {
+SketchWidget::SketchWidget(QWidget& parent, const QRect& extent, const CanvasSurface* under)
+    : QWidget(&parent), place(extent), beneath(under) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
     setGeometry(ToScreen(place));
@@ -145,9 +151,25 @@ void SketchWidget::paintEvent(QPaintEvent* event) {
     painter.setRenderHint(QPainter::Antialiasing);
     for (const Stroke& stroke : shown) {
         if (!AreaOf(stroke).intersects(event->region())) continue;
+        if (stroke.kind == StrokeKind::Piece) {
+            DrawPiece(painter, stroke);
+            continue;
+        }
         painter.save();
         painter.scale(ScaleFactor(), ScaleFactor());
         Draw(painter, stroke);
         painter.restore();
     }
+}
+
+void SketchWidget::DrawPiece(QPainter& painter, const Stroke& piece) const {
+    if (beneath == nullptr) return;
+    const auto cornerAt = [](float x, float y) { return QPoint(qRound(x), qRound(y)); };
+    const int breadth = qRound(piece.breadth);
+    const QRect from(cornerAt(piece.x, piece.y), QSize(breadth, breadth));
+    const QRect to(cornerAt(piece.toX, piece.toY), from.size());
+    const QRect source = ToScreen(from) & Touched(beneath->Shown().Bounds());
+    if (source.isEmpty()) return;
+    const QPoint aside = ToScreen(to).topLeft() - ToScreen(from).topLeft();
+    painter.drawImage(source.topLeft() + aside, Enlarged(beneath->Shown(), source, Ground::Opaque));
 }

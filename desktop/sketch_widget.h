@@ -7,10 +7,13 @@
 
 #include "shell/sketch.h"
 
+class CanvasSurface;
+
 class SketchWidget : public QWidget {
   public:
-    /// Covers `extent` of `parent`, in the records' pixels, from which the strokes' places count.
-    SketchWidget(QWidget& parent, const QRect& extent);
+    /// Covers `extent` of `parent`, in the records' pixels, from which the strokes' places count. Pieces are
+    /// of what `under` shows, which must outlive the widget; without it there are none.
+    SketchWidget(QWidget& parent, const QRect& extent, const CanvasSurface* under = nullptr);
 
     /// Shows `sketch`; what differs is painted with the window's next paint.
     void Show(const Sketch& sketch);
@@ -19,6 +22,9 @@ class SketchWidget : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void DrawPiece(QPainter& painter, const Stroke& piece) const;
+
     const QRect place;
+    const CanvasSurface* const beneath;
     Sketch shown;
 };

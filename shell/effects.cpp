@@ -140,12 +140,31 @@ std::string Points(const Happening& hit) {
     return (hit.amount < 0 ? "+" : "-") + std::to_string(std::abs(hit.amount));
 }
 
+float SignOf(int difference) {
+    return difference < 0 ? -1.0F : difference > 0 ? 1.0F : 0.0F;
+}
+
+// Who is hit jerks away from where it came from, and back: his cell's picture is shown aside.
+void DrawFlinch(const Happening& hit, milliseconds age, Sketch& sketch) {
+    constexpr float Jerk = 3;  // pixels, at first
+    const float push = std::round(Jerk * (1 - Share(age, FlinchTime)));
+    if (push == 0) return;
+    const Unit& from = UnitTable[std::max(0, hit.by)];
+    const float sideways = SignOf(int{UnitTable[hit.unit].cellX} - int{from.cellX});
+    const float downwards = SignOf(int{UnitTable[hit.unit].cellY} - int{from.cellY});
+    constexpr float Half = static_cast<float>(CellSize) / 2;
+    const float left = static_cast<float>(hit.x) - Half;
+    const float top = static_cast<float>(hit.y) - Half;
+    sketch.push_back(Piece(left, top, CellSize, left + push * sideways, top + push * downwards));
+}
+
 void DrawHit(const Happening& hit, milliseconds age, int /*ground*/, Sketch& sketch) {
     const auto x = static_cast<float>(hit.x);
     const auto y = static_cast<float>(hit.y);
     const float grown = Share(age, HitTime);
     const auto left = static_cast<double>(1 - grown);
     if (hit.amount > 0) {
+        DrawFlinch(hit, age, sketch);
         DrawSpecks(hit, x, y, 7, 4 + 9 * std::sqrt(grown), 2.5F, Faded(Blood, left), sketch);
         if (age < FlinchTime)
             sketch.push_back(Ring(x, y, 22 + 6 * Share(age, FlinchTime),

@@ -15,6 +15,8 @@ enum class StrokeKind {
     Box,    // filled, from the corner (x, y) to the corner (toX, toY)
     Frame,  // the outline of such a box, `breadth` thick
     Words,  // `text`, centred on (x, y), letters `breadth` high, with a dark edge around them
+    Piece,  // the picture's own square with the corner (x, y), `breadth` wide, shown with its corner on
+            // (toX, toY)
 };
 
 struct Stroke {
@@ -54,6 +56,10 @@ inline Stroke Outline(float x, float y, float width, float height, float breadth
 
 inline Stroke Words(float x, float y, float height, Colour colour, const std::string& text) {
     return {StrokeKind::Words, x, y, 0, 0, height, colour, text};
+}
+
+inline Stroke Piece(float x, float y, float breadth, float toX, float toY) {
+    return {StrokeKind::Piece, x, y, toX, toY, breadth, Rgb(255, 255, 255), {}};
 }
 
 /// `colour` seen through: `share` of its own alpha, 0 to 1.

@@ -73,4 +73,30 @@ TEST(EffectsTest, LiesWhereItHappened) {
     EXPECT_GT(tracers, 0);
 }
 
+// The one hit jerks away from the other, and stands still again before the number is gone.
+TEST(EffectsTest, WhoIsHitFlinches) {
+    ResetState();
+    UnitTable[3].cellX = 20;
+    UnitTable[3].cellY = 9;
+    UnitTable[7].cellX = 12;
+    UnitTable[7].cellY = 9;
+    Effects effects;
+    effects.Add({.kind = HappeningKind::Hit, .unit = 3, .by = 7, .amount = 5, .x = 410, .y = 190}, Begin);
+    struct {
+        milliseconds age;
+        Sketch pieces;
+    } const cases[] = {
+        {milliseconds(0), {Piece(400, 180, 20, 403, 180)}},
+        {milliseconds(150), {Piece(400, 180, 20, 402, 180)}},
+        {milliseconds(350), {}},
+    };
+    for (const auto& [age, pieces] : cases) {
+        Sketch onField;
+        Sketch onMap;
+        effects.Draw(Begin + age, onField, onMap);
+        std::erase_if(onField, [](const Stroke& stroke) { return stroke.kind != StrokeKind::Piece; });
+        EXPECT_EQ(onField, pieces) << age.count();
+    }
+}
+
 }  // namespace
