@@ -68,7 +68,10 @@ void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
 }
 
 TextBoxWidget::TextBoxWidget(TextBox& shown, QWidget& parent, const EventSink& to)
-    : TextPlate(shown, parent, to, shown.Text, shown.BackColor, shown.ForeColor) {}
+    : TextPlate(shown, parent, to, shown.Text, shown.BackColor, shown.ForeColor),
+      seeThrough(shown.SeeThrough) {
+    setAutoFillBackground(!seeThrough);
+}
 
 void TextBoxWidget::SyncContent() {
     TextPlate::SyncContent();
@@ -98,6 +101,7 @@ void TextBoxWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(Inside(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, Elided());
+    if (seeThrough) return;
     const int breadth = ToScreen(1);
     painter.setClipRegion(QRegion(rect()) - rect().adjusted(breadth, breadth, -breadth, -breadth));
     painter.fillRect(rect(), palette().color(QPalette::Window).darker(FrameDarkness));

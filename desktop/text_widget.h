@@ -46,4 +46,6 @@ class TextBoxWidget : public TextPlate {
   private:
     QRect Inside() const;
     QString Elided() const;
+
+    const bool seeThrough;
 };

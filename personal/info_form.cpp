@@ -1,8 +1,11 @@
 #include "personal/info_form.h"
 
 #include <initializer_list>
+#include <memory>
 #include <string>
+#include <utility>
 
+#include "platform/blit.h"
 #include "view/stored_pictures.h"
 
 namespace {
@@ -39,6 +42,17 @@ constexpr SlotRun SlotRuns[] = {
 };
 // clang-format on
 
+// The ground list's plate lies over the ends of the attributes' bars: a look makes perception 150, and its
+// bar runs on into the list.
+constexpr int GroundEdge = 615;
+constexpr int GroundTop = 54;
+
+PictureRef PartOf(const Picture& whole, const Control& place) {
+    Picture part(place.Width, place.Height);
+    BitBlt(part, 0, 0, place.Width, place.Height, whole, place.Left, place.Top, RasterOp::SRCCOPY);
+    return std::make_shared<const Picture>(std::move(part));
+}
+
 void Paint(TextBox& box, const char* text) {
     box.Text = text;
     box.BackColor = DeepBlue;
@@ -74,12 +88,14 @@ void InfoForm::PutPictures() {
     Put(imgManFlag,  "imgManFlag",  *this, 490,  90,  18,  12);
     Put(imgPack,     "imgPack",     *this, 277, 218, 142, 192);
     Put(imgDragSwap, "imgDragSwap", *this, 376, 168,  42,  42);
+    Put(imgGround,   "imgGround",   *this, GroundEdge, GroundTop, 750 - GroundEdge, 358);
     // clang-format on
     picScript.canvas = StoredPicture("picScript.bmp");
     picScript.Visible = false;
     imgManFlag.Picture = StoredImage("imgManFlag.gif");
     imgDragSwap.Visible = false;
-    for (ImageControl* behindSlots : {&imgFace, &imgPack, &imgDragSwap})
+    imgGround.Picture = PartOf(StoredPicture("frmInfo.bmp"), imgGround);
+    for (ImageControl* behindSlots : {&imgFace, &imgPack, &imgDragSwap, &imgGround})
         behindSlots->Enabled = false;  // the window gets the mouse
 }
 
@@ -122,6 +138,7 @@ void InfoForm::PutTexts() {
     // clang-format on
     Paint(txtAPC, "   APC  ");
     Paint(txtFullname, "");
+    txtAPC.SeeThrough = txtFullname.SeeThrough = true;  // the sheet has light cards in their places
     Picture2.canvas = StoredPicture("Picture2.bmp");
     Picture2.Visible = false;
     lblInv.BackColor = Rgb(64, 64, 64);

@@ -41,6 +41,7 @@ struct InfoForm : Form {
     ImageControl imgPack;
     ImageControl imgDrag;
     ImageControl imgDragSwap;
+    ImageControl imgGround;  // the plate on which the ground list lies
     ImageControl imgDel;
     Array<ImageControl, 1, 3> imgUpDn;
     ImageControl imgAwardBorder;

@@ -98,6 +98,7 @@ struct TextBox : Control {
     std::string Text;
     Colour BackColor = Rgb(0, 0, 0);
     Colour ForeColor = Rgb(255, 255, 255);
+    bool SeeThrough = false;  // what lies beneath is its ground, in BackColor's place
 };
 
 struct Timer : Control {

@@ -48,6 +48,8 @@ constexpr QRect Controls[] = {
     {224, 24, 297, 19}, {528, 56, 49, 13}, {528, 72, 25, 33},
     {552, 72, 25, 33},  {680, 40, 49, 25}, {536, 424, 49, 17},
 };
+// Under the two text boxes, whose letters are a blue that needs a light ground.
+constexpr QRect Cards[] = {{224, 24, 297, 19}, {528, 56, 49, 13}};
 
 constexpr int GroundPlaces = 10;
 constexpr int GroundLeft = 622;
@@ -175,6 +177,11 @@ void Captions(QImage& picture) {
     QPainter painter(&picture);
     for (int row = 0; row < AttributeRows; ++row)
         painter.fillRect(BarLeft, FirstBar + row * BarPitch, BarWidth, BarHeight, floor);
+    for (const QRect& card : Cards) {
+        painter.fillRect(card, Colour(Ink::Clay));
+        painter.fillRect(card.adjusted(0, 0, -1, -1), Colour(Ink::Snow));
+        painter.fillRect(card.adjusted(1, 1, -1, -1), Colour(Ink::Shell));
+    }
     painter.end();
     EngraveText(picture, 626, 58, "GROUND");
     EngraveText(picture, 252, 60, "RANK");

@@ -74,13 +74,6 @@ void Texts(QImage& window) {
     }
 }
 
-void Box(QImage& window, int left, int top, int width, int height) {
-    for (int y = top; y < top + height; ++y) {
-        for (int x = left; x < left + width; ++x)
-            window.setPixel(x, y, qRgb(24, 44, 79));
-    }
-}
-
 }  // namespace
 
 QImage MockFile(const FileParts& parts) {
@@ -102,7 +95,6 @@ QImage MockFile(const FileParts& parts) {
             Place(window, 26 + place % 5 * 110, 417 + place / 5 * 40, parts.awards[i]);
     }
     Place(window, 536, 424, FileButton(8).copy(0, 0, 49, 17));
-    Box(window, 224, 24, 297, 19);
     return window;
 }
 

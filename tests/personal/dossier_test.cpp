@@ -1,6 +1,8 @@
 // The sheet of a soldier's file: who he is, his bars, his ribbons, and the button for the rest.
 #include "personal/dossier.h"
 
+#include <cmath>
+
 #include "personal/info_form.h"
 #include "personal/personal_file.h"
 #include "platform/keys.h"
@@ -64,6 +66,42 @@ TEST_F(DossierTest, FourBarsOfTheSheetStandUnderOtherLabels) {
         EXPECT_NE(frmInfo.canvas.Pixel(last, c.y), blank.Pixel(last, c.y)) << c.y;
         EXPECT_EQ(frmInfo.canvas.Pixel(last + 1, c.y), blank.Pixel(last + 1, c.y)) << c.y;
     }
+}
+
+// Relative luminance and contrast as accessibility guidelines define them.
+double Luminance(Colour colour) {
+    constexpr double Weights[] = {0.0722, 0.7152, 0.2126};  // blue, green, red
+    double sum = 0;
+    for (int channel = 0; channel < 3; ++channel) {
+        const double share = static_cast<double>(colour >> 8 * channel & 0xFF) / 255;
+        sum += Weights[channel] * (share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4));
+    }
+    return sum;
+}
+
+TEST_F(DossierTest, TheTextBoxesCanBeReadOnTheSheet) {
+    for (const TextBox* box : {&frmInfo.txtAPC, &frmInfo.txtFullname}) {
+        ASSERT_TRUE(box->SeeThrough);
+        for (int y = box->Top + 1; y < box->Top + box->Height - 1; ++y) {
+            for (int x = box->Left + 1; x < box->Left + box->Width - 1; ++x) {
+                const double ground = Luminance(StoredPicture("frmInfo.bmp").Pixel(x, y));
+                ASSERT_GE((ground + 0.05) / (Luminance(box->ForeColor) + 0.05), 4.5) << x << "," << y;
+            }
+        }
+    }
+}
+
+// A look leaves 150 in perception; its bar is as long as ever, and goes beneath the list's plate.
+TEST_F(DossierTest, TheLongestBarEndsBeneathTheGroundList) {
+    UnitTable[curUnit].perception = 150;
+    LoadInfo();
+    constexpr int BarY = 195;
+    constexpr int OnBar = 640;
+    const Picture& sheet = StoredPicture("frmInfo.bmp");
+    EXPECT_NE(frmInfo.canvas.Pixel(OnBar, BarY), sheet.Pixel(OnBar, BarY));
+    const ImageControl& plate = frmInfo.imgGround;
+    EXPECT_TRUE(plate.Visible);
+    EXPECT_EQ(plate.Picture->Pixel(OnBar - plate.Left, BarY - plate.Top), sheet.Pixel(OnBar, BarY));
 }
 
 TEST_F(DossierTest, TheButtonBringsTheInformationAndThenLeavesTheFile) {
