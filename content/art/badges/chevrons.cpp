@@ -1,5 +1,6 @@
 #include "badges/chevrons.h"
 
+#include <array>
 #include <cmath>
 
 #include "kit/canvas.h"
@@ -13,7 +14,7 @@ namespace {
 constexpr int Size = 32;
 constexpr int LettersTop = 12;
 constexpr int LettersBottom = 22;
-constexpr double Middle = 10.5;  // of the three letters, which begin left of the picture
+constexpr double Middle = 10.5;  // of the three letters, in columns 0 to 24 and rows 13 to 21
 constexpr double Half = 9.2;
 constexpr double Up = -1.5708;
 
@@ -21,6 +22,7 @@ enum class Device { None, Star, Bar, TwoBars, Leaf, Eagle };
 enum class Foot { None, Line, TwoLines, Laurel, Sabres };
 
 struct Badge {
+    const char* rank;
     int chevrons, rockers;
     int squares;  // on a warrant officer's bar, 0 for no bar
     Device device;
@@ -29,32 +31,32 @@ struct Badge {
     Foot foot;
 };
 
-constexpr std::array<Badge, RankNames.size()> Badges{{
-    // chevrons, rockers, squares, device, stars, metal, foot
-    {1, 0, 0, Device::None, 0, Ink::Gold, Foot::None},         // pvt
-    {1, 1, 0, Device::None, 0, Ink::Gold, Foot::None},         // pfc
-    {2, 0, 0, Device::None, 0, Ink::Gold, Foot::None},         // lcp
-    {2, 1, 0, Device::None, 0, Ink::Gold, Foot::None},         // cpl
-    {3, 0, 0, Device::None, 0, Ink::Gold, Foot::None},         // sgt
-    {3, 1, 0, Device::None, 0, Ink::Gold, Foot::None},         // ssg
-    {3, 2, 0, Device::None, 0, Ink::Gold, Foot::None},         // sfc
-    {3, 3, 0, Device::None, 0, Ink::Gold, Foot::None},         // msg
-    {3, 3, 0, Device::Star, 0, Ink::Gold, Foot::None},         // sgm
-    {0, 0, 1, Device::None, 0, Ink::Chalk, Foot::Line},        // wo1
-    {0, 0, 2, Device::None, 0, Ink::Chalk, Foot::Line},        // cw2
-    {0, 0, 3, Device::None, 0, Ink::Chalk, Foot::Line},        // cw3
-    {0, 0, 4, Device::None, 0, Ink::Chalk, Foot::Line},        // cw4
-    {0, 0, 5, Device::None, 0, Ink::Chalk, Foot::TwoLines},    // cw5
-    {0, 0, 0, Device::Bar, 0, Ink::Gold, Foot::Line},          // 2lt
-    {0, 0, 0, Device::Bar, 0, Ink::Snow, Foot::Line},          // 1lt
-    {0, 0, 0, Device::TwoBars, 0, Ink::Snow, Foot::TwoLines},  // cpt
-    {0, 0, 0, Device::Leaf, 0, Ink::Gold, Foot::Laurel},       // maj
-    {0, 0, 0, Device::Leaf, 0, Ink::Snow, Foot::Laurel},       // ltc
-    {0, 0, 0, Device::Eagle, 0, Ink::Snow, Foot::Laurel},      // col
-    {0, 0, 0, Device::None, 1, Ink::Snow, Foot::Sabres},       // brg
-    {0, 0, 0, Device::None, 2, Ink::Snow, Foot::Sabres},       // mag
-    {0, 0, 0, Device::None, 3, Ink::Snow, Foot::Sabres},       // ltg
-    {0, 0, 0, Device::None, 4, Ink::Snow, Foot::Sabres},       // gen
+constexpr std::array<Badge, 24> Badges{{
+    // rank, chevrons, rockers, squares, device, stars, metal, foot
+    {"pvt", 1, 0, 0, Device::None, 0, Ink::Gold, Foot::None},
+    {"pfc", 1, 1, 0, Device::None, 0, Ink::Gold, Foot::None},
+    {"lcp", 2, 0, 0, Device::None, 0, Ink::Gold, Foot::None},
+    {"cpl", 2, 1, 0, Device::None, 0, Ink::Gold, Foot::None},
+    {"sgt", 3, 0, 0, Device::None, 0, Ink::Gold, Foot::None},
+    {"ssg", 3, 1, 0, Device::None, 0, Ink::Gold, Foot::None},
+    {"sfc", 3, 2, 0, Device::None, 0, Ink::Gold, Foot::None},
+    {"msg", 3, 3, 0, Device::None, 0, Ink::Gold, Foot::None},
+    {"sgm", 3, 3, 0, Device::Star, 0, Ink::Gold, Foot::None},
+    {"wo1", 0, 0, 1, Device::None, 0, Ink::Chalk, Foot::Line},
+    {"cw2", 0, 0, 2, Device::None, 0, Ink::Chalk, Foot::Line},
+    {"cw3", 0, 0, 3, Device::None, 0, Ink::Chalk, Foot::Line},
+    {"cw4", 0, 0, 4, Device::None, 0, Ink::Chalk, Foot::Line},
+    {"cw5", 0, 0, 5, Device::None, 0, Ink::Chalk, Foot::TwoLines},
+    {"2lt", 0, 0, 0, Device::Bar, 0, Ink::Gold, Foot::Line},
+    {"1lt", 0, 0, 0, Device::Bar, 0, Ink::Snow, Foot::Line},
+    {"cpt", 0, 0, 0, Device::TwoBars, 0, Ink::Snow, Foot::TwoLines},
+    {"maj", 0, 0, 0, Device::Leaf, 0, Ink::Gold, Foot::Laurel},
+    {"ltc", 0, 0, 0, Device::Leaf, 0, Ink::Snow, Foot::Laurel},
+    {"col", 0, 0, 0, Device::Eagle, 0, Ink::Snow, Foot::Laurel},
+    {"brg", 0, 0, 0, Device::None, 1, Ink::Snow, Foot::Sabres},
+    {"mag", 0, 0, 0, Device::None, 2, Ink::Snow, Foot::Sabres},
+    {"ltg", 0, 0, 0, Device::None, 3, Ink::Snow, Foot::Sabres},
+    {"gen", 0, 0, 0, Device::None, 4, Ink::Snow, Foot::Sabres},
 }};
 
 void Metal(Relief& relief, const QPainterPath& shape, Ink ink, double rim = 1.5) {
@@ -176,10 +178,7 @@ void LayFoot(Relief& relief, const Badge& badge) {
     }
 }
 
-}  // namespace
-
-QImage Chevron(std::size_t rank) {
-    const Badge& badge = Badges[rank];
+QImage Chevron(const Badge& badge) {
     Relief relief(Size, Size, 1, 8);
     Stripes(relief, badge);
     if (badge.squares > 0) Bar(relief, badge.squares);
@@ -191,6 +190,17 @@ QImage Chevron(std::size_t rank) {
             picture.setPixel(x, y, 0u);
     }
     return picture;
+}
+
+}  // namespace
+
+Drawings ChevronDrawings() {
+    Drawings drawings;
+    for (const Badge& badge : Badges)
+        drawings.push_back({.name = badge.rank,
+                            .draw = Alone([&badge] { return Chevron(badge); }),
+                            .note = std::string("row ") + badge.rank + " of Badges"});
+    return drawings;
 }
 
 }  // namespace art

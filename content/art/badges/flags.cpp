@@ -1,10 +1,18 @@
 #include "badges/flags.h"
 
-#include <algorithm>
+#include <vector>
+
+#include "badges/flag_cloth.h"
 
 namespace art {
+namespace {
 
 using namespace badge;
+
+struct FlagRow {
+    const char* name;
+    std::vector<Cloth> layers;
+};
 
 const std::vector<FlagRow>& Flags() {
     static const std::vector<FlagRow> table = {
@@ -268,8 +276,15 @@ const std::vector<FlagRow>& Flags() {
     return table;
 }
 
-QImage Flag(std::string_view name) {
-    return Sewn(std::ranges::find(Flags(), name, &FlagRow::name)->layers);
+}  // namespace
+
+Drawings FlagDrawings() {
+    Drawings drawings;
+    for (const FlagRow& flag : Flags())
+        drawings.push_back({.name = flag.name,
+                            .draw = Alone([&flag] { return Sewn(flag.layers); }),
+                            .note = std::string("row ") + flag.name + " of badges/flags.cpp"});
+    return drawings;
 }
 
 QImage OwnFlag() {

@@ -1,24 +1,13 @@
 // Countries' flags for soldiers' files and weapons' makers.
 #pragma once
 
-#include <string_view>
-#include <vector>
-
-#include <QImage>
-
-#include "badges/flag_cloth.h"
+#include "kit/drawing.h"
 
 namespace art {
 
-struct FlagRow {
-    const char* name;  // two capitals, or "void" for no country
-    std::vector<Cloth> layers;
-};
-
-// Every country that a soldier or a maker can come from.
-const std::vector<FlagRow>& Flags();
-
-QImage Flag(std::string_view name);
+// Every country that a soldier or a maker can come from, by two capitals, and "void" for no country; 18
+// by 12.
+Drawings FlagDrawings();
 
 // The flag that the panel shows before any weapon was looked up: the squad's own.
 QImage OwnFlag();

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <mutex>
 #include <string>
 
 #include "badges/medals_table.h"
@@ -267,10 +268,8 @@ void PutDrums(QImage& picture, int times) {
     }
 }
 
-}  // namespace
-
-QImage AwardBase(int award) {
-    const AwardLook& look = AwardLooks()[static_cast<std::size_t>(award)];
+// An award before any device.
+QImage DrawBase(const AwardLook& look) {
     Relief relief(Width, Height, 2, Fine, 120);
     Ground(relief);
     switch (look.form) {
@@ -297,9 +296,17 @@ QImage AwardBase(int award) {
     return picture;
 }
 
-QImage AwardPicture(const QImage& base, int award, int times) {
-    const AwardLook& look = AwardLooks()[static_cast<std::size_t>(award)];
-    QImage picture = base;
+// Its twenty pictures share it.
+const QImage& Base(std::size_t award) {
+    static std::array<std::once_flag, AwardKinds> drawn;
+    static std::array<QImage, AwardKinds> bases;
+    std::call_once(drawn[award], [&] { bases[award] = DrawBase(AwardLooks()[award]); });
+    return bases[award];
+}
+
+QImage AwardPicture(std::size_t award, int times) {
+    const AwardLook& look = AwardLooks()[award];
+    QImage picture = Base(award);
     if (look.form == AwardForm::Counter) {
         PutDrums(picture, times);
         return picture;
@@ -312,6 +319,29 @@ QImage AwardPicture(const QImage& base, int award, int times) {
     if (look.form == AwardForm::Medal) PutDevices(picture, MedalRibbon, true, times - 1);
     if (look.form == AwardForm::Ribbon) PutDevices(picture, WideRibbon, false, times - 1);
     return picture;
+}
+
+}  // namespace
+
+std::vector<std::string> AwardsOften() {
+    std::vector<std::string> paths;
+    for (int award = 0; award < AwardKinds; ++award)
+        paths.push_back("pic/awards/" + TwoDigits(award) + TwoDigits(1 + award * 7 % AwardTimes) + ".bmp");
+    return paths;
+}
+
+Drawings AwardDrawings() {
+    Drawings drawings;
+    for (std::size_t award = 0; award < AwardKinds; ++award) {
+        const std::string row =
+            std::string("row ") + AwardLooks()[award].key + " of badges/medals_table.cpp, ";
+        for (int times = 1; times <= AwardTimes; ++times)
+            drawings.push_back(
+                {.name = TwoDigits(static_cast<int>(award)) + TwoDigits(times),
+                 .draw = Alone([=] { return AwardPicture(award, times); }),
+                 .note = row + "won " + std::to_string(times) + (times == 1 ? " time" : " times")});
+    }
+    return drawings;
 }
 
 }  // namespace art

@@ -1,17 +1,17 @@
-// Medals, ribbons and bars for the awards plate, each with the number of times it was won.
+// The awards' pictures for the file window: medals with ribbons, plain ribbons, bars and counters.
 #pragma once
 
-#include <QImage>
+#include "kit/drawing.h"
 
 namespace art {
 
 constexpr int AwardKinds = 25;
 constexpr int AwardTimes = 20;
 
-// An award before any device: 105 by 41.
-QImage AwardBase(int award);
+// Award 00 to 24, won 01 to 20 times, as AATT; 105 by 41.
+Drawings AwardDrawings();
 
-// The same, won so many times (1 to 20): devices on the ribbon and the number. `base` is its AwardBase.
-QImage AwardPicture(const QImage& base, int award, int times);
+// The paths of all awards, each won another number of times; for mock pictures.
+std::vector<std::string> AwardsOften();
 
 }  // namespace art

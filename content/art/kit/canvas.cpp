@@ -63,35 +63,14 @@ Masked MaskOut(const QImage& settled) {
     return result;
 }
 
-QImage Rimmed(const QImage& figure, int shadow) {
-    const auto shown = [](const QImage& picture, int x, int y) {
-        return picture.valid(x, y) && qAlpha(picture.pixel(x, y)) > 0;
-    };
-    QImage rimmed = figure;
-    for (int y = 0; y < figure.height(); ++y) {
-        for (int x = 0; x < figure.width(); ++x) {
-            const bool beside = shown(figure, x - 1, y) || shown(figure, x + 1, y) ||
-                                shown(figure, x, y - 1) || shown(figure, x, y + 1);
-            if (beside && !shown(figure, x, y)) rimmed.setPixel(x, y, Colour(Ink::Soot).rgb());
-        }
-    }
-    QImage shaded = rimmed;
-    for (int y = 0; y < figure.height(); ++y) {
-        for (int x = 0; x < figure.width(); ++x) {
-            for (int away = shadow; away > 0 && !shown(rimmed, x, y); --away) {
-                const bool whole = away < shadow || (x + y) % 2 == 0;
-                if (whole && shown(rimmed, x - away, y - away))
-                    shaded.setPixel(x, y, Colour(Ink::Pine).rgb());
-            }
-        }
-    }
-    return shaded;
-}
-
 QImage Sheet(int width, int height, QRgb colour) {
     QImage sheet(width, height, QImage::Format_ARGB32);
     sheet.fill(colour);
     return sheet;
+}
+
+QImage CellOf(const QImage& sheet, int column, int row) {
+    return sheet.copy(column * CellSize, row * CellSize, CellSize, CellSize);
 }
 
 QImage Enlarged(const QImage& picture, int times) {

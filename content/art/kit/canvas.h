@@ -30,12 +30,11 @@ struct Masked {
 };
 Masked MaskOut(const QImage& settled);
 
-// A dark line all around sets a see-through picture off from any ground, and its shadow, that many pixels
-// long to the south-east and broken up at its end, lifts it.
-QImage Rimmed(const QImage& figure, int shadow);
-
 // An opaque sheet of one colour.
 QImage Sheet(int width, int height, QRgb colour = 0xff000000);
+
+// One cell of a sheet of cells.
+QImage CellOf(const QImage& sheet, int column, int row);
 
 // Every pixel as a square of that many.
 QImage Enlarged(const QImage& picture, int times);

@@ -2,9 +2,7 @@
 
 #include <fcntl.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <iostream>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -17,6 +15,7 @@
 #include <QString>
 #include <QtEndian>
 
+#include "kit/fault.h"
 #include "kit/palette.h"
 
 namespace art {
@@ -27,8 +26,7 @@ constexpr int SeeThrough = GifColours - 1;
 static_assert(InkCount < GifColours);
 
 [[noreturn]] void Fail(const std::string& path) {
-    std::cerr << "sarnoth_art: can't write " << path << '\n';
-    std::exit(EXIT_FAILURE);
+    throw Fault("can't write " + path);
 }
 
 ColorMapObject* InkMap() {
@@ -121,10 +119,6 @@ void PictureWriter::Write(const std::string& name, const QImage& picture) const 
     if (flat && indexed) return WriteIndexedBmp(path.string(), picture);
     const QImage stored = flat ? picture.convertToFormat(QImage::Format_RGB888) : picture;
     if (!stored.save(QString::fromStdString(path.string()), flat ? "BMP" : "PNG")) Fail(path.string());
-}
-
-std::string TwoDigits(int number) {
-    return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
 }  // namespace art

@@ -1,5 +1,4 @@
-// Puts finished pictures on disk. Each routine prints what failed and ends the program: a build without its
-// pictures is no build.
+// Puts finished pictures on disk. What can't be written is a Fault.
 #pragma once
 
 #include <string>
@@ -19,8 +18,5 @@ class PictureWriter {
   private:
     std::string folder;
 };
-
-// A number with leading zeros to at least two digits, as the numbered pictures are named.
-std::string TwoDigits(int number);
 
 }  // namespace art

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 
 #include <QPainter>
 
@@ -17,6 +18,8 @@ namespace {
 constexpr float LightAcross = -0.52f;
 constexpr float LightUp = 0.68f;
 constexpr float Contrast = 0.85f;
+constexpr std::uint32_t GrainSeed = 1;
+constexpr std::uint32_t BumpSeed = 8;
 constexpr float Darkest = 0.42f;
 constexpr float Brightest = 1.6f;
 
@@ -39,8 +42,7 @@ int Channel(float sum, float count) {
     return std::clamp(static_cast<int>(std::lround(sum / count)), 0, 255);
 }
 
-}  // namespace
-
+// Distance of each point of a grey mask to its edge, in points, row by row.
 std::vector<float> InnerDistance(const QImage& mask) {
     const int w = mask.width();
     const int h = mask.height();
@@ -80,11 +82,14 @@ std::vector<float> InnerDistance(const QImage& mask) {
     return distance;
 }
 
+// How far up a solid has risen, 0 to 1, at a distance from its edge: a quarter circle of radius `round`.
 float Rise(float distance, float round) {
     if (round <= 0 || distance >= round) return 1;
     const float left = 1 - distance / round;
     return std::sqrt(1 - left * left);
 }
+
+}  // namespace
 
 Relief::Relief(int shownWidth, int shownHeight, int hiddenMargin, int finePoints, float grainPeriod)
     : width(shownWidth),
@@ -135,14 +140,14 @@ void Relief::Lay(const QPainterPath& path, const Solid& solid) {
                                       static_cast<std::size_t>(x);
             const float risen =
                 distance.empty() ? 1 : Rise(distance[place] / static_cast<float>(fine), solid.round);
-            const float rough = solid.grain > 0 ? Noise(px, py, solid.grainSize, period, solid.seed) : 0;
-            const float dent = solid.bump > 0 ? Noise(px, py, solid.grainSize, period, solid.seed + 7) : 0;
+            const float rough = solid.grain > 0 ? Noise(px, py, solid.grainSize, period, GrainSeed) : 0;
+            const float dent = solid.bump > 0 ? Noise(px, py, solid.grainSize, period, BumpSeed) : 0;
             Texel& texel = texels[Index(column, line)];
             Blend(texel, solid.colour, 1 + solid.grain * rough, share);
             texel.height =
                 std::lerp(texel.height, solid.base + solid.height * risen + solid.bump * dent, share);
             texel.glow = std::lerp(texel.glow, solid.glow, share);
-            if (solid.covers) texel.cover = std::max(texel.cover, share);
+            texel.cover = std::max(texel.cover, share);
         }
     }
 }

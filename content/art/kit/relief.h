@@ -2,8 +2,7 @@
 // the north-west when it is rendered, so that whatever is drawn casts its shadow to the south-east by itself.
 #pragma once
 
-#include <algorithm>
-#include <cstdint>
+#include <cstddef>
 #include <vector>
 
 #include <QColor>
@@ -21,16 +20,8 @@ struct Solid {
     float grain = 0.06f;      // how much its lightness varies, as a share
     float grainSize = 1.25f;  // width of the grain's bumps
     float bump = 0;           // roughness of its surface
-    std::uint32_t seed = 1;
-    float glow = 0;      // how much it shines by itself: 1 knows no light side and no shadow
-    bool covers = true;  // belongs to the shape that a sprite or overlay shows
+    float glow = 0;           // how much it shines by itself: 1 knows no light side and no shadow
 };
-
-// Distance of each point of a grey mask to its edge, in points, row by row.
-std::vector<float> InnerDistance(const QImage& mask);
-
-// How far up a solid has risen, 0 to 1, at a distance from its edge: a quarter circle of radius `round`.
-float Rise(float distance, float round);
 
 struct Texel {
     float red = 0, green = 0, blue = 0;
@@ -43,8 +34,7 @@ class Relief {
   public:
     // `margin` pixels around the picture are drawn and lit too but never shown: what stands or runs there
     // casts its shadow in. `period` is the repeat of all grain.
-    explicit Relief(int shownWidth = 20, int shownHeight = 20, int hiddenMargin = 8, int finePoints = 6,
-                    float grainPeriod = 20);
+    Relief(int shownWidth, int shownHeight, int hiddenMargin, int finePoints, float grainPeriod = 20);
 
     void Lay(const QPainterPath& path, const Solid& solid);
     void LayLine(const QPainterPath& line, double width, const Solid& solid,
@@ -68,15 +58,6 @@ class Relief {
         }
     }
 
-    // Where a path lies, one byte a point, for routines that look at it from displaced places.
-    QImage Stencil(const QPainterPath& path) const { return MaskOf(path, QRect(0, 0, columns, rows)); }
-    bool Inside(const QImage& stencil, float x, float y) const {
-        return stencil.constScanLine(ToPoint(y, rows))[ToPoint(x, columns)] > 127;
-    }
-
-    // The point at a place in pixels, for taking over parts of another relief of the same measures.
-    const Texel& At(float x, float y) const { return texels[Index(ToPoint(x, columns), ToPoint(y, rows))]; }
-
     // The lit picture without its margin. Opaque, or see-through where no solid covers.
     QImage Render(bool seeThrough = false) const;
 
@@ -91,10 +72,6 @@ class Relief {
     }
     float ToPixel(int point) const {
         return (static_cast<float>(point) + 0.5f) / static_cast<float>(fine) - static_cast<float>(margin);
-    }
-    int ToPoint(float pixel, int count) const {
-        return std::clamp(static_cast<int>((pixel + static_cast<float>(margin)) * static_cast<float>(fine)),
-                          0, count - 1);
     }
     QRect PointsOf(const QPainterPath& path) const;
     QImage MaskOf(const QPainterPath& path, const QRect& points) const;

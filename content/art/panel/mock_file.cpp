@@ -1,13 +1,12 @@
 #include "panel/mock_file.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <string_view>
 
-#include "badges/chevrons.h"
-#include "badges/flags.h"
+#include "badges/medals.h"
 #include "kit/canvas.h"
-#include "panel/file_buttons.h"
 #include "panel/typewriter_glyphs.h"
 
 namespace art {
@@ -41,13 +40,6 @@ constexpr Lying Things[] = {
     {"m2420", 622, 68},    {"ak31", 622, 118},   {"7ak31", 659, 168},  {"etool", 622, 218},
     {"m249200", 622, 268}, {"pack", 277, 168},
 };
-
-const QImage* Find(const std::vector<NamedPicture>& pictures, std::string_view name) {
-    for (const NamedPicture& picture : pictures) {
-        if (picture.name == name) return &picture.picture;
-    }
-    return nullptr;
-}
 
 // Yellow fades to black along the bar.
 void Bar(QImage& window, int value, int top) {
@@ -83,25 +75,20 @@ void Box(QImage& window, int left, int top, int width, int height) {
 
 }  // namespace
 
-QImage MockFile(const FileParts& parts) {
-    QImage window = parts.sheet;
-    Place(window, 78, 69, parts.face);
+QImage MockFile(const Pictures& pictures) {
+    QImage window = pictures("stored/frmInfo.bmp");
+    Place(window, 78, 69, pictures("pic/faces/usa01.bmp"));
     Texts(window);
-    constexpr std::size_t Captain = 16;
-    Place(window, 264, 72, Chevron(Captain));
-    Place(window, 490, 90, Flag("US"));
-    if (const QImage* pack = Find(*parts.packs, "infoPack6")) Place(window, 277, 218, *pack);
-    for (const Lying& thing : Things) {
-        if (const QImage* picture = Find(*parts.things, thing.name))
-            Place(window, thing.x, thing.y, *picture);
-    }
-    Place(window, 246, 219, Flag("US"));
-    for (std::size_t i = 0; i < parts.awards.size(); ++i) {
-        const int place = static_cast<int>(i);
-        if (!parts.awards[i].isNull())
-            Place(window, 26 + place % 5 * 110, 417 + place / 5 * 40, parts.awards[i]);
-    }
-    Place(window, 536, 424, FileButton(8).copy(0, 0, 49, 17));
+    Place(window, 264, 72, pictures("pic/chevrons/cpt.gif"));
+    Place(window, 490, 90, pictures("pic/flags/US.gif"));
+    Place(window, 277, 218, pictures("pic/inv/infoPack6.bmp"));
+    for (const Lying& thing : Things)
+        Place(window, thing.x, thing.y, pictures(std::string("pic/inv/") + thing.name + ".gif"));
+    Place(window, 246, 219, pictures("pic/flags/US.gif"));
+    const std::vector<std::string> awards = AwardsOften();
+    for (int i = 0; i < static_cast<int>(awards.size()); ++i)
+        Place(window, 26 + i % 5 * 110, 417 + i / 5 * 40, pictures(awards[static_cast<std::size_t>(i)]));
+    Place(window, 536, 424, pictures("stored/imgBut8.bmp").copy(0, 0, 49, 17));
     Box(window, 224, 24, 297, 19);
     return window;
 }

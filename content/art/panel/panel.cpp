@@ -19,7 +19,7 @@ constexpr int Height = 200;
 constexpr int Fine = 3;
 constexpr double SteelDither = 0.018;
 
-constexpr QRect BarsFrame(423, 75, 210, 31);
+constexpr QRect BarsArea(423, 75, 210, 31);
 constexpr QRect WeaponBox(656, 31, 117, 42);
 constexpr QRect DurabilityColumn(776, 31, 5, 42);
 constexpr QRect DigitWindow(613, 75, 18, 31);
@@ -147,7 +147,7 @@ void Letter(QImage& picture) {
 
 }  // namespace
 
-PanelPictures DrawPanel() {
+QImage Panel() {
     Relief relief(Width, Height, 2, Fine, 1000);
     SteelGround(relief, Ink::Armour, Ink::Plate);
     relief.Lay(Rect(-4, 158, Width + 8, 3),
@@ -162,7 +162,19 @@ PanelPictures DrawPanel() {
     Vents(relief);
     QImage picture = Settle(relief.Render(), SteelDither);
     Letter(picture);
-    return {picture, picture.copy(BarsFrame), picture.copy(WeaponBox), picture.copy(DurabilityColumn)};
+    return picture;
+}
+
+QImage BarsFrame(const QImage& panel) {
+    return panel.copy(BarsArea);
+}
+
+QImage WeaponBoard(const QImage& panel) {
+    return panel.copy(WeaponBox);
+}
+
+QImage ColumnFrame(const QImage& panel) {
+    return panel.copy(DurabilityColumn);
 }
 
 }  // namespace art

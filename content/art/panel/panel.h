@@ -5,13 +5,11 @@
 
 namespace art {
 
-struct PanelPictures {
-    QImage panel;        // 801 by 200
-    QImage barsFrame;    // 210 by 31
-    QImage weaponBox;    // 117 by 42
-    QImage columnFrame;  // 5 by 42, the durability column
-};
+QImage Panel();  // 801 by 200
 
-PanelPictures DrawPanel();
+// Pieces of the finished panel.
+QImage BarsFrame(const QImage& panel);    // 210 by 31
+QImage WeaponBoard(const QImage& panel);  // 117 by 42
+QImage ColumnFrame(const QImage& panel);  // 5 by 42, the durability column
 
 }  // namespace art

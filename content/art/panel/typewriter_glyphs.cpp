@@ -83,19 +83,12 @@ bool Printed(std::size_t glyph, int x, int y) {
 }  // namespace
 
 QImage TypewriterStrip() {
-    QImage strip = Sheet(StripWidth, 2 * TypeCell);
-    for (int y = 0; y < TypeCell; ++y) {
-        for (int x = 0; x < StripWidth; ++x)
-            strip.setPixel(x, y, 0xffffffff);
-    }
+    QImage strip = Sheet(StripWidth, TypeCell, 0u);
     for (std::size_t glyph = 0; glyph < Types.size(); ++glyph) {
         for (int i = 0; i < TypeCell * TypeCell; ++i) {
             const int x = i % TypeCell;
             const int y = i / TypeCell;
-            if (!Printed(glyph, x, y)) continue;
-            const int left = static_cast<int>(glyph) * TypePitch + x;
-            strip.setPixel(left, y, 0xff000000);
-            strip.setPixel(left, TypeCell + y, Tone(y));
+            if (Printed(glyph, x, y)) strip.setPixel(static_cast<int>(glyph) * TypePitch + x, y, Tone(y));
         }
     }
     return strip;

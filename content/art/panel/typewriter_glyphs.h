@@ -13,7 +13,7 @@ constexpr int TypePitch = 9;  // from one glyph to the next in the strip
 // In the order of the strip.
 inline constexpr std::string_view TypeOrder = "ABCDEFGHIJKLMNOPQRSTUVWXYZ.,'\":;-_!?#%0123456789";
 
-// 450 by 16: masks, black on white, above the colours on black.
+// 450 by 8, see-through around the letters.
 QImage TypewriterStrip();
 
 // Stamps a line of text with its shadow, pen at (x, y), as the game does; for mock pictures.

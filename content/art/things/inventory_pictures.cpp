@@ -6,6 +6,7 @@
 #include "kit/shapes.h"
 #include "things/ammunition.h"
 #include "things/guns.h"
+#include "things/pistols.h"
 #include "things/small_arms.h"
 
 namespace art {
@@ -16,10 +17,6 @@ constexpr int SmallWidth = 42;
 constexpr int Height = 42;
 constexpr int Fine = 3;
 constexpr double Dither = 0.01;
-
-Relief Board(bool wide) {
-    return Relief(wide ? LongWidth : SmallWidth, Height, 2, Fine, 120);
-}
 
 // A dark line around a thing parts it from any board behind.
 QImage Outlined(const QImage& picture) {
@@ -84,85 +81,111 @@ QImage PackBoard(int pockets) {
     return Settle(relief.Render(), 0.02);
 }
 
-QImage Done(const Relief& relief) {
+QImage Drawn(bool wide, const std::function<void(Relief&)>& lay) {
+    Relief relief(wide ? LongWidth : SmallWidth, Height, 2, Fine, 120);
+    lay(relief);
     return Outlined(Settle(relief.Render(true), Dither));
+}
+
+Drawing Thing(std::string name, bool wide, std::function<void(Relief&)> lay, std::string source,
+              std::string note) {
+    return {std::move(name), Alone([wide, lay = std::move(lay)] { return Drawn(wide, lay); }),
+            std::move(source), std::move(note)};
 }
 
 // The feeds that a weapon is shown with: none and each size, or a plain picture for one that takes no
 // magazine.
 struct Feeding {
-    std::string suffix;
+    std::string suffix, note;
     int capacity;
 };
 
 std::vector<Feeding> Feedings(const char* feedKind) {
-    if (std::string_view(feedKind).empty()) return {{"", 0}};
-    std::vector<Feeding> feedings{{"0", 0}};
+    if (std::string_view(feedKind).empty()) return {{"", "", 0}};
+    std::vector<Feeding> feedings{{"0", ", without a magazine", 0}};
     for (const int size : SizesOf(feedKind))
-        feedings.push_back({std::to_string(size), size});
+        feedings.push_back({std::to_string(size), ", with " + std::to_string(size) + " rounds", size});
     return feedings;
 }
 
-void AddGuns(std::vector<NamedPicture>& pictures) {
+std::string RowOf(const std::string& name, const char* table) {
+    return "row " + name + " of " + table;
+}
+
+void AddGuns(Drawings& drawings, bool wide) {
     for (const Gun& gun : Guns()) {
-        for (const Feeding& feeding : Feedings(gun.feedKind)) {
-            Relief relief = Board(!IsSmall(gun));
-            LayGun(relief, gun, feeding.capacity);
-            pictures.push_back({gun.name + feeding.suffix, Done(relief)});
-        }
+        if (IsSmall(gun) == wide) continue;
+        for (const Feeding& feeding : Feedings(gun.feedKind))
+            drawings.push_back(Thing(
+                gun.name + feeding.suffix, wide,
+                [&gun, feeding](Relief& relief) { LayGun(relief, gun, feeding.capacity); },
+                "things/guns.cpp:LayGun", RowOf(gun.name, "things/guns_table.cpp") + feeding.note));
     }
 }
 
-void AddPistols(std::vector<NamedPicture>& pictures) {
+void AddPistols(Drawings& drawings) {
     for (const Pistol& pistol : Pistols()) {
-        for (const Feeding& feeding : Feedings(pistol.feedKind)) {
-            Relief relief = Board(false);
-            LayPistol(relief, pistol, feeding.capacity);
-            pictures.push_back({pistol.name + feeding.suffix, Done(relief)});
-        }
+        for (const Feeding& feeding : Feedings(pistol.feedKind))
+            drawings.push_back(Thing(
+                pistol.name + feeding.suffix, false,
+                [&pistol, feeding](Relief& relief) { LayPistol(relief, pistol, feeding.capacity); },
+                "things/pistols.cpp:LayPistol", RowOf(pistol.name, "Pistols") + feeding.note));
     }
 }
 
-void AddAmmo(std::vector<NamedPicture>& pictures) {
+// As it lies in a slot, as the pointer carries it out of a weapon, and a lone grenade.
+std::vector<std::string> AmmoNames(const AmmoKind& kind, int size) {
+    const std::string count = std::to_string(size);
+    if (kind.holder != Holder::Round) return {kind.name + count, count + kind.name};
+    if (size != kind.sizes.front()) return {count + kind.name};
+    return {count + kind.name, std::string(kind.name) + "he"};
+}
+
+void AddAmmo(Drawings& drawings) {
     for (const AmmoKind& kind : AmmoKinds()) {
-        const bool grenade = kind.holder == Holder::Round;
-        for (const int size : kind.sizes) {
-            if (size == 0) continue;
-            Relief relief = Board(false);
-            LayAmmo(relief, kind, size);
-            const QImage picture = Done(relief);
-            if (!grenade) pictures.push_back({kind.name + std::to_string(size), picture});
-            pictures.push_back({std::to_string(size) + kind.name, picture});
-            if (grenade && size == kind.sizes.front())
-                pictures.push_back({std::string(kind.name) + "he", picture});
+        for (const int size : SizesOf(kind.name)) {
+            for (const std::string& name : AmmoNames(kind, size))
+                drawings.push_back(Thing(
+                    name, false, [&kind, size](Relief& relief) { LayAmmo(relief, kind, size); },
+                    "things/ammunition.cpp:LayAmmo",
+                    RowOf(kind.name, "AmmoKinds") + ", " + std::to_string(size) + " rounds"));
         }
     }
 }
 
-void AddSimple(std::vector<NamedPicture>& pictures) {
+void AddSimple(Drawings& drawings, bool wide) {
     for (const SimpleThing& thing : SimpleThings()) {
-        Relief relief = Board(thing.wide);
-        thing.draw(relief);
-        pictures.push_back({thing.name, Done(relief)});
+        if (thing.wide == wide)
+            drawings.push_back(Thing(thing.name, wide, thing.draw,
+                                     std::string("things/small_arms.cpp:") + thing.routine, ""));
     }
 }
 
 }  // namespace
 
-std::vector<NamedPicture> InventoryPictures() {
-    std::vector<NamedPicture> pictures;
-    AddGuns(pictures);
-    AddPistols(pictures);
-    AddAmmo(pictures);
-    AddSimple(pictures);
-    return pictures;
+Drawings LongThings() {
+    Drawings drawings;
+    AddGuns(drawings, true);
+    AddSimple(drawings, true);
+    return drawings;
 }
 
-std::vector<NamedPicture> PackBoards() {
-    std::vector<NamedPicture> pictures;
+Drawings SmallThings() {
+    Drawings drawings;
+    AddGuns(drawings, false);
+    AddPistols(drawings);
+    AddAmmo(drawings);
+    AddSimple(drawings, false);
+    return drawings;
+}
+
+Drawings PackBoards() {
+    Drawings drawings;
     for (const int pockets : {3, 6, 9, 12})
-        pictures.push_back({"infoPack" + std::to_string(pockets), PackBoard(pockets)});
-    return pictures;
+        drawings.push_back({.name = "infoPack" + std::to_string(pockets),
+                            .draw = Alone([pockets] { return PackBoard(pockets); }),
+                            .note = std::to_string(pockets) + " pockets"});
+    return drawings;
 }
 
 }  // namespace art

@@ -5,21 +5,14 @@
 // that is added to the catalogue needs a row in one of the tables from which this is made.
 #pragma once
 
-#include <string>
-#include <vector>
-
-#include <QImage>
+#include "kit/drawing.h"
 
 namespace art {
 
-struct NamedPicture {
-    std::string name;
-    QImage picture;
-};
-
-std::vector<NamedPicture> InventoryPictures();
+Drawings LongThings();   // 117 by 42
+Drawings SmallThings();  // 42 by 42
 
 // The open packs of 3, 6, 9 and 12 pockets, 142 by 192.
-std::vector<NamedPicture> PackBoards();
+Drawings PackBoards();
 
 }  // namespace art

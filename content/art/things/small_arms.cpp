@@ -4,18 +4,10 @@
 #include <cmath>
 
 #include "kit/shapes.h"
+#include "things/piece.h"
 
 namespace art {
 namespace {
-
-Solid Piece(Ink ink, float height = 1.6f, float base = 0, float round = 1.6f) {
-    return {.colour = Between(ink, Ink::Chalk, 0.1),
-            .height = height,
-            .base = base,
-            .round = round,
-            .grain = 0.06f,
-            .grainSize = 1.4f};
-}
 
 // A blade from the guard to its tip, lit along the edge, with a handle behind.
 void Blade(Relief& relief, double length, double width, double handle, Ink grip, bool doubleEdged) {
@@ -293,98 +285,83 @@ void Papers(Relief& relief) {
     }
 }
 
+void Knife(Relief& relief) {
+    Blade(relief, 26, 7, 14, Ink::Asphalt, false);
+}
+
+void Bayonet(Relief& relief) {
+    Blade(relief, 27, 5.4, 14, Ink::Brick, true);
+}
+
+void Shuriken(Relief& relief) {
+    ThrowingStars(relief, 4, 2.6);
+}
+
+void Shaken(Relief& relief) {
+    ThrowingStars(relief, 6, 4.6);
+}
+
+void EntrenchingTool(Relief& relief) {
+    Spade(relief, 44, Ink::Olive);
+}
+
+void FoldedTool(Relief& relief) {
+    SmallSpade(relief, true);
+}
+
+void LongSpade(Relief& relief) {
+    Spade(relief, 76, Ink::Slate);
+}
+
+void ShortSpade(Relief& relief) {
+    SmallSpade(relief, false);
+}
+
+void RoundGrenade(Relief& relief) {
+    Grenade(relief, 10.5, 10.5, Ink::Olive, Ink::Gold);
+}
+
+void MarkedGrenade(Relief& relief) {
+    Grenade(relief, 10.5, 10.5, Ink::Khaki, Ink::Crimson);
+}
+
+void SlimGrenade(Relief& relief) {
+    Grenade(relief, 9, 11.5, Ink::Moss, Ink::Gold);
+}
+
 }  // namespace
-
-const std::vector<Pistol>& Pistols() {
-    using enum Ink;
-    static const std::vector<Pistol> table = {
-        // name      feed     slide barrel grip rake  slim   metal    plates
-        {"luger", "", 20, 12, 18, 6.5, true, Slate, Timber},
-        {"lahti", "", 21, 11, 18, 5.5, true, Slate, Iron},
-        {"glock17", "9para", 30, 1, 17, 3.5, false, Asphalt, Iron},
-        {"glock18", "9para", 30, 3, 17, 3.5, false, Asphalt, Iron},
-        {"p226", "9para", 31, 1, 18, 3, false, Slate, Iron},
-        {"m9", "9para", 31, 3, 18, 3, false, Slate, Asphalt},
-        {"usp", "9para", 32, 1, 18, 2.5, false, Asphalt, Asphalt},
-        {"hipower", "9para", 31, 1, 18, 3, false, Slate, Bark},
-        {"cz75", "9para", 32, 1, 18, 3.6, false, Ash, Bark},
-        {"fn57", "57fn", 33, 1, 18, 2.4, false, Asphalt, Slate},
-    };
-    return table;
-}
-
-void LayPistol(Relief& relief, const Pistol& pistol, int capacity) {
-    const double x = (42 - pistol.slide - pistol.barrel) / 2;
-    constexpr double Top = 9;
-    const double gripTop = Top + 9;
-    const double grip = x + 3.4;
-    if (capacity > 0) {
-        const double drop = capacity > 17 ? std::sqrt(capacity) * 1.1 : 1.6;
-        relief.Lay(Polygon({{grip + 1 - pistol.rake, gripTop + 6},
-                            {grip + 8 - pistol.rake, gripTop + 6},
-                            {grip + 8 - pistol.rake * 1.2, gripTop + pistol.grip + drop},
-                            {grip + 0.6 - pistol.rake * 1.2, gripTop + pistol.grip + drop}}),
-                   Piece(Ink::Ash, 1.2f));
-    }
-    relief.Lay(Polygon({{grip - 1, gripTop - 3},
-                        {grip + 10, gripTop - 3},
-                        {grip + 9.4 - pistol.rake, gripTop + pistol.grip},
-                        {grip - 0.6 - pistol.rake, gripTop + pistol.grip}}),
-               Piece(pistol.plates, 2.2f, 0, 2.6f));
-    for (const double y : Steps(gripTop + 3, gripTop + pistol.grip - 2, 2))
-        relief.StainLine(Trace({{grip + 1 - pistol.rake * 0.6, y}, {grip + 7 - pistol.rake * 0.6, y}}), 0.7,
-                         Colour(Ink::Soot), 0.5);
-    QPainterPath bow(QPointF(grip + 9, gripTop - 1));
-    bow.lineTo(grip + 10, gripTop + 5);
-    bow.lineTo(grip + 16, gripTop + 5);
-    bow.lineTo(grip + 17.4, gripTop - 1);
-    relief.LayLine(bow, 1.4, Piece(pistol.metal, 1));
-    relief.LayLine(Trace({{grip + 13, gripTop}, {grip + 12.4, gripTop + 3.4}}), 1, Piece(Ink::Ash, 1));
-    relief.Lay(Rect(x + 1, Top + 5, pistol.slide - 2, 4.6, 1),
-               Piece(pistol.plates == Ink::Iron ? Ink::Iron : pistol.metal, 2));
-    if (pistol.slim)
-        relief.Lay(Rect(x + pistol.slide - 2, Top + 1.4, pistol.barrel + 2, 3, 1), Piece(pistol.metal, 2));
-    relief.Lay(Rect(x, Top, pistol.slide + (pistol.slim ? 0 : pistol.barrel * 0.4), 6.4, 1),
-               Piece(pistol.metal, 2.6f));
-    if (!pistol.slim)
-        relief.Lay(Rect(x + pistol.slide, Top + 1.6, pistol.barrel, 2.6), Piece(Ink::Ash, 1.4f));
-    for (const double at : {2.0, 4.0, 6.0})
-        relief.StainLine(Trace({{x + at, Top + 0.8}, {x + at, Top + 5.4}}), 0.8, Colour(Ink::Soot), 0.8);
-    relief.Stain(Rect(x + pistol.slide * 0.48, Top + 0.8, 6, 2.2), Colour(Ink::Soot), 0.9);
-    relief.Lay(Rect(x + pistol.slide - 3, Top - 1.4, 2, 2), Piece(pistol.metal, 2));
-}
 
 const std::vector<SimpleThing>& SimpleThings() {
     static const std::vector<SimpleThing> table = {
-        {"hand", false, Fist},
-        {"knife", false, [](Relief& r) { Blade(r, 26, 7, 14, Ink::Asphalt, false); }},
-        {"bayonet", false, [](Relief& r) { Blade(r, 27, 5.4, 14, Ink::Brick, true); }},
-        {"kukri", false, Kukri},
-        {"machete", true, Machete},
-        {"tomahawk", false, Tomahawk},
-        {"thronives", false, ThrowingKnives},
-        {"shuriken", false, [](Relief& r) { ThrowingStars(r, 4, 2.6); }},
-        {"shaken", false, [](Relief& r) { ThrowingStars(r, 6, 4.6); }},
-        {"etool", true, [](Relief& r) { Spade(r, 44, Ink::Olive); }},
-        {"etoolfold", false, [](Relief& r) { SmallSpade(r, true); }},
-        {"bsl", true, [](Relief& r) { Spade(r, 76, Ink::Slate); }},
-        {"mpl", false, [](Relief& r) { SmallSpade(r, false); }},
-        {"m67", false, [](Relief& r) { Grenade(r, 10.5, 10.5, Ink::Olive, Ink::Gold); }},
-        {"m67a2", false, [](Relief& r) { Grenade(r, 10.5, 10.5, Ink::Khaki, Ink::Crimson); }},
-        {"m367", false, [](Relief& r) { Grenade(r, 9, 11.5, Ink::Moss, Ink::Gold); }},
-        {"c4", false, Block},
-        {"crossbow", true, Crossbow},
-        {"airpipe", true, Blowpipe},
-        {"med", false, MedicalKit},
-        {"helmet", false, Helmet},
-        {"vest", false, Vest},
-        {"pack", false, Pack},
-        {"radio", false, Radio},
-        {"binocular", false, Binocular},
-        {"map", false, FieldMap},
-        {"canteen", false, Canteen},
-        {"ration", false, Ration},
-        {"papers", false, Papers},
+        {"hand", false, Fist, "Fist"},
+        {"knife", false, Knife, "Knife"},
+        {"bayonet", false, Bayonet, "Bayonet"},
+        {"kukri", false, Kukri, "Kukri"},
+        {"machete", true, Machete, "Machete"},
+        {"tomahawk", false, Tomahawk, "Tomahawk"},
+        {"thronives", false, ThrowingKnives, "ThrowingKnives"},
+        {"shuriken", false, Shuriken, "Shuriken"},
+        {"shaken", false, Shaken, "Shaken"},
+        {"etool", true, EntrenchingTool, "EntrenchingTool"},
+        {"etoolfold", false, FoldedTool, "FoldedTool"},
+        {"bsl", true, LongSpade, "LongSpade"},
+        {"mpl", false, ShortSpade, "ShortSpade"},
+        {"m67", false, RoundGrenade, "RoundGrenade"},
+        {"m67a2", false, MarkedGrenade, "MarkedGrenade"},
+        {"m367", false, SlimGrenade, "SlimGrenade"},
+        {"c4", false, Block, "Block"},
+        {"crossbow", true, Crossbow, "Crossbow"},
+        {"airpipe", true, Blowpipe, "Blowpipe"},
+        {"med", false, MedicalKit, "MedicalKit"},
+        {"helmet", false, Helmet, "Helmet"},
+        {"vest", false, Vest, "Vest"},
+        {"pack", false, Pack, "Pack"},
+        {"radio", false, Radio, "Radio"},
+        {"binocular", false, Binocular, "Binocular"},
+        {"map", false, FieldMap, "FieldMap"},
+        {"canteen", false, Canteen, "Canteen"},
+        {"ration", false, Ration, "Ration"},
+        {"papers", false, Papers, "Papers"},
     };
     return table;
 }

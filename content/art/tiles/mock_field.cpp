@@ -1,17 +1,15 @@
 #include "tiles/mock_field.h"
 
 #include <array>
+#include <string>
 #include <string_view>
 
 #include "kit/canvas.h"
-#include "kit/joints.h"
 #include "kit/noise.h"
 #include "kit/palette.h"
 #include "panel/digits.h"
-#include "panel/slate.h"
 #include "panel/stance_buttons.h"
-#include "people/people.h"
-#include "people/sprites.h"
+#include "tiles/joints.h"
 
 namespace art {
 namespace {
@@ -39,7 +37,7 @@ constexpr std::array<std::string_view, Rows> Plan{
 
 struct Pick {
     char sign;
-    std::size_t row, column;
+    int row, column;
 };
 
 constexpr Pick Single[] = {
@@ -66,17 +64,17 @@ Joint Around(int x, int y, std::string_view signs) {
     return {joins(x - 1, y), joins(x + 1, y), joins(x, y - 1), joins(x, y + 1)};
 }
 
-std::size_t JointColumn(const Joint& wanted) {
+int JointColumn(const Joint& wanted) {
     for (std::size_t i = 0; i < Joints.size(); ++i) {
         const Joint& joint = Joints[i];
         if (joint.west == wanted.west && joint.east == wanted.east && joint.north == wanted.north &&
             joint.south == wanted.south)
-            return i;
+            return static_cast<int>(i);
     }
     return 0;
 }
 
-std::size_t WaterColumn(int x, int y) {
+int WaterColumn(int x, int y) {
     const auto land = [](int nx, int ny) { return At(nx, ny) != '\0' && !OneOf(At(nx, ny), "~=H"); };
     const bool n = land(x, y - 1), s = land(x, y + 1), w = land(x - 1, y), e = land(x + 1, y);
     if (n && w) return 5;
@@ -102,21 +100,17 @@ bool Enclosed(int x, int y) {
 
 struct Line {
     char sign;
-    std::size_t row;
+    int row;
     std::string_view joins;
 };
 
 constexpr Line Lines[] = {{'#', 3, "#WD"},  {'%', 5, "%"}, {'C', 4, "C"}, {'r', 6, "r=:h"},
                           {'h', 11, "hHs"}, {'n', 7, "n"}, {'x', 8, "x"}, {'f', 12, "fG"}};
 
-const QImage& TileAt(const std::vector<TileClass>& classes, int x, int y, Dice& dice) {
+QImage TileAt(const QImage& map, int x, int y, Dice& dice) {
     const char sign = At(x, y);
-    const auto tile = [&](std::size_t row, std::size_t column) -> const QImage& {
-        return classes[row].tiles[column];
-    };
-    const auto any = [&](std::size_t first, int count) {
-        return first + static_cast<std::size_t>(dice.Pick(count));
-    };
+    const auto tile = [&](int row, int column) { return CellOf(map, column, row); };
+    const auto any = [&](int first, int count) { return first + dice.Pick(count); };
     for (const Line& line : Lines) {
         if (line.sign == sign) return tile(line.row, JointColumn(Around(x, y, line.joins)));
     }
@@ -148,66 +142,79 @@ constexpr Man Men[] = {{14, 8, 0, 2, 0}, {15, 9, 0, 1, 4},  {13, 10, 0, 3, 0}, {
                        {6, 14, 2, 2, 3}, {30, 10, 2, 3, 6}, {2, 2, 0, 2, 5},   {6, 4, 0, 1, 0},
                        {9, 19, 0, 3, 7}};
 
-void Field(QImage& window, const std::vector<TileClass>& classes, const TileRow& tops) {
+void PlaceInCell(QImage& window, int x, int y, const QImage& picture) {
     constexpr int Left = 20;
     constexpr int Top = 10;
+    Place(window, Left + x * CellSize, Top + y * CellSize, picture);
+}
+
+void Ground(QImage& window, const QImage& map) {
+    constexpr int VariousRow = 10;
     Dice dice(1201);
     for (int y = 0; y < Rows; ++y) {
         for (int x = 0; x < Columns; ++x)
-            Place(window, Left + x * CellSize, Top + y * CellSize, TileAt(classes, x, y, dice));
+            PlaceInCell(window, x, y, TileAt(map, x, y, dice));
     }
-    const TileRow& various = classes[10].tiles;
-    for (int i = 0; i < 8; ++i) {
-        Place(window, Left + (2 + i % 4) * CellSize, Top + (20 + i / 4) * CellSize,
-              various[18 + static_cast<std::size_t>(i)]);
-    }
-    for (const Man& man : Men) {
-        Place(window, Left + man.x * CellSize, Top + man.y * CellSize,
-              Soldier(man.team, man.stance, man.facing));
-        if (At(man.x, man.y) == 'T' || At(man.x, man.y) == 'o' || At(man.x, man.y) == 'c') {
-            Place(window, Left + man.x * CellSize, Top + man.y * CellSize,
-                  tops[At(man.x, man.y) == 'c' ? 14 : 0]);
-        }
-    }
-    Place(window, Left + 12 * CellSize, Top + 13 * CellSize, SpritePicture(DeadSprite));
-    Place(window, Left + 5 * CellSize, Top + 8 * CellSize, SpritePicture(PileSprite));
-    Place(window, Left + 17 * CellSize, Top + 5 * CellSize, SpritePicture(ChargeSprite));
+    for (int i = 0; i < 8; ++i)
+        PlaceInCell(window, 2 + i % 4, 20 + i / 4, CellOf(map, 18 + i, VariousRow));
 }
 
-void Panel(QImage& window, const QImage& panel) {
-    constexpr int PanelTop = 470;
-    Place(window, 0, PanelTop, panel);
-    const QImage digits = BarDigits();
+void Units(QImage& window, const Pictures& pictures) {
+    constexpr int Stances = 4;
+    const QImage people = pictures("stored/picPeople.bmp");
+    const QImage tops = pictures("stored/picForest.bmp");
+    const QImage sprites = pictures("stored/picSprites.bmp");
+    for (const Man& man : Men) {
+        const char sign = At(man.x, man.y);
+        PlaceInCell(window, man.x, man.y, CellOf(people, man.team * Stances + man.stance, man.facing));
+        if (OneOf(sign, "Toc")) PlaceInCell(window, man.x, man.y, CellOf(tops, sign == 'c' ? 14 : 0, 0));
+    }
+    PlaceInCell(window, 17, 5, CellOf(sprites, 12, 0));
+    PlaceInCell(window, 5, 8, CellOf(sprites, 13, 0));
+    PlaceInCell(window, 12, 13, CellOf(sprites, 14, 0));
+}
+
+void LayBars(QImage& window, const Pictures& pictures, int top) {
+    const QImage digits = pictures("stored/picBarDigits.bmp");
     constexpr std::array<int, BarCount> Values{112, 87, 100, 68};
     for (int bar = 0; bar < BarCount; ++bar) {
         const int value = Values[static_cast<std::size_t>(bar)];
-        Place(window, 472, PanelTop + 77 + bar * 8, BarStrip(bar).copy(0, 0, value, 3));
+        const QImage strip = pictures("stored/imgBar" + std::to_string(bar) + ".bmp");
+        Place(window, 472, top + 77 + bar * 8, strip.copy(0, 0, value, 3));
         for (int place = 0, unit = 100; place < 3; ++place, unit /= 10) {
-            Place(window, 614 + place * 5, PanelTop + 76 + bar * 8,
+            Place(window, 614 + place * 5, top + 76 + bar * 8,
                   digits.copy(value / unit % 10 * 5, bar * 6, 5, 6));
         }
     }
+}
+
+void LayPanel(QImage& window, const Pictures& pictures) {
+    constexpr int Top = 470;
+    Place(window, 0, Top, pictures("stored/picSlateD.bmp"));
+    LayBars(window, pictures, Top);
     for (int button = 0; button < StanceButtons; ++button) {
-        Place(window, button == FireSwitch ? 616 : 471 + button * 35, PanelTop + 48,
-              StanceButton(button, button == 2));
+        const std::string state = button == 2 ? "on" : "off";
+        Place(window, button == FireSwitch ? 616 : 471 + button * 35, Top + 48,
+              pictures("pic/stance" + std::to_string(button) + state + ".gif"));
     }
-    Place(window, 448, PanelTop + 8, EnemyCounter(3));
-    Place(window, 777, PanelTop + 32 + 12, DurabilityFill(3).copy(0, 0, 3, 28));
-    Place(window, 777, PanelTop + 32, DurabilityCover().copy(0, 0, 3, 6));
+    Place(window, 448, Top + 8, pictures("pic/counter/03.bmp"));
+    Place(window, 777, Top + 32 + 12, pictures("pic/wea_75.gif").copy(0, 0, 3, 28));
+    Place(window, 777, Top + 32, pictures("stored/imgBarWcover.bmp").copy(0, 0, 3, 6));
 }
 
 }  // namespace
 
-QImage MockWindow(const std::vector<TileClass>& classes, const TileRow& tops, const QImage& panel) {
+QImage MockWindow(const Pictures& pictures) {
     QImage window = Sheet(799, 636);
-    Field(window, classes, tops);
-    Place(window, 780, 2, RightFrame());
-    Place(window, 0, 10, LeftFrame());
-    Place(window, 0, 0, UpperFrame());
-    Place(window, 20 + 14 * CellSize, 0, ColumnMark());
-    Place(window, 780, 2 + 10 + 8 * CellSize, RowMark());
+    Ground(window, pictures("stored/picMap.bmp"));
+    Units(window, pictures);
+    Place(window, 780, 2, pictures("stored/picSlateR.bmp"));
+    Place(window, 0, 10, pictures("stored/picSlateL.bmp"));
+    Place(window, 0, 0, pictures("stored/picSlateU.bmp"));
+    Place(window, 20 + 14 * CellSize, 0, pictures("stored/imgMarkH.gif"));
+    Place(window, 780, 2 + 10 + 8 * CellSize, pictures("stored/imgMarkV.gif"));
     const QImage field = window.copy(20, 10, Columns * CellSize, Rows * CellSize);
-    Panel(window, panel);
+    LayPanel(window, pictures);
     Place(window, 16, 510, field.scaled(76, 46, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     return window;
 }
