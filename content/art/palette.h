@@ -94,6 +94,17 @@ enum class Ink : std::uint8_t {
     Petal,
     // enamel and silk that no field picture needs
     Plum,
+    // the sky behind portraits, then flesh and hair of portraits, dark to light
+    Haze,
+    Raven,
+    Dusk,
+    Mauve,
+    Sienna,
+    Copper,
+    Terracotta,
+    Peach,
+    Apricot,
+    Blush,
     Count
 };
 
