@@ -89,7 +89,7 @@ Ink NearestInk(QRgb colour, double lift, Palette palette) {
     }();
     Lab wanted = ToLab(colour);
     wanted.lightness += lift;
-    const std::size_t count = palette == Palette::Field ? FieldInkCount : InkCount;
+    const std::size_t count = palette == Palette::Field ? FieldInkCount : DrawnInkCount;
     std::size_t best = 0;
     for (std::size_t i = 1; i < count; ++i) {
         if (Apart(labs[i], wanted) < Apart(labs[best], wanted)) best = i;
