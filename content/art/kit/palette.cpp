@@ -22,7 +22,9 @@ const std::array<InkRow, InkCount> Inks{{
     {0xff1f7440, "emerald"},    {0xff3f70b4, "cobalt"},    {0xff243f79, "navy"},     {0xff0a1326, "midnight"},
     {0xff101f3a, "harbour"},    {0xff182c4f, "serge"},     {0xff25406c, "gunmetal"}, {0xff37598c, "denim"},
     {0xff7190bb, "frost"},      {0xff70452f, "umber"},     {0xffb57f5e, "rose"},     {0xffe6c3a1, "fair"},
-    {0xfff3dac6, "petal"},      {0xff5c3170, "plum"},
+    {0xfff3dac6, "petal"},      {0xff5c3170, "plum"},      {0xff2e4e77, "haze"},     {0xff050406, "raven"},
+    {0xff554342, "dusk"},       {0xff6e5957, "mauve"},     {0xff94553e, "sienna"},   {0xffaf6946, "copper"},
+    {0xffcd855c, "terracotta"}, {0xffe49665, "peach"},     {0xffeeab7b, "apricot"},  {0xfffcc395, "blush"},
 }};
 
 namespace {
@@ -87,7 +89,7 @@ Ink NearestInk(QRgb colour, double lift, Palette palette) {
     }();
     Lab wanted = ToLab(colour);
     wanted.lightness += lift;
-    const std::size_t count = palette == Palette::Field ? FieldInkCount : InkCount;
+    const std::size_t count = palette == Palette::Field ? FieldInkCount : DrawnInkCount;
     std::size_t best = 0;
     for (std::size_t i = 1; i < count; ++i) {
         if (Apart(labs[i], wanted) < Apart(labs[best], wanted)) best = i;

@@ -94,6 +94,17 @@ enum class Ink : std::uint8_t {
     Petal,
     // enamel and silk that no field picture needs
     Plum,
+    // the sky behind portraits, then their flesh and hair, dark to light; only hand files use these
+    Haze,
+    Raven,
+    Dusk,
+    Mauve,
+    Sienna,
+    Copper,
+    Terracotta,
+    Peach,
+    Apricot,
+    Blush,
     Count
 };
 
@@ -101,6 +112,8 @@ constexpr std::size_t InkCount = static_cast<std::size_t>(Ink::Count);
 // What the field and all that stands, lies, flies and burns on it settle on.
 constexpr std::size_t FieldInkCount = static_cast<std::size_t>(Ink::Midnight);
 static_assert(FieldInkCount <= 64);
+// What any drawing settles on: inks mixed for portraits must not change the tones of the windows and medals.
+constexpr std::size_t DrawnInkCount = static_cast<std::size_t>(Ink::Haze);
 
 struct InkRow {
     QRgb colour;
@@ -114,8 +127,8 @@ QColor Colour(Ink ink);
 // A colour between two inks; share 0 gives the first.
 QColor Between(Ink first, Ink second, double share);
 
-// Which inks a picture may settle on: the field keeps to its own, so that a tone added for the file window
-// leaves every tile as it is.
+// Which inks a drawing may settle on: the field keeps to its own, so that a tone added for the file window
+// leaves every tile as it is. Whole is all inks but those of hand files.
 enum class Palette : std::uint8_t { Field, Whole };
 
 // The ink that looks nearest to a colour whose lightness is moved by `lift` (0 to 1 is black to white).
