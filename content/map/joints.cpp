@@ -1,6 +1,9 @@
 #include "joints.h"
 
+#include <algorithm>
 #include <cstdint>
+
+#include "edges.h"
 
 namespace {
 
@@ -8,19 +11,9 @@ struct Side {
     int dx, dy, bit;
 };
 
-enum SideBit {
-    West = 1,
-    East = 2,
-    North = 4,
-    South = 8,
-    NorthWest = 16,
-    NorthEast = 32,
-    SouthWest = 64,
-    SouthEast = 128
-};
+enum SideBit { West = 1, East = 2, North = 4, South = 8 };
 
 constexpr Side Sides[] = {{-1, 0, West}, {1, 0, East}, {0, -1, North}, {0, 1, South}};
-constexpr Side Corners[] = {{-1, -1, NorthWest}, {1, -1, NorthEast}, {-1, 1, SouthWest}, {1, 1, SouthEast}};
 
 struct Joint {
     int sides;  // bits of the sides on which the line goes on
@@ -45,18 +38,6 @@ constexpr Joint Joints[] = {
     {South, 1, 13},
     {North, 1, 14},
 };
-
-struct Bank {
-    int land;  // bits of the sides with land
-    int column;
-};
-
-constexpr Bank Banks[] = {
-    {North, 1},        {South, 2},        {West, 3},         {East, 4},
-    {North | West, 5}, {North | East, 6}, {South | West, 7}, {South | East, 8},
-};
-
-constexpr Bank CornerBanks[] = {{NorthWest, 9}, {NorthEast, 10}, {SouthWest, 11}, {SouthEast, 12}};
 
 bool GoesOnInto(const MapSource& map, const Glyph& glyph, int x, int y) {
     if (!OnMap(x, y) || !map.At(x, y).links) return false;
@@ -123,24 +104,58 @@ int PickColumn(const Glyph& glyph, int x, int y) {
     return glyph.columns[ChoiceAt(x, y, glyph.columns.size())];
 }
 
+// One of the columns of a kind; the list holds those of all kinds, once or several times.
+int EdgeColumn(const std::vector<int>& columns, int kinds, EdgeKind kind, int x, int y) {
+    const auto each = static_cast<std::size_t>(kinds);
+    return columns[ChoiceAt(x, y, columns.size() / each) * each + static_cast<std::size_t>(kind)];
+}
+
 int BankColumn(const MapSource& map, int x, int y) {
-    int land = 0;
-    for (const Side& side : Sides) {
-        if (IsLand(map, x + side.dx, y + side.dy)) land |= side.bit;
-    }
-    for (const Bank& bank : Banks) {
-        if (bank.land == land) return bank.column;
-    }
-    if (land != 0) {
+    const Glyph& glyph = map.At(x, y);
+    const EdgeKind kind = EdgeKindOf([&](int dx, int dy) { return IsLand(map, x + dx, y + dy); });
+    if (kind == EdgeKind::None) return PickColumn(glyph, x, y);
+    if (kind == EdgeKind::HemmedIn) {
         throw SourceError(map.Place(x, y), "this water is hemmed in", "land on one side or on two that meet");
     }
-    for (const Side& corner : Corners) {
-        if (!IsLand(map, x + corner.dx, y + corner.dy)) continue;
-        for (const Bank& bank : CornerBanks) {
-            if (bank.land == corner.bit) return bank.column;
-        }
+    return EdgeColumn(glyph.banks, BankKinds, kind, x, y);
+}
+
+int LayColumn(const Glyph& glyph, int x, int y) {
+    const int height = static_cast<int>(glyph.columns.size()) / glyph.width;
+    return glyph.columns[static_cast<std::size_t>(y % height * glyph.width + x % glyph.width)];
+}
+
+// What lies beyond the field is like the cell itself.
+bool IsForeign(const MapSource& map, const Fringe& fringe, char own, int x, int y) {
+    if (!OnMap(x, y)) return false;
+    const char glyph = map.GlyphAt(x, y);
+    const bool named = fringe.glyphs.find(glyph) != std::string::npos;
+    return fringe.toward ? named : !named && glyph != own;
+}
+
+int FringeColumn(const MapSource& map, int x, int y) {
+    for (const Fringe& fringe : map.At(x, y).fringes) {
+        const EdgeKind kind = EdgeKindOf(
+            [&](int dx, int dy) { return IsForeign(map, fringe, map.GlyphAt(x, y), x + dx, y + dy); });
+        if (kind == EdgeKind::None) continue;
+        const int column = EdgeColumn(fringe.columns, EdgeKinds, kind, x, y);
+        if (column != OwnColumn) return column;
     }
-    return PickColumn(map.At(x, y), x, y);
+    return OwnColumn;
+}
+
+int SurroundedColumn(const MapSource& map, int x, int y) {
+    for (const Surroundings& rule : map.At(x, y).surroundings) {
+        int count = 0;
+        for (int i = 0; i < 9; ++i) {
+            const int nx = x + i % 3 - 1, ny = y + i / 3 - 1;
+            if (!OnMap(nx, ny) || i == 4) continue;
+            count += static_cast<int>(
+                std::count(rule.terrains.begin(), rule.terrains.end(), map.At(nx, ny).terrain));
+        }
+        if (count >= rule.neighbours) return rule.column;
+    }
+    return OwnColumn;
 }
 
 // The drawing starts where neither the west nor the north neighbour has the glyph, and must be whole.
@@ -168,7 +183,7 @@ int BlockColumn(const MapSource& map, int x, int y) {
     return glyph.columns.front() + (y - top) * glyph.width + (x - left);
 }
 
-int ColumnOf(const MapSource& map, int x, int y) {
+int ColumnOfWay(const MapSource& map, int x, int y) {
     const Glyph& glyph = map.At(x, y);
     switch (glyph.way) {
         case Way::Join:
@@ -180,9 +195,18 @@ int ColumnOf(const MapSource& map, int x, int y) {
             return BankColumn(map, x, y);
         case Way::Block:
             return BlockColumn(map, x, y);
+        case Way::Lay:
+            return LayColumn(glyph, x, y);
         default:
             return PickColumn(glyph, x, y);
     }
+}
+
+int ColumnOf(const MapSource& map, int x, int y) {
+    const int fringe = FringeColumn(map, x, y);
+    if (fringe != OwnColumn) return fringe;
+    const int surrounded = SurroundedColumn(map, x, y);
+    return surrounded != OwnColumn ? surrounded : ColumnOfWay(map, x, y);
 }
 
 }  // namespace

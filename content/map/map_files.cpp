@@ -7,19 +7,19 @@ namespace {
 
 // Columns that the tile sheet draws, by class.
 constexpr std::array<int, TerrainCount> SheetTiles = {
-    16,  // surface
-    18,  // water
+    32,  // surface
+    32,  // water
     22,  // trees
-    24,  // wooden
+    27,  // wooden
     24,  // concrete
-    21,  // stone
-    21,  // roads
+    24,  // stone
+    32,  // roads
     17,  // trenches
     17,  // prickles
-    25,  // ships
-    26,  // various
-    20,  // highways
-    15,  // fence
+    28,  // ships
+    31,  // various
+    32,  // highways
+    16,  // fence
 };
 
 constexpr int BadValue = -1;

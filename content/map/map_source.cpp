@@ -1,7 +1,9 @@
 #include "map_source.h"
 
 #include <algorithm>
+#include <cstdint>
 
+#include "edges.h"
 #include "map_files.h"
 #include "platform/quoted.h"
 
@@ -17,7 +19,7 @@ struct WayRule {
 constexpr WayRule WayRules[] = {
     {"tile", Way::Tile, 1, false},   {"pick", Way::Pick, 1, false}, {"join", Way::Join, 0, true},
     {"line", Way::Line, 0, true},    {"axis", Way::Axis, 2, true},  {"banks", Way::Banks, 1, false},
-    {"block", Way::Block, 1, false},
+    {"block", Way::Block, 1, false}, {"lay", Way::Lay, 1, false},
 };
 
 constexpr int MaxRepeat = 99;
@@ -52,18 +54,33 @@ std::vector<SourceWord> SplitAt(const SourceWord& word, char mark) {
     return parts;
 }
 
-// "0x8,1-7": column 0 eight times and the columns 1 to 7 once each.
-std::vector<int> ColumnsOf(const SourceWord& word, Terrain terrain) {
+// "0x8,1-7": column 0 eight times and the columns 1 to 7 once each. With `own`, "_" is OwnColumn.
+std::vector<int> ColumnsOf(const SourceWord& word, Terrain terrain, bool own = false) {
     const int lastKnown = KnownColumns(terrain) - 1;
     std::vector<int> columns;
     for (const SourceWord& part : SplitAt(word, ',')) {
         const std::vector<SourceWord> repeat = SplitAt(part, 'x');
+        const int times = repeat.size() > 1 ? NumberOf(repeat.back(), 1, MaxRepeat, "repeat") : 1;
+        const auto count = static_cast<std::size_t>(times);
+        if (own && repeat.front().text == "_") {
+            columns.insert(columns.end(), count, OwnColumn);
+            continue;
+        }
         const std::vector<SourceWord> range = SplitAt(repeat.front(), '-');
         const int first = NumberOf(range.front(), 0, lastKnown, "column");
         const int last = NumberOf(range.back(), first, lastKnown, "column");
-        const int times = repeat.size() > 1 ? NumberOf(repeat.back(), 1, MaxRepeat, "repeat") : 1;
         for (int column = first; column <= last; ++column)
-            columns.insert(columns.end(), static_cast<std::size_t>(times), column);
+            columns.insert(columns.end(), count, column);
+    }
+    return columns;
+}
+
+// The columns of every kind of edge, once or several times.
+std::vector<int> EdgesOf(const SourceWord& word, Terrain terrain, int kinds) {
+    const std::vector<int> columns = ColumnsOf(word, terrain, true);
+    if (columns.size() % static_cast<std::size_t>(kinds) != 0) {
+        throw SourceError(word.place, std::to_string(columns.size()) + " columns of edges",
+                          std::to_string(kinds) + ", or several times as many");
     }
     return columns;
 }
@@ -87,28 +104,82 @@ const WayRule& WayRuleOf(const SourceWord& word) {
     return WayRules[IndexOf(word, names, "way to choose a tile")];
 }
 
-// The words after the columns: "also <classes>", "link", "steep", then ": description" or the end.
+std::vector<Terrain> TerrainsOf(const SourceWord& word) {
+    std::vector<Terrain> terrains;
+    for (const SourceWord& part : SplitAt(word, ','))
+        terrains.push_back(TerrainOf(part));
+    return terrains;
+}
+
+Fringe ReadFringe(LegendLine& line, Terrain terrain, bool toward) {
+    const std::string glyphs = line.Take("glyphs, with nothing between them").text;
+    return {glyphs, toward, EdgesOf(line.Take("columns of edges"), terrain, EdgeKinds)};
+}
+
+Surroundings ReadSurroundings(LegendLine& line, Terrain terrain) {
+    constexpr int AllAround = 8;
+    Surroundings rule;
+    rule.terrains = TerrainsOf(line.Take("a list of terrain classes"));
+    rule.neighbours = NumberOf(line.Take("a number of neighbours"), 1, AllAround, "number of neighbours");
+    rule.column = NumberOf(line.Take("a column"), 0, KnownColumns(terrain) - 1, "column");
+    return rule;
+}
+
+void ReadOption(const SourceWord& word, LegendLine& line, Glyph& glyph) {
+    enum Option : std::uint8_t { Also, Link, Steep, Toward, Except, Amid };
+    switch (IndexOf(word, {"also", "link", "steep", "toward", "except", "amid"}, "option")) {
+        case Also:
+            for (const Terrain terrain : TerrainsOf(line.Take("a list of terrain classes")))
+                glyph.joins.push_back(terrain);
+            break;
+        case Link:
+            glyph.links = true;
+            break;
+        case Steep:
+            glyph.steep = true;
+            break;
+        case Toward:
+            glyph.fringes.push_back(ReadFringe(line, glyph.terrain, true));
+            break;
+        case Except:
+            glyph.fringes.push_back(ReadFringe(line, glyph.terrain, false));
+            break;
+        default:
+            glyph.surroundings.push_back(ReadSurroundings(line, glyph.terrain));
+            break;
+    }
+}
+
+// The words after the columns, then ": description" or the end.
 void ReadOptions(LegendLine& line, Glyph& glyph) {
     while (!line.Empty()) {
         const SourceWord& word = line.Take("an option");
         if (word.text == ":") return;
-        switch (IndexOf(word, {"also", "link", "steep"}, "option")) {
-            case 0:
-                for (const SourceWord& part : SplitAt(line.Take("a list of terrain classes"), ',')) {
-                    glyph.joins.push_back(TerrainOf(part));
-                }
-                break;
-            case 1:
-                glyph.links = true;
-                break;
-            default:
-                glyph.steep = true;
-                break;
-        }
+        ReadOption(word, line, glyph);
     }
 }
 
-Glyph ReadGlyph(LegendLine& line) {
+// A cell that looks different must not be different: all columns by which a glyph's cell may be drawn have
+// the same rules.
+void CheckColumns(const Glyph& glyph, SourcePlace place) {
+    std::vector<int> columns = glyph.columns;
+    for (const Fringe& fringe : glyph.fringes)
+        columns.insert(columns.end(), fringe.columns.begin(), fringe.columns.end());
+    for (const Surroundings& rule : glyph.surroundings)
+        columns.push_back(rule.column);
+    const int first = columns.front();
+    for (const int column : columns) {
+        if (column == OwnColumn || (TileBlock(column, glyph.terrain) == TileBlock(first, glyph.terrain) &&
+                                    CellDurab(column, glyph.terrain) == CellDurab(first, glyph.terrain)))
+            continue;
+        throw SourceError(place,
+                          "columns " + std::to_string(first) + " and " + std::to_string(column) +
+                              " differ in strength or in what they stop",
+                          "columns that the rules take for the same");
+    }
+}
+
+Glyph ReadGlyph(LegendLine& line, SourcePlace place) {
     Glyph glyph;
     glyph.defined = true;
     glyph.terrain = TerrainOf(line.Take("a terrain class"));
@@ -120,11 +191,18 @@ Glyph ReadGlyph(LegendLine& line) {
         const std::vector<int> columns = ColumnsOf(line.Take("columns of the tile sheet"), glyph.terrain);
         glyph.columns.insert(glyph.columns.end(), columns.begin(), columns.end());
     }
+    if (glyph.way == Way::Banks)
+        glyph.banks = EdgesOf(line.Take("columns of the banks"), glyph.terrain, BankKinds);
+    if (glyph.way == Way::Lay) {
+        const SourceWord& word = line.Take("the width in cells");
+        glyph.width = NumberOf(word, 1, static_cast<int>(glyph.columns.size()), "width");
+    }
     if (glyph.way == Way::Block) {
         glyph.width = NumberOf(line.Take("the width in cells"), 1, MapWidth, "width");
         glyph.height = NumberOf(line.Take("the height in cells"), 1, MapHeight, "height");
     }
     ReadOptions(line, glyph);
+    if (glyph.way == Way::Tile || glyph.way == Way::Pick || glyph.way == Way::Lay) CheckColumns(glyph, place);
     return glyph;
 }
 
@@ -139,7 +217,7 @@ void ReadLegendLine(const std::string& text, int number, MapSource& map) {
     if (entry.defined)
         throw SourceError(key.place, "glyph " + Quoted(key.text) + " comes twice", "each glyph once");
     entry.defined = true;  // also when the rest has a fault
-    entry = ReadGlyph(line);
+    entry = ReadGlyph(line, key.place);
 }
 
 void ReadFieldLine(const std::string& text, int number, MapSource& map, std::string& row,

@@ -80,6 +80,12 @@ enum class Ink : std::uint8_t {
     Emerald,
     Cobalt,
     Navy,
+    // grass between its tones, and water between its depths and over sand: what joins on the field joins in
+    // small steps
+    Turf,
+    Lawn,
+    Current,
+    Lagoon,
     // the file window's navy steel, dark to light; field pictures never settle on these and the next
     Midnight,
     Harbour,
