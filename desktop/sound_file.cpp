@@ -96,8 +96,12 @@ Wave Load(std::string_view content, const std::string& fileName) {
 }
 
 // The curve through four neighbours, `part` of the way from the second to the third.
-double Between(double a, double b, double c, double d, double part) {
-    return b + 0.5 * part * (c - a + part * (2 * a - 5 * b + 4 * c - d + part * (3 * (b - c) + d - a)));
+float Between(const std::int16_t* four, float part) {
+    const float a = four[0];
+    const float b = four[1];
+    const float c = four[2];
+    const float d = four[3];
+    return b + 0.5F * part * (c - a + part * (2 * a - 5 * b + 4 * c - d + part * (3 * (b - c) + d - a)));
 }
 
 }  // namespace
@@ -114,19 +118,19 @@ Samples DecodeSound(std::string_view content, const SoundRequest& sound) {
 Samples DecodeLoop(std::string_view content, const std::string& fileName) {
     const Wave wave = Load(content, fileName);
     const int rate = wave.format.freq;
-    const Samples loop = Convert(wave.format, wave.Bytes(), rate, 1, rate, fileName);
-    const std::size_t length = loop.size();
-    if (length == 0 || rate <= 0) return {};
+    Samples loop = Convert(wave.format, wave.Bytes(), rate, 1, rate, fileName);
+    if (loop.empty() || rate <= 0) return {};
     const double pace = static_cast<double>(rate) / DeviceFrequency;
-    Samples samples(static_cast<std::size_t>(std::lround(static_cast<double>(length) / pace)));
+    Samples samples(static_cast<std::size_t>(static_cast<double>(loop.size()) / pace));
+    const std::int16_t last = loop.back();
+    for (std::size_t i = 0; i < 2; ++i)
+        loop.push_back(loop[i]);
+    loop.insert(loop.begin(), last);
     for (std::size_t i = 0; i < samples.size(); ++i) {
         const double place = static_cast<double>(i) * pace;
         const auto at = static_cast<std::size_t>(place);
-        const auto near = [&](std::size_t offset) {
-            return static_cast<double>(loop[(at + length - 1 + offset) % length]);
-        };
-        const double value = Between(near(0), near(1), near(2), near(3), place - static_cast<double>(at));
-        samples[i] = static_cast<std::int16_t>(std::lround(std::clamp(value, -32768.0, 32767.0)));
+        const float value = Between(&loop[at], static_cast<float>(place - static_cast<double>(at)));
+        samples[i] = static_cast<std::int16_t>(std::clamp(value, -32768.0F, 32767.0F));
     }
     return samples;
 }
