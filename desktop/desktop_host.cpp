@@ -11,6 +11,7 @@
 #include <QMessageBox>
 
 #include "desktop/squad_window.h"
+#include "shell/own_sounds.h"
 
 namespace {
 
@@ -147,6 +148,10 @@ FormWindow& DesktopHost::WindowOf(Form& form) {
 void DesktopHost::Accompany(Companion& whoGoesAlong) {
     companion = &whoGoesAlong;
     companionView = std::make_unique<CompanionView>(mainWindow, whoGoesAlong);
+    // Not while a game is played again unseen, on a host of its own.
+    companion->SoundThrough([this](const SoundRequest& sound) {
+        if (&TheHost() == this) Emit(sound);
+    });
     squadWindow =
         new SquadWindow(mainWindow, whoGoesAlong, [this](const InputEvent& event) { Receive(event); });
 }
@@ -169,7 +174,7 @@ bool DesktopHost::SkipsFilm(const InputEvent& event) {
 void DesktopHost::Screen() {
     if (companionView)
         companionView->Screen(
-            HandleEventsUntil, [this](const SoundRequest& sound) { Emit(sound); }, hastens);
+            HandleEventsUntil, [this](const SoundRequest& sound) { Play(sound); }, hastens);
 }
 
 void DesktopHost::Sync() {
@@ -182,6 +187,7 @@ void DesktopHost::Sync() {
         window->Sync();
     if (companionView) companionView->Sync();
     if (squadWindow != nullptr) squadWindow->Sync();
+    if (companion != nullptr) SoundValley();
 }
 
 void DesktopHost::Refresh(Control& control) {
@@ -255,22 +261,33 @@ void DesktopHost::ShowMessage(const std::string& text) {
     if (companion != nullptr && !missionVerdict.empty()) companion->Settle();
     Screen();
     Sync();
+    if (companion != nullptr && !missionVerdict.empty()) companion->SoundVerdict();
     if (atVerdict && !playBack && !missionVerdict.empty()) atVerdict();
     ShowBox(QMessageBox::Information, text);
 }
 
 void DesktopHost::Emit(const SoundRequest& sound) {
     if (hastens) return;
-    if (IsFilming()) return companion->Keep(sound);
-    soundDevice.Play(sound);
+    const SoundRequest take = takes.Of(sound);
+    IsFilming() ? companion->Keep(take) : Play(take);
+}
+
+void DesktopHost::Play(const SoundRequest& sound) {
+    sound.slot < FirstOwnSlot ? soundDevice.Play(sound) : soundDevice.PlayIfSound(sound);
     quiet.start();
 }
 
+void DesktopHost::SoundValley() {
+    soundDevice.SetAmbience(companion->AmbienceNow());
+    if (soundDevice.IsOpen() && !quiet.isActive()) quiet.start();
+}
+
+// With the device gone, the valley looks for another one when it is next shown.
 void DesktopHost::CloseQuietDevice() {
-    if (soundDevice.Playing())
-        quiet.start();
-    else
+    if (soundDevice.Idle())
         soundDevice.Close();
+    else if (soundDevice.IsOpen())
+        quiet.start();
 }
 
 void DesktopHost::EndProcess(int exitCode) {

@@ -14,6 +14,7 @@
 #include "desktop/sound_device.h"
 #include "platform/host.h"
 #include "shell/slips.h"
+#include "shell/takes.h"
 
 class SquadWindow;
 
@@ -94,6 +95,8 @@ class DesktopHost : public Host {
     void WaitInFilm(std::chrono::nanoseconds time, bool pump);
     bool MayEnter(const InputEvent& event);
     void Fail(const std::string& text);
+    void Play(const SoundRequest& sound);
+    void SoundValley();
     void CloseQuietDevice();
 
     const EventSink dispatch;
@@ -104,6 +107,7 @@ class DesktopHost : public Host {
     std::unique_ptr<CompanionView> companionView;
     SquadWindow* squadWindow = nullptr;  // the main window owns it
     SoundDevice soundDevice;
+    Takes takes;
     Slips slips;
     std::function<bool(const InputEvent&)> asker;  // empty: nothing is asked
     bool asking = false;
@@ -121,5 +125,5 @@ class DesktopHost : public Host {
     std::function<void()> atMessage;
     std::function<void()> atVerdict;
     bool failed = false;  // the error is being shown: ticks and the close button reach the game no more
-    QTimer quiet;         // runs out when no sound was asked for in a while
+    QTimer quiet;         // runs while the device is open, and is wound up by each sound
 };

@@ -45,6 +45,7 @@ FrontEnd::FrontEnd(DesktopHost& onHost, FormWindow& ofMain, const std::vector<co
     noteEnd.callOnTimeout(&note, &QWidget::hide);
     if (auto* const bar = window.findChild<QMenuBar*>()) FillMenu(*bar->addMenu(tr("&Help")));
     host.Sounds().SetLoudness(settings.Now().Loudness());
+    host.Sounds().LetAmbience(settings.Now().ambience);
     KeepSquadWindow();
 }
 
@@ -60,6 +61,8 @@ void FrontEnd::FillMenu(QMenu& menu) {
     AddEntry(menu, "Sound &off", FrontCommand::Mute, &Settings::muted);
     AddEntry(menu, "Lo&uder", FrontCommand::Louder);
     AddEntry(menu, "Sof&ter", FrontCommand::Softer);
+    connect(AddTick(menu, tr("&Water, wind and birds"), &Settings::ambience), &QAction::triggered, this,
+            [this](bool on) { host.Sounds().LetAmbience(on); });
     menu.addSeparator();
     if (SquadWindow* const squad = host.Squad())
         connect(AddTick(menu, tr("S&quad and log\tCtrl+B"), &Settings::squadWindowShown), &QAction::triggered,

@@ -7,19 +7,28 @@
 #include <SDL.h>
 #include <SDL_mixer.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <cstdio>
 
 #include "desktop/sound_file.h"
 #include "platform/files.h"
+#include "shell/own_sounds.h"
 
 namespace {
 
 constexpr SDL_AudioFormat DeviceFormat = AUDIO_S16SYS;
-constexpr int DeviceChunk = 1024;  // frames mixed at a time: a sound starts at most 23 ms late
-constexpr int SlotCount = 5;       // 0 is never asked for
+constexpr int DeviceChunk = 1024;           // frames mixed at a time: a sound starts at most 23 ms late
+constexpr int SlotCount = LastOwnSlot + 1;  // 0 is never asked for
 
 int MixVolume(int hundredths) {
     return (hundredths * MIX_MAX_VOLUME + 50) / 100;
+}
+
+// The mixer's thread asks for what plays below the sounds.
+void MixLoops(void* loops, Uint8* stream, int bytes) {
+    static_cast<LoopMixer*>(loops)->Mix(
+        {reinterpret_cast<std::int16_t*>(stream), static_cast<std::size_t>(bytes) / sizeof(std::int16_t)});
 }
 
 // Looking for a device, the sound system tells standard error of every one that it doesn't find.
@@ -70,13 +79,65 @@ void SoundDevice::Play(const SoundRequest& sound) {
     Mix_PlayChannel(sound.slot, &slot.chunk, 0);
 }
 
+void SoundDevice::PlayIfSound(const SoundRequest& sound) {
+    try {
+        Play(sound);
+    } catch (const RunTimeError& error) {
+        Complain(error);
+    }
+}
+
+void SoundDevice::Complain(const RunTimeError& error) {
+    if (!complained) std::fprintf(stderr, "Sarnoth III: %s\n", error.About().c_str());
+    complained = true;
+}
+
 void SoundDevice::SetLoudness(int hundredths) {
     loudness = hundredths;
     if (state == State::Open) Mix_Volume(-1, MixVolume(loudness));
+    ApplyAmbience();
+}
+
+void SoundDevice::SetAmbience(const AmbienceLevels& levels) {
+    if (levels == ambience && state != State::Closed) return;
+    ambience = levels;
+    ApplyAmbience();
+}
+
+void SoundDevice::LetAmbience(bool on) {
+    hasAmbience = on;
+    ApplyAmbience();
+}
+
+void SoundDevice::ApplyAmbience() {
+    const int audible = hasAmbience ? loudness : 0;
+    loops.SetMaster(audible / 100.0);
+    if (state == State::Closed && (audible == 0 || ambience == AmbienceLevels())) return;
+    if (!Open()) return;
+    for (std::size_t i = 0; i < ambience.size(); ++i) {
+        if (ambience[i] > 0 && audible > 0 && !loaded[i]) LoadLoop(i);
+        loops.SetLevel(i, ambience[i]);
+    }
+}
+
+void SoundDevice::LoadLoop(std::size_t loop) {
+    const std::string file = AmbienceFile(loop);
+    loaded[loop] = true;
+    if (!FileExists(file)) return;
+    try {
+        loops.SetSamples(loop, DecodeLoop(ReadWholeFile(file), file));
+    } catch (const RunTimeError& error) {
+        Complain(error);
+    }
 }
 
 bool SoundDevice::Playing() const {
     return state == State::Open && Mix_Playing(-1) > 0;
+}
+
+bool SoundDevice::Idle() const {
+    if (state != State::Open) return false;
+    return SDL_HasEvent(SDL_AUDIODEVICEREMOVED) == SDL_TRUE || (!Playing() && loops.Silent());
 }
 
 bool SoundDevice::Open() {
@@ -91,6 +152,7 @@ bool SoundDevice::Open() {
         return false;
     }
     Mix_AllocateChannels(SlotCount);
+    Mix_HookMusic(MixLoops, &loops);
     state = State::Open;
     return true;
 }

@@ -39,24 +39,27 @@ void Companion::Witness(const Happening& happening) {
     if (happening.kind == HappeningKind::MissionBegins) {
         chronicle.Clear();
         effects.Clear();
+        cues.Clear();
         film.Clear();
         report.clear();
     }
     if (happening.kind == HappeningKind::TurnBegins && happening.unit == EnemyTeam) BeginFilm();
     chronicle.Note(happening);
+    Sound(impacts.Of(happening));
     if (film.IsRunning())
         film.Keep(happening);
     else
-        effects.Add(happening, clock());
-    if (happening.kind == HappeningKind::TurnBegins && happening.unit == SquadTeam) {
-        film.NoteTurnOver();
-        turnBegan = clock();
-        if (!film.IsWorthSeeing({filmedFrom.left, filmedFrom.top, ViewWidth, ViewHeight})) {
-            film.End();
-            film.Clear();
-            Report();
-        }
-    }
+        Show(happening);
+    if (happening.kind == HappeningKind::TurnBegins && happening.unit == SquadTeam) EndFilm();
+}
+
+void Companion::Show(const Happening& happening) {
+    effects.Add(happening, clock());
+    Sound(cues.Of(happening, clock()));
+}
+
+void Companion::Sound(const std::optional<SoundRequest>& sound) const {
+    if (sound && soundOut) soundOut(*sound);
 }
 
 void Companion::BeginFilm() {
@@ -66,6 +69,17 @@ void Companion::BeginFilm() {
     film.Begin(frmField.area.canvas, {&frmField.imgBlowup, &frmField.imgCover});
 }
 
+// The computer's turn is over. What can't be seen of it isn't screened.
+void Companion::EndFilm() {
+    film.NoteTurnOver();
+    turnBegan = clock();
+    if (film.IsWorthSeeing({filmedFrom.left, filmedFrom.top, ViewWidth, ViewHeight})) return;
+    film.End();
+    film.Clear();
+    Report();
+    Sound(Cues::YourTurn());
+}
+
 bool Companion::BeginScreening(const Screening::PlaySound& play) {
     film.End();
     if (film.Frames().empty() || frmField.bigMapShown) {
@@ -73,7 +87,8 @@ bool Companion::BeginScreening(const Screening::PlaySound& play) {
         return false;
     }
     screening.emplace(film, filmedFrom, ViewNow(), clock(), play,
-                      [this](const Happening& happening) { effects.Add(happening, clock()); });
+                      [this](const Happening& happening) { Show(happening); });
+    Sound(Cues::EnemysTurn());
     return true;
 }
 
@@ -82,6 +97,7 @@ void Companion::EndScreening() {
     film.Clear();
     turnBegan = clock();
     Report();
+    if (missionVerdict.empty()) Sound(Cues::YourTurn());
 }
 
 void Companion::ForgetUnseen() {

@@ -1,20 +1,23 @@
 // What goes along with a game for the person who plays it, and is no rule of it: the chronicle, the effects
-// that linger, the computer's turn as a film, banner and report over the field. It only looks: no state, draw
-// or pump of the rules differs with it. A front end asks it what to draw, and says when something may have
-// changed.
+// that linger, the computer's turn as a film, banner and report over the field, ambience and cues. It only
+// looks: no state, draw, pump or sound of the rules differs with it. A front end asks it what to draw, and
+// says when something may have changed.
 #pragma once
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/input_event.h"
+#include "shell/ambience.h"
 #include "shell/chronicle.h"
 #include "shell/effects.h"
 #include "shell/film.h"
 #include "shell/guide.h"
 #include "shell/moment.h"
 #include "shell/onlooker.h"
+#include "shell/own_sounds.h"
 #include "shell/screening.h"
 #include "shell/sketch.h"
 
@@ -50,6 +53,14 @@ class Companion {
     /// The mission has ended, maybe in the middle of a shot.
     void Settle() { onlooker.Settle(); }
 
+    /// Its own sounds go to `out` from now on, each when the player sees what it belongs to; those of a shot
+    /// on film as soon as the rules' own.
+    void SoundThrough(Screening::PlaySound out) { soundOut = std::move(out); }
+    void SoundVerdict() { Sound(Cues::OfVerdict(missionVerdict)); }
+
+    /// What is to be heard of the valley now.
+    const AmbienceLevels& AmbienceNow() { return ambience.Levels(); }
+
     const Chronicle& TheChronicle() const { return chronicle; }
 
     /// The computer's turns are filmed from now on: the front end shows nothing while one is, doesn't wait,
@@ -68,7 +79,10 @@ class Companion {
 
   private:
     void Witness(const Happening& happening);
+    void Show(const Happening& happening);
+    void Sound(const std::optional<SoundRequest>& sound) const;
     void BeginFilm();
+    void EndFilm();
     void Report();
     void DrawBanner();
     void DrawReport();
@@ -77,6 +91,10 @@ class Companion {
     Chronicle chronicle;
     Effects effects;
     Guide guide;
+    Impacts impacts;
+    Cues cues;
+    Ambience ambience;
+    Screening::PlaySound soundOut;  // empty: nobody hears them
     Film film;
     std::optional<Screening> screening;
     bool filmsTurns = false;

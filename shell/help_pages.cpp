@@ -59,6 +59,7 @@ constexpr KeyRow WindowAndSound[] = {
     {"The squad and the log, beside the field", "Help",                         "Ctrl+B; F6 takes the keys there and back"},
     {"Sound off, and on",                   "Help",                           "Ctrl+M"},
     {"Louder, softer",                      "Help",                           "Ctrl+Shift+up, Ctrl+Shift+down"},
+    {"Water, wind and birds, or none",      "Help",                           ""},
     // clang-format on
 };
 

@@ -30,6 +30,7 @@ constexpr Row Rows[] = {
     {"full screen",           nullptr, &Settings::fullScreen,              0, 0,             "yes or no"},
     {"volume",               &Settings::volume, nullptr,                   0, 100,           "0 to 100"},
     {"muted",                 nullptr, &Settings::muted,                   0, 0,             "yes or no"},
+    {"ambience",              nullptr, &Settings::ambience,                0, 0,             "yes or no"},
     {"ask before end turn",   nullptr, &Settings::askBeforeEndTurn,        0, 0,             "yes or no"},
     {"first card seen",       nullptr, &Settings::firstCardSeen,           0, 0,             "yes or no"},
     {"squad window shown",    nullptr, &Settings::squadWindowShown,        0, 0,             "yes or no"},

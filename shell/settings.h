@@ -12,6 +12,7 @@ struct Settings {
     bool fullScreen = false;
     int volume = 100;  // hundredths
     bool muted = false;
+    bool ambience = true;
     bool askBeforeEndTurn = true;
     bool firstCardSeen = false;
     bool squadWindowShown = true;

@@ -3,7 +3,6 @@
 #include <cstdlib>
 
 #include "platform/files.h"
-#include "platform/host.h"
 #include "platform/numbers.h"
 #include "state/state.h"
 #include "view/field_form.h"
@@ -25,15 +24,20 @@ i16 ScreenColumn(int column) {
 
 }  // namespace
 
-void PlaySoundAt(const std::string& name, int column) {
-    if (name.starts_with("voice") && voiceOn == 0) return;
+SoundRequest SoundAt(const std::string& name, int column) {
     SoundRequest sound;
     sound.fileName = "\\wav\\" + name + ".wav";
-    if (!FileExists(sound.fileName)) return;
-    sound.slot = frmField.voiceCycle;
     sound.pan = (ScreenColumn(column) - CentreColumn) * PanOfColumn;
     sound.volume = -std::abs(sound.pan);
     sound.frequency = PlayedFrequency;
+    return sound;
+}
+
+void PlaySoundAt(const std::string& name, int column) {
+    if (name.starts_with("voice") && voiceOn == 0) return;
+    if (!FileExists("\\wav\\" + name + ".wav")) return;
+    SoundRequest sound = SoundAt(name, column);
+    sound.slot = frmField.voiceCycle;
     TheHost().PlaySound(sound);
     frmField.voiceCycle = frmField.voiceCycle == LastSlot ? 1 : frmField.voiceCycle + 1;
 }

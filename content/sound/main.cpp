@@ -3,14 +3,32 @@
 #include <exception>
 #include <iostream>
 
+#include "ambience.h"
 #include "sounds.h"
+#include "takes.h"
 #include "wave_file.h"
 
 namespace {
 
 void WriteAll(const std::filesystem::path& folder, const std::vector<Sound>& sounds) {
-    for (const Sound& sound : sounds)
-        WriteWave(folder / (sound.name + ".wav"), Render(sound));
+    const auto write = [&folder](const Sound& sound, const Signal& signal) {
+        WriteWave(folder / (sound.name + ".wav"), signal);
+    };
+    for (const Sound& sound : sounds) {
+        const Signal first = Render(sound);
+        write(sound, first);
+        for (int number = 2; number <= TakeCount(sound.name); ++number) {
+            const Sound take = TakeOf(sound, number);
+            Signal signal = Render(take);
+            MatchLoudness(signal, first);
+            write(take, signal);
+        }
+    }
+}
+
+void WriteLoops(const std::filesystem::path& folder) {
+    for (const Loop& loop : AmbienceLoops())
+        WriteWave(folder / (std::string(loop.name) + ".wav"), Render(loop), LoopRate(loop));
 }
 
 }  // namespace
@@ -23,6 +41,9 @@ int main(int argc, char** argv) {
     try {
         WriteAll(argv[1], GunSounds());
         WriteAll(argv[1], EffectSounds());
+        WriteAll(argv[1], GroundSounds());
+        WriteAll(argv[1], CueSounds());
+        WriteLoops(argv[1]);
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "sarnoth_sound: " << error.what() << '\n';

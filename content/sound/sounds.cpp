@@ -1,16 +1,8 @@
 #include "sounds.h"
 
 #include <cmath>
-#include <cstdint>
 
 namespace {
-
-std::uint32_t SeedOf(const std::string& name) {
-    std::uint32_t hash = 2166136261u;
-    for (const char c : name)
-        hash = (hash ^ static_cast<unsigned char>(c)) * 16777619u;
-    return hash;
-}
 
 Signal MakeSource(const Layer& layer, std::mt19937& random, double seconds) {
     switch (layer.source) {
@@ -50,6 +42,13 @@ Signal MakeLayer(const Layer& layer, std::mt19937& random) {
 }
 
 }  // namespace
+
+std::uint32_t SeedOf(const std::string& name) {
+    std::uint32_t hash = 2166136261u;
+    for (const char c : name)
+        hash = (hash ^ static_cast<unsigned char>(c)) * 16777619u;
+    return hash;
+}
 
 Signal Render(const Sound& sound) {
     std::mt19937 random(SeedOf(sound.name));

@@ -1,7 +1,8 @@
-// A sound as a list of layers, and how it is rendered. The tables of all sounds are in guns.cpp and
-// effects.cpp.
+// A sound as a list of layers, and how it is rendered. The tables of all sounds are in guns.cpp,
+// effects.cpp, ground.cpp and cues.cpp.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -32,11 +33,20 @@ struct Sound {
     std::vector<Layer> layers;
 };
 
+/// Of the chance that a sound draws from.
+std::uint32_t SeedOf(const std::string& name);
+
 /// The sound's samples. Its chance is its own, seeded by its name.
 Signal Render(const Sound& sound);
 
 /// Every shot named in the weapons file, and the launches of second barrels.
 std::vector<Sound> GunSounds();
 
-/// Everything else: blows, tools, explosions, wounds, steps, the click of a button.
+/// Blows, tools, explosions, wounds, the click of a button.
 std::vector<Sound> EffectSounds();
+
+/// Steps by ground, and where a bullet ends, by material.
+std::vector<Sound> GroundSounds();
+
+/// What says to the player that something has come about.
+std::vector<Sound> CueSounds();

@@ -17,7 +17,7 @@ void Append(std::string& bytes, std::uint32_t value, int count) {
         bytes += static_cast<char>(value >> (8 * i) & 0xFFu);
 }
 
-std::string Header(std::uint32_t dataBytes) {
+std::string Header(std::uint32_t dataBytes, std::uint32_t rate) {
     constexpr std::uint32_t FormatBytes = 16, Pcm = 1, Channels = 1, HeaderBytes = 36;
     std::string bytes = "RIFF";
     Append(bytes, HeaderBytes + dataBytes, 4);
@@ -25,8 +25,8 @@ std::string Header(std::uint32_t dataBytes) {
     Append(bytes, FormatBytes, 4);
     Append(bytes, Pcm, 2);
     Append(bytes, Channels, 2);
-    Append(bytes, SampleRate, 4);
-    Append(bytes, SampleRate * Channels * SampleBytes, 4);
+    Append(bytes, rate, 4);
+    Append(bytes, rate * Channels * SampleBytes, 4);
     Append(bytes, Channels * SampleBytes, 2);
     Append(bytes, 8 * SampleBytes, 2);
     bytes += "data";
@@ -36,8 +36,9 @@ std::string Header(std::uint32_t dataBytes) {
 
 }  // namespace
 
-void WriteWave(const std::filesystem::path& path, const Signal& signal) {
-    std::string bytes = Header(static_cast<std::uint32_t>(signal.size()) * SampleBytes);
+void WriteWave(const std::filesystem::path& path, const Signal& signal, int rate) {
+    std::string bytes =
+        Header(static_cast<std::uint32_t>(signal.size()) * SampleBytes, static_cast<std::uint32_t>(rate));
     for (const double sample : signal) {
         const auto value = static_cast<std::int16_t>(std::lround(FullScale * std::clamp(sample, -1.0, 1.0)));
         Append(bytes, static_cast<std::uint16_t>(value), SampleBytes);

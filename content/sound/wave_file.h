@@ -4,5 +4,6 @@
 
 #include "signal.h"
 
-/// Writes a signal as a 16-bit mono PCM file of SampleRate; makes its folder. Throws std::runtime_error.
-void WriteWave(const std::filesystem::path& path, const Signal& signal);
+/// Writes a signal as a 16-bit mono PCM file of `rate` samples a second; makes its folder. Throws
+/// std::runtime_error.
+void WriteWave(const std::filesystem::path& path, const Signal& signal, int rate = SampleRate);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <QtTest>
@@ -15,7 +16,10 @@
 
 class HastyHost : public DesktopHost {
   public:
-    using DesktopHost::DesktopHost;
+    template <typename... Arguments>
+    explicit HastyHost(Arguments&&... ofHost) : DesktopHost(std::forward<Arguments>(ofHost)...) {
+        Sounds().SetLoudness(0);
+    }
 
     void Wait(std::chrono::nanoseconds /*time*/, bool pump) override {
         if (pump) PumpEvents();
