@@ -262,8 +262,16 @@ void DesktopHost::ShowMessage(const std::string& text) {
     Screen();
     Sync();
     if (companion != nullptr && !missionVerdict.empty()) companion->SoundVerdict();
+    if (!missionVerdict.empty()) RestOnLastSight();
     if (atVerdict && !playBack && !missionVerdict.empty()) atVerdict();
     ShowBox(QMessageBox::Information, text);
+}
+
+// The shot that decided the mission is seen before a window lies over it.
+void DesktopHost::RestOnLastSight() {
+    constexpr std::chrono::milliseconds Rest(1200);
+    if (companionView && !hastens && companion->ShowsEffects())
+        companionView->SleepUntil(steady_clock::now() + Rest);
 }
 
 void DesktopHost::Emit(const SoundRequest& sound) {

@@ -92,6 +92,7 @@ class DesktopHost : public Host {
     bool IsFilming() const { return companion != nullptr && companion->IsFilming(); }
     bool SkipsFilm(const InputEvent& event);
     void Screen();
+    void RestOnLastSight();
     void WaitInFilm(std::chrono::nanoseconds time, bool pump);
     bool MayEnter(const InputEvent& event);
     void Fail(const std::string& text);

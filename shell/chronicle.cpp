@@ -89,12 +89,13 @@ void Chronicle::CountHit(const Happening& hit) {
     if (!sameRound || hit.mode == HitMode) ++by.hits;
 }
 
-// The bullets of a burst that hit the same man are one entry.
+// The bullets of an order that hit the same man are one entry.
 void Chronicle::NoteHit(const Happening& hit) {
     if (!hit.seen) return;
     const bool goesOn = IsOfLastHits(hit);
     if (!goesOn) hits = {};
     hits.last = hit;
+    hits.order = orderCount;
     ++hits.times;
     hits.amount += hit.amount;
     const std::string text = HitText(hit, hits.times, hits.amount);
@@ -114,7 +115,7 @@ void Chronicle::NoteDeath(const Happening& death) {
 bool Chronicle::IsOfLastHits(const Happening& act) const {
     const Happening& last = hits.last;
     return !entries.empty() && entries.back().kind == EntryKind::Hit && last.unit == act.unit &&
-           last.by == act.by && last.text == act.text && last.mode == act.mode;
+           last.by == act.by && last.text == act.text && last.mode == act.mode && hits.order == orderCount;
 }
 
 void Chronicle::Add(EntryKind kind, const std::string& text, const Happening& happening) {

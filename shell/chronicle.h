@@ -66,6 +66,7 @@ class Chronicle {
         Happening last;
         int times = 0;
         int amount = 0;  // of health
+        int order = 0;   // by which they came
     };
 
     // Where the squad saw a unit last, and in which turn; 0 for never.

@@ -53,6 +53,9 @@ class Companion {
     /// The mission has ended, maybe in the middle of a shot.
     void Settle() { onlooker.Settle(); }
 
+    /// Whether something lingers of what has happened.
+    bool ShowsEffects() const { return effects.Any(clock()); }
+
     /// Its own sounds go to `out` from now on, each when the player sees what it belongs to; those of a shot
     /// on film as soon as the rules' own.
     void SoundThrough(Screening::PlaySound out) { soundOut = std::move(out); }

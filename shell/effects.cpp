@@ -254,6 +254,22 @@ int GroundAt(int pixelX, int pixelY) {
 void Effects::Add(const Happening& happening, Moment now) {
     if (!happening.seen || LookOf(happening.kind) == nullptr) return;
     running.push_back({happening, now, GroundAt(happening.toX, happening.toY)});
+    if (happening.kind == HappeningKind::Hit) TakeIn(running.back());
+}
+
+// Pellets and bullets of a burst that hit the same man are one number, which grows.
+void Effects::TakeIn(Effect& hit) {
+    std::size_t earlier = 0;
+    for (; earlier + 1 < running.size(); ++earlier) {
+        const Happening& cause = running[earlier].cause;
+        if (cause.kind == HappeningKind::Hit && cause.unit == hit.cause.unit && cause.by == hit.cause.by &&
+            (cause.amount > 0) == (hit.cause.amount > 0) &&
+            AgeOf(running[earlier].begun, hit.begun) < HitTime)
+            break;
+    }
+    if (earlier + 1 == running.size()) return;
+    hit.cause.amount += running[earlier].cause.amount;
+    running.erase(running.begin() + static_cast<std::ptrdiff_t>(earlier));
 }
 
 void Effects::Draw(Moment now, Sketch& onField, Sketch& onMap) {

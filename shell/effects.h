@@ -28,5 +28,8 @@ class Effects {
         Moment begun;
         int ground = 0;  // terrain class where a shot ended
     };
+
+    void TakeIn(Effect& hit);
+
     std::vector<Effect> running;
 };

@@ -116,7 +116,7 @@ std::vector<ReadoutLine> Guide::Lines() const {
     if (curTeam == EnemyTeam && !said) return EnemysTurn();
     std::vector<ReadoutLine> lines = Wrapped(WordsOf(said), Tone::Warning);
     std::vector<ReadoutLine> below;
-    if (forecast)
+    if (forecast && selected == curUnit)
         below = LinesOf(*forecast);
     else if (selected >= 0 && squadTurns > 0)
         below = LinesOf(UnitTable[selected]);

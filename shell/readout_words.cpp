@@ -6,6 +6,7 @@
 
 #include "combat/families.h"
 #include "platform/code_page.h"
+#include "shell/wording.h"
 
 namespace {
 
@@ -28,9 +29,10 @@ std::string Cells(int count) {
     return Number(count) + (count == 1 ? " cell" : " cells");
 }
 
-// The last of his names.
+// The last of his names; an enemy's number.
 std::string Surname(int unit) {
     constexpr std::size_t Longest = 12;
+    if (TeamOfUnit(unit) != SquadTeam) return NameOf(unit);
     const std::string& name = UnitTable[unit].name;
     const std::size_t blank = name.rfind(' ');
     return Shortened(blank == std::string::npos ? name : name.substr(blank + 1), Longest);

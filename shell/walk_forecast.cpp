@@ -4,6 +4,7 @@
 #include "field/path_search.h"
 #include "field/walking.h"
 #include "mission/orders.h"
+#include "shell/wording.h"
 
 namespace {
 
@@ -21,8 +22,8 @@ Refusal WhyStopped(const Unit& unit, const WalkForecast& walk) {
     if (walk.paid >= walk.steps.size()) return {};
     const int energy = EnergyOfStep(unit);
     if (walk.energyLeft < energy && walk.timeLeft >= CostOf(unit).time)
-        return {walk.paid == 0 ? Why::StepEnergy : Why::WalkEnergy, energy, walk.energyLeft};
-    return {Why::WalkTime, CostOf(unit).time, walk.timeLeft};
+        return {walk.paid == 0 ? Why::StepEnergy : Why::WalkEnergy, energy, walk.energyLeft, unit.name};
+    return {Why::WalkTime, CostOf(unit).time, walk.timeLeft, unit.name};
 }
 
 }  // namespace
@@ -31,7 +32,7 @@ std::string ObstacleAt(int cellX, int cellY) {
     const Cell& cell = cellGrid[cellY][cellX];
     const int occupant = cell.occupant;
     if (occupant >= 0 && (TeamOfUnit(occupant) != EnemyTeam || SquadHasSighted(occupant)))
-        return UnitTable[occupant].name;
+        return NameOf(occupant);
     const char* const ground = LetsStepThrough(cell) ? nullptr : TerrainName(cell.tileY);
     return ground == nullptr ? "something" : ground;
 }

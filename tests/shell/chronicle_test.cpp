@@ -97,6 +97,19 @@ TEST_F(ChronicleTest, ABurstIsOneEntryAndSoIsWhoDiesOfIt) {
               "Marcus Hale hit by AK fire, -1 health, [45,9]\n");
 }
 
+// A hit of an earlier order stays, though the same man dies of the same weapon later.
+TEST_F(ChronicleTest, AnotherOrderIsAnotherEntry) {
+    using enum HappeningKind;
+    Act(Hit, FirstEnemy, 1, 9, "m4");
+    ++orderCount;
+    Act(Hit, FirstEnemy, 1, 33, "m4");
+    Act(Death, FirstEnemy, 1, 0, "m4");
+    EXPECT_EQ(Texts(),
+              "Turn 1\n"
+              "Enemy 1 hit by M4A1 fire of Ingrid Solberg, -9 health, [45,9]\n"
+              "Enemy 1 killed by M4A1 fire of Ingrid Solberg, [45,9]\n");
+}
+
 // Each soldier who is selected looks around anew.
 TEST_F(ChronicleTest, WhoIsSeenAgainWhereHeWasIsNoNews) {
     const auto sight = [this](int by, int x) {

@@ -73,6 +73,29 @@ TEST(EffectsTest, LiesWhereItHappened) {
     EXPECT_GT(tracers, 0);
 }
 
+// Nine pellets are one number; another's hit, and one that comes later, have their own.
+TEST(EffectsTest, HitsOfOneBurstAddUp) {
+    const auto wordsAfter = [](std::initializer_list<std::pair<int, milliseconds>> byAndTime) {
+        Effects effects;
+        Moment now = Begin;
+        for (const auto& [by, time] : byAndTime) {
+            now = Begin + time;
+            effects.Add({.kind = HappeningKind::Hit, .unit = 25, .by = by, .amount = 9, .x = 400, .y = 400},
+                        now);
+        }
+        Sketch onField;
+        Sketch onMap;
+        effects.Draw(now, onField, onMap);
+        std::string words;
+        for (const Stroke& stroke : onField)
+            if (stroke.kind == StrokeKind::Words) words += stroke.text;
+        return words;
+    };
+    EXPECT_EQ(wordsAfter({{1, milliseconds(0)}, {1, milliseconds(30)}, {1, milliseconds(600)}}), "-27");
+    EXPECT_EQ(wordsAfter({{1, milliseconds(0)}, {2, milliseconds(30)}}), "-9-9");
+    EXPECT_EQ(wordsAfter({{1, milliseconds(0)}, {1, milliseconds(700)}}), "-9");
+}
+
 // The one hit jerks away from the other, and stands still again before the number is gone.
 TEST(EffectsTest, WhoIsHitFlinches) {
     ResetState();

@@ -288,7 +288,7 @@ TEST_F(ForecastTest, RefusedOrdersSayWhy) {
              lastClickX = lastClickY = 20;
              UnitTable[Shooter].time = 9;
          },
-         PressOn(20, 20, 1), "He stops: the next step needs 4 time, he has 0."},
+         PressOn(20, 20, 1), "u0 stops: the next step needs 4 time, 0 is left."},
         {[] {
              lastClickX = 11;
              lastClickY = 10;
