@@ -69,7 +69,9 @@ void CheckPixels(const std::string& path, const QImage& picture, const Entry& en
                 first = path + ", pixel (" + std::to_string(x) + ", " + std::to_string(y) + "): " + fault;
         }
     }
-    if (others > 0) first += "; " + std::to_string(others) + " more pixels are wrong";
+    if (others > 0)
+        first +=
+            "; " + std::to_string(others) + (others == 1 ? " more pixel is wrong" : " more pixels are wrong");
     if (!first.empty()) throw Fault(first);
 }
 
