@@ -30,13 +30,18 @@ struct Call {
     std::ostream& out;
 };
 
-// Writes on whatever processors there are; the first fault is thrown when all have stopped.
+// Writes on whatever processors there are. A fault stops all of them.
 void WriteAll(const Gallery& gallery, const Chosen& chosen, const std::string& folder) {
     const PictureWriter writer(folder);
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
-        for (std::size_t i = next++; i < chosen.size(); i = next++)
-            writer.Write(chosen[i]->path, gallery.FilePicture(*chosen[i]));
+        try {
+            for (std::size_t i = next++; i < chosen.size(); i = next++)
+                writer.Write(chosen[i]->path, gallery.FilePicture(*chosen[i]));
+        } catch (...) {
+            next = chosen.size();
+            throw;
+        }
     };
     std::vector<std::future<void>> workers;
     for (unsigned i = 0; i < std::max(1u, std::thread::hardware_concurrency()); ++i)
