@@ -101,6 +101,7 @@ Entry FamilySheet(const Row& row, const std::vector<Entry>& entries) {
 std::vector<QImage> TilesOf(const QImage& map, int row) {
     constexpr int SheetColumns = 32;
     std::vector<QImage> tiles;
+    tiles.reserve(SheetColumns);
     for (int column = 0; column < SheetColumns; ++column)
         tiles.push_back(CellOf(map, column, row));
     while (tiles.size() > 1 && tiles.back() == CellOf(map, 0, 0))
@@ -121,6 +122,7 @@ Entry TeamSheet(int team) {
     return Contacts("people_" + std::to_string(team), {PeopleSheet, MapSheet}, [=](const Pictures& pictures) {
         const QImage people = pictures(PeopleSheet);
         std::vector<QImage> men;
+        men.reserve(std::size_t{Stances} * Facings);
         for (int i = 0; i < Stances * Facings; ++i)
             men.push_back(CellOf(people, team * Stances + i / Facings, i % Facings));
         return ContactSheet("TEAM " + std::to_string(team), men, Facings, 6, Grass(pictures));
@@ -162,6 +164,7 @@ Entry AwardsSheet() {
 
 std::vector<Entry> SheetsOf(const std::vector<Entry>& pictures) {
     std::vector<Entry> sheets;
+    sheets.reserve(ClassNames.size());
     for (int row = 0; row < static_cast<int>(ClassNames.size()); ++row)
         sheets.push_back(ClassSheet(row));
     for (int team = 0; team < 3; ++team)
