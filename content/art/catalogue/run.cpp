@@ -10,6 +10,8 @@
 #include <ostream>
 #include <thread>
 
+#include <QImageReader>
+
 #include "catalogue/gallery.h"
 #include "catalogue/hand_files.h"
 #include "catalogue/names.h"
@@ -32,6 +34,8 @@ struct Call {
 
 // Writes on whatever processors there are. A fault stops all of them.
 void WriteAll(const Gallery& gallery, const Chosen& chosen, const std::string& folder) {
+    // The toolkit's readers must be loaded by a thread that lives to the end: they die with its data.
+    QImageReader::supportedImageFormats();
     const PictureWriter writer(folder);
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
