@@ -325,6 +325,7 @@ QImage AwardPicture(std::size_t award, int times) {
 
 std::vector<std::string> AwardsOften() {
     std::vector<std::string> paths;
+    paths.reserve(AwardKinds);
     for (int award = 0; award < AwardKinds; ++award)
         paths.push_back("pic/awards/" + TwoDigits(award) + TwoDigits(1 + award * 7 % AwardTimes) + ".bmp");
     return paths;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include <QSize>
 
@@ -26,8 +27,9 @@ struct Entry {
     Palette palette;
     std::string source;  // "folder/file.cpp:Routine"; empty for a picture that is kept as a hand file
     std::string note;
-    Draw draw;          // none for a picture that is kept as a hand file
-    int blackFrom = 0;  // from this row on the picture may be black; 0 for nowhere
+    std::vector<std::string> of;  // names of the pictures that it is made of
+    Draw draw;                    // none for a picture that is kept as a hand file
+    int blackFrom = 0;            // from this row on the picture may be black; 0 for nowhere
 };
 
 // "pic/faces/usa03.bmp" is "pic/faces/usa03" without its ending.

@@ -39,7 +39,7 @@ bool Gallery::IsByHand(const Entry& entry) const {
 QImage Gallery::Make(const Entry& entry) const {
     if (IsByHand(entry)) return ReadHandFile(HandFile(entry), entry);
     if (!entry.draw) throw Fault(HandFile(entry).string() + ": missing; " + entry.path + " is made of it");
-    const QImage picture = entry.draw([this](const std::string& path) { return Picture(path); });
+    QImage picture = entry.draw([this](const std::string& path) { return Picture(path); });
     if (entry.kind != Kind::ForLooking && picture.size() != entry.size)
         throw Fault(entry.source + " doesn't draw " + entry.path + " in the size of the catalogue");
     return picture;
@@ -54,7 +54,7 @@ QImage Gallery::Picture(const std::string& path) const {
 }
 
 QImage Gallery::FilePicture(const Entry& entry) const {
-    const QImage picture = Picture(entry.path);
+    QImage picture = Picture(entry.path);
     switch (entry.kind) {
         case Kind::Indexed:
             return Indexed(picture);

@@ -58,6 +58,10 @@ std::string PixelFault(QRgb colour, int y, const Entry& entry) {
     return IsInk(colour, InksOf(entry)) ? "" : WrongColour(colour, entry);
 }
 
+std::string PixelName(const std::string& path, int x, int y) {
+    return path + ", pixel (" + std::to_string(x) + ", " + std::to_string(y) + "): ";
+}
+
 void CheckPixels(const std::string& path, const QImage& picture, const Entry& entry) {
     std::string first;
     int others = -1;
@@ -65,11 +69,12 @@ void CheckPixels(const std::string& path, const QImage& picture, const Entry& en
         for (int x = 0; x < picture.width(); ++x) {
             const std::string fault = PixelFault(picture.pixel(x, y), y, entry);
             if (fault.empty()) continue;
-            if (++others == 0)
-                first = path + ", pixel (" + std::to_string(x) + ", " + std::to_string(y) + "): " + fault;
+            if (++others == 0) first.append(PixelName(path, x, y)).append(fault);
         }
     }
-    if (others > 0) first += "; " + std::to_string(others) + " more pixels are wrong";
+    if (others > 0)
+        first +=
+            "; " + std::to_string(others) + (others == 1 ? " more pixel is wrong" : " more pixels are wrong");
     if (!first.empty()) throw Fault(first);
 }
 
@@ -79,7 +84,7 @@ QByteArray IndexedPng(const std::string& path) {
     constexpr char IndexedType = 3;
     QFile file(QString::fromStdString(path));
     if (!file.open(QIODevice::ReadOnly)) throw Fault(path + ": can't be read");
-    const QByteArray bytes = file.readAll();
+    QByteArray bytes = file.readAll();
     if (!bytes.startsWith("\x89PNG\r\n\x1a\n") || bytes.size() <= ColourTypePlace)
         throw Fault(path + ": expected a PNG file");
     if (bytes[ColourTypePlace] != IndexedType)

@@ -40,9 +40,8 @@ Drawings One(std::function<QImage()> draw) {
 }
 
 Drawings PartOf(const char* whole, QImage (*part)(const QImage&)) {
-    return {{.name = "",
-             .draw = [=](const Pictures& pictures) { return part(pictures(whole)); },
-             .note = std::string("of ") + whole}};
+    return {
+        {.name = "", .draw = [=](const Pictures& pictures) { return part(pictures(whole)); }, .of = {whole}}};
 }
 
 // Pictures that are kept as hand files.
@@ -79,7 +78,8 @@ Drawings ForestTops() {
                                 [=](const Pictures& pictures) {
                                     return CellOf(pictures("stored/picForest.bmp"), column, 0);
                                 },
-                            .note = "column " + std::to_string(column) + " of stored/picForest.bmp"});
+                            .note = "column " + std::to_string(column),
+                            .of = {"stored/picForest.bmp"}});
     return drawings;
 }
 
@@ -196,6 +196,7 @@ void AddFamilies(std::vector<Entry>& entries, const std::vector<Family>& familie
                                .palette = family.palette,
                                .source = drawing.source.empty() ? family.source : drawing.source,
                                .note = drawing.note,
+                               .of = drawing.of,
                                .draw = drawing.draw});
         }
     }

@@ -4,10 +4,13 @@
 #include <atomic>
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
 #include <future>
 #include <iomanip>
 #include <ostream>
 #include <thread>
+
+#include <QImageReader>
 
 #include "catalogue/gallery.h"
 #include "catalogue/hand_files.h"
@@ -29,13 +32,20 @@ struct Call {
     std::ostream& out;
 };
 
-// Writes on whatever processors there are; the first fault is thrown when all have stopped.
+// Writes on whatever processors there are. A fault stops all of them.
 void WriteAll(const Gallery& gallery, const Chosen& chosen, const std::string& folder) {
+    // The toolkit's readers must be loaded by a thread that lives to the end: they die with its data.
+    QImageReader::supportedImageFormats();
     const PictureWriter writer(folder);
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
-        for (std::size_t i = next++; i < chosen.size(); i = next++)
-            writer.Write(chosen[i]->path, gallery.FilePicture(*chosen[i]));
+        try {
+            for (std::size_t i = next++; i < chosen.size(); i = next++)
+                writer.Write(chosen[i]->path, gallery.FilePicture(*chosen[i]));
+        } catch (...) {
+            next = chosen.size();
+            throw;
+        }
     };
     std::vector<std::future<void>> workers;
     for (unsigned i = 0; i < std::max(1u, std::thread::hardware_concurrency()); ++i)
@@ -54,12 +64,50 @@ void MakeAll(const Call& call) {
     WriteAll(gallery, all, call.values[0]);
 }
 
+// Whether a picture comes from a hand file that is newer than it.
+bool IsEdited(const Gallery& gallery, const Entry& entry, const std::filesystem::path& folder) {
+    const std::filesystem::path written = folder / entry.path;
+    return gallery.IsByHand(entry) &&
+           (!std::filesystem::exists(written) || std::filesystem::last_write_time(gallery.HandFile(entry)) >
+                                                     std::filesystem::last_write_time(written));
+}
+
+bool IsMadeOf(const Entry& entry, const Chosen& pictures) {
+    return std::ranges::any_of(entry.of, [&](const std::string& name) {
+        return std::ranges::any_of(pictures,
+                                   [&](const Entry* picture) { return Matches(picture->path, name); });
+    });
+}
+
+void MakeEdited(const Call& call) {
+    const std::string& folder = call.values[0];
+    const Gallery gallery(call.handFolder);
+    Chosen edited, others, both;
+    for (const Entry& entry : gallery.Entries()) {
+        const bool itself = IsEdited(gallery, entry, folder);
+        if (!itself && (gallery.IsByHand(entry) || !IsMadeOf(entry, both))) continue;
+        (itself ? edited : others).push_back(&entry);
+        both.push_back(&entry);
+    }
+    // A run that breaks off leaves the edited ones for the next.
+    WriteAll(gallery, others, folder);
+    WriteAll(gallery, edited, folder);
+}
+
 void MakeOnly(const Call& call) {
     const Gallery gallery(call.handFolder);
     const Chosen chosen = Named(gallery.Entries(), call.values[0]);
     WriteAll(gallery, chosen, call.values[1]);
     for (const Entry* entry : chosen)
         call.out << call.values[1] << '/' << entry->path << '\n';
+}
+
+// What sets a picture apart from others of its routine.
+std::string NoteOf(const Entry& entry) {
+    std::string note = entry.note;
+    for (const std::string& name : entry.of)
+        note += (&name == &entry.of.front() ? " of " : " ") + name;
+    return note.starts_with(' ') ? note.substr(1) : note;
 }
 
 void List(const Call& call) {
@@ -69,8 +117,7 @@ void List(const Call& call) {
     for (const Entry& entry : gallery.Entries()) {
         const bool kept = !entry.draw;
         const bool byHand = kept || gallery.IsByHand(entry);
-        std::string note = entry.note;
-        if (byHand && !kept) note = "instead of " + entry.source;
+        const std::string note = byHand && !kept ? "instead of " + entry.source : NoteOf(entry);
         call.out << std::left << std::setw(PathWidth) << entry.path << ' ';
         if (!note.empty()) call.out << std::setw(SourceWidth);
         call.out << (byHand ? "hand/" + Stem(entry.path) + ".png" : entry.source);
@@ -112,6 +159,7 @@ struct Option {
 constexpr Option Options[] = {
     {"", "OUTDIR", 1, MakeAll, "makes every picture: stored/, pic/ and sheets/ in that folder"},
     {"--only", "NAME OUTDIR", 2, MakeOnly, "makes those of that name"},
+    {"--edited", "OUTDIR", 1, MakeEdited, "makes those whose hand files are newer, and what is made of them"},
     {"--list", "", 0, List, "says of every picture which hand file it is, or which routine draws it"},
     {"--export", "NAME", 1, Export, "writes the drawn picture as a hand file, to be painted over"},
     {"--palette", "", 0, PrintPalette, "prints the inks as a palette for editors (.gpl)"},

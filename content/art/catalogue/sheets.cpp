@@ -14,6 +14,8 @@ namespace art {
 namespace {
 
 constexpr auto MapSheet = "stored/picMap.bmp";
+constexpr auto PeopleSheet = "stored/picPeople.bmp";
+constexpr auto SpriteSheet = "stored/picSprites.bmp";
 
 struct Row {
     const char* name;
@@ -54,18 +56,19 @@ constexpr std::array<const char*, 13> ClassNames{"SURFACE", "WATER",    "TREES",
 
 using Paths = std::vector<std::string>;
 
-Entry LookingAt(const std::string& name, std::string source, std::string note, Draw draw) {
+Entry LookingAt(const std::string& name, std::string source, Paths of, Draw draw) {
     return {.path = "sheets/" + name + ".png",
             .size = {},
             .kind = Kind::ForLooking,
             .palette = Palette::Whole,
             .source = std::move(source),
-            .note = std::move(note),
+            .note = "",
+            .of = std::move(of),
             .draw = std::move(draw)};
 }
 
-Entry Contacts(const std::string& name, std::string note, Draw draw) {
-    return LookingAt(name, "kit/contact_sheets.cpp:ContactSheet", std::move(note), std::move(draw));
+Entry Contacts(const std::string& name, Paths of, Draw draw) {
+    return LookingAt(name, "kit/contact_sheets.cpp:ContactSheet", std::move(of), std::move(draw));
 }
 
 QImage Grass(const Pictures& pictures) {
@@ -81,14 +84,14 @@ std::vector<QImage> All(const Pictures& pictures, const Paths& paths) {
 
 Entry FamilySheet(const Row& row, const std::vector<Entry>& entries) {
     Paths paths;
-    std::string note = "of";
     for (const std::string& pattern : row.patterns) {
-        note += " " + pattern;
         for (const Entry& entry : entries) {
             if (Matches(entry.path, pattern)) paths.push_back(entry.path);
         }
     }
-    return Contacts(row.name, note, [paths, &row](const Pictures& pictures) {
+    Paths of = row.patterns;
+    if (row.onGrass) of.emplace_back(MapSheet);
+    return Contacts(row.name, of, [paths, &row](const Pictures& pictures) {
         return ContactSheet(row.title, All(pictures, paths), row.across, row.times,
                             row.onGrass ? Grass(pictures) : QImage());
     });
@@ -98,6 +101,7 @@ Entry FamilySheet(const Row& row, const std::vector<Entry>& entries) {
 std::vector<QImage> TilesOf(const QImage& map, int row) {
     constexpr int SheetColumns = 32;
     std::vector<QImage> tiles;
+    tiles.reserve(SheetColumns);
     for (int column = 0; column < SheetColumns; ++column)
         tiles.push_back(CellOf(map, column, row));
     while (tiles.size() > 1 && tiles.back() == CellOf(map, 0, 0))
@@ -107,18 +111,18 @@ std::vector<QImage> TilesOf(const QImage& map, int row) {
 
 Entry ClassSheet(int row) {
     const std::string title = TwoDigits(row) + " " + ClassNames[static_cast<std::size_t>(row)];
-    return Contacts("map_" + TwoDigits(row), "of row " + std::to_string(row) + " of " + MapSheet,
-                    [=](const Pictures& pictures) {
-                        return ContactSheet(title, TilesOf(pictures(MapSheet), row), 13, 4);
-                    });
+    return Contacts("map_" + TwoDigits(row), {MapSheet}, [=](const Pictures& pictures) {
+        return ContactSheet(title, TilesOf(pictures(MapSheet), row), 13, 4);
+    });
 }
 
 Entry TeamSheet(int team) {
     constexpr int Stances = 4;
     constexpr int Facings = 8;
-    return Contacts("people_" + std::to_string(team), "of stored/picPeople", [=](const Pictures& pictures) {
-        const QImage people = pictures("stored/picPeople.bmp");
+    return Contacts("people_" + std::to_string(team), {PeopleSheet, MapSheet}, [=](const Pictures& pictures) {
+        const QImage people = pictures(PeopleSheet);
         std::vector<QImage> men;
+        men.reserve(std::size_t{Stances} * Facings);
         for (int i = 0; i < Stances * Facings; ++i)
             men.push_back(CellOf(people, team * Stances + i / Facings, i % Facings));
         return ContactSheet("TEAM " + std::to_string(team), men, Facings, 6, Grass(pictures));
@@ -126,8 +130,8 @@ Entry TeamSheet(int team) {
 }
 
 Entry SpritesSheet() {
-    return Contacts("sprites", "of stored/picSprites", [](const Pictures& pictures) {
-        const QImage sheet = pictures("stored/picSprites.bmp");
+    return Contacts("sprites", {SpriteSheet, MapSheet}, [](const Pictures& pictures) {
+        const QImage sheet = pictures(SpriteSheet);
         const std::vector<QImage> sprites{CellOf(sheet, 12, 0), CellOf(sheet, 13, 0), CellOf(sheet, 14, 0)};
         return ContactSheet("SPRITES 12-14", sprites, 3, 8, Grass(pictures));
     });
@@ -140,7 +144,7 @@ Entry ThingsSheet(const char* name, const char* title, int across, bool wide,
         const bool isWide = entry.size.width() > entry.size.height();
         if (isWide == wide && Matches(entry.path, "pic/inv/*.gif")) paths.push_back(entry.path);
     }
-    return Contacts(name, "of pic/inv/*.gif", [=](const Pictures& pictures) {
+    return Contacts(name, {"pic/inv/*.gif"}, [=](const Pictures& pictures) {
         return ContactSheet(title, All(pictures, paths), across, 2);
     });
 }
@@ -151,7 +155,7 @@ Entry AwardsSheet() {
         paths.push_back("pic/awards/" + TwoDigits(award) + "01.bmp");
     const Paths often = AwardsOften();
     paths.insert(paths.end(), often.begin(), often.end());
-    return Contacts("awards", "of pic/awards/*", [paths](const Pictures& pictures) {
+    return Contacts("awards", {"pic/awards/*"}, [paths](const Pictures& pictures) {
         return ContactSheet("AWARDS ONCE AND OFTEN", All(pictures, paths), 5, 2);
     });
 }
@@ -160,6 +164,7 @@ Entry AwardsSheet() {
 
 std::vector<Entry> SheetsOf(const std::vector<Entry>& pictures) {
     std::vector<Entry> sheets;
+    sheets.reserve(ClassNames.size());
     for (int row = 0; row < static_cast<int>(ClassNames.size()); ++row)
         sheets.push_back(ClassSheet(row));
     for (int team = 0; team < 3; ++team)
@@ -170,8 +175,13 @@ std::vector<Entry> SheetsOf(const std::vector<Entry>& pictures) {
     sheets.push_back(ThingsSheet("inventory_wide", "WIDE THINGS", 10, true, pictures));
     sheets.push_back(ThingsSheet("inventory_small", "SMALL THINGS", 14, false, pictures));
     sheets.push_back(AwardsSheet());
-    sheets.push_back(LookingAt("in_place", "tiles/mock_field.cpp:MockWindow", "", MockWindow));
-    sheets.push_back(LookingAt("file_window", "panel/mock_file.cpp:MockFile", "", MockFile));
+    sheets.push_back(LookingAt("in_place", "tiles/mock_field.cpp:MockWindow",
+                               {"stored/pic*", "stored/img*", "pic/stance*", "pic/counter/*", "pic/wea_*"},
+                               MockWindow));
+    sheets.push_back(LookingAt("file_window", "panel/mock_file.cpp:MockFile",
+                               {"stored/frmInfo", "stored/imgBut8", "pic/faces/*", "pic/chevrons/*",
+                                "pic/flags/*", "pic/inv/*", "pic/awards/*"},
+                               MockFile));
     return sheets;
 }
 

@@ -21,6 +21,7 @@ struct Drawing {
     Draw draw;
     std::string source = {};
     std::string note = {};
+    std::vector<std::string> of = {};  // names of the pictures that it is made of
 };
 
 using Drawings = std::vector<Drawing>;
