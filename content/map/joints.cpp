@@ -126,7 +126,8 @@ int BankColumn(const MapSource& map, int x, int y) {
 
 int LayColumn(const Glyph& glyph, int x, int y) {
     const int height = static_cast<int>(glyph.columns.size()) / glyph.width;
-    return glyph.columns[static_cast<std::size_t>(y % height * glyph.width + x % glyph.width)];
+    const int place = y % height * glyph.width + x % glyph.width;
+    return glyph.columns[static_cast<std::size_t>(place)];
 }
 
 // What lies beyond the field is like the cell itself.
