@@ -110,9 +110,13 @@ int EdgeColumn(const std::vector<int>& columns, int kinds, EdgeKind kind, int x,
     return columns[ChoiceAt(x, y, columns.size() / each) * each + static_cast<std::size_t>(kind)];
 }
 
+EdgeKind BankKindAt(const MapSource& map, int x, int y) {
+    return EdgeKindOf([&](int dx, int dy) { return IsLand(map, x + dx, y + dy); });
+}
+
 int BankColumn(const MapSource& map, int x, int y) {
     const Glyph& glyph = map.At(x, y);
-    const EdgeKind kind = EdgeKindOf([&](int dx, int dy) { return IsLand(map, x + dx, y + dy); });
+    const EdgeKind kind = BankKindAt(map, x, y);
     if (kind == EdgeKind::None) return PickColumn(glyph, x, y);
     if (kind == EdgeKind::HemmedIn) {
         throw SourceError(map.Place(x, y), "this water is hemmed in", "land on one side or on two that meet");
@@ -122,7 +126,8 @@ int BankColumn(const MapSource& map, int x, int y) {
 
 int LayColumn(const Glyph& glyph, int x, int y) {
     const int height = static_cast<int>(glyph.columns.size()) / glyph.width;
-    return glyph.columns[static_cast<std::size_t>(y % height * glyph.width + x % glyph.width)];
+    const int place = y % height * glyph.width + x % glyph.width;
+    return glyph.columns[static_cast<std::size_t>(place)];
 }
 
 // What lies beyond the field is like the cell itself.
@@ -133,11 +138,13 @@ bool IsForeign(const MapSource& map, const Fringe& fringe, char own, int x, int 
     return fringe.toward ? named : !named && glyph != own;
 }
 
+// Water keeps the shape of its bank: a fringe of water counts where it has the same shape.
 int FringeColumn(const MapSource& map, int x, int y) {
     for (const Fringe& fringe : map.At(x, y).fringes) {
         const EdgeKind kind = EdgeKindOf(
             [&](int dx, int dy) { return IsForeign(map, fringe, map.GlyphAt(x, y), x + dx, y + dy); });
-        if (kind == EdgeKind::None) continue;
+        if (kind == EdgeKind::None || (map.At(x, y).way == Way::Banks && kind != BankKindAt(map, x, y)))
+            continue;
         const int column = EdgeColumn(fringe.columns, EdgeKinds, kind, x, y);
         if (column != OwnColumn) return column;
     }

@@ -77,7 +77,7 @@ std::vector<int> ColumnsOf(const SourceWord& word, Terrain terrain, bool own = f
 
 // The columns of every kind of edge, once or several times.
 std::vector<int> EdgesOf(const SourceWord& word, Terrain terrain, int kinds) {
-    const std::vector<int> columns = ColumnsOf(word, terrain, true);
+    std::vector<int> columns = ColumnsOf(word, terrain, true);
     if (columns.size() % static_cast<std::size_t>(kinds) != 0) {
         throw SourceError(word.place, std::to_string(columns.size()) + " columns of edges",
                           std::to_string(kinds) + ", or several times as many");

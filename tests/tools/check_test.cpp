@@ -73,16 +73,16 @@ constexpr TextFault TextFaults[] = {
     {"content/campaign/store.txt",  9, "12/12",    "12-12",     "9:74",   "no feed"},
     {"content/map/49g.txt",         5, "25 3",     "76 3",      "5:7",    "0 to 75"},
     {"content/map/49g.txt",         5, "25 3",     "0 0",       "5:1",    "nobody can stand"},
-    {"content/map/49.txt",        124, "|......",  "|.\x60....", "124:3", "no such glyph"},
-    {"content/map/49.txt",        124, "|......",  "|.!....",   "124:3",  "in sight of the squad"},
-    {"content/map/49.txt",        123, "||||",     "||.|",      "123:3",  "row 0"},
-    {"content/map/49.txt",        124, "|......",  ".......",   "124:1",  "column 0"},
+    {"content/map/49.txt",        134, "|......",  "|.\x60....", "134:3", "no such glyph"},
+    {"content/map/49.txt",        134, "|......",  "|.!....",   "134:3",  "in sight of the squad"},
+    {"content/map/49.txt",        133, "||||",     "||.|",      "133:3",  "row 0"},
+    {"content/map/49.txt",        134, "|......",  ".......",   "134:1",  "column 0"},
     {"map/491.map",                 7, "\r",       "   \r",     "7:77",   "79 cells"},
 };
 
 constexpr ByteFault ByteFaults[] = {
     // file         offset         value       place                                        word
-    {"map/491.map", 78 + 1,        32 + 16,    "2:2",                                       "no tile 16 of surface"},
+    {"map/491.map", 78 + 1,        32 + 32,    "2:2",                                       "no tile 32 of surface"},
     {"map/493.map", 10 * 78 + 4,   7,          "11:5",                                      "control character"},
     {"map/492.map", 5,             32,         "1:6",                                       "row 0"},
     {"map/492.map", 3 * 78 + 6,    32 + 5,     "1:1",                                       "7 cells of the squad's vehicle"},
@@ -302,7 +302,7 @@ TEST(KnownColumnsTest, AreThoseOfTheTileSheet) {
     for (int row = 0; row < TerrainCount; ++row) {
         const int columns = KnownColumns(static_cast<Terrain>(row));
         EXPECT_FALSE(isGrass(row, columns - 1)) << TerrainName(row);
-        EXPECT_TRUE(isGrass(row, columns)) << TerrainName(row);
+        if (columns < SheetColumns) EXPECT_TRUE(isGrass(row, columns)) << TerrainName(row);
     }
 }
 

@@ -37,27 +37,27 @@ struct Foreign {
     const char* told;  // the beginning of the one message: where and what
 };
 
-// Line 2 is the map, 3 the tileset; the terrain begins in line 1602 and its row 0 is line 1604. The first
-// thing is line 1653 with its properties from 1655 on, the second 1666; the landing spots are from 2201 on.
+// Line 2 is the map, 3 the tileset; the terrain begins in line 2010 and its row 0 is line 2012. The first
+// thing is line 2061 with its properties from 2063 on, the second 2074; the landing spots are from 2609 on.
 #define SIXTY "sixty letters, or as many as anybody would want to read here"
 constexpr const char* Long = "value=\"" SIXTY SIXTY SIXTY "\"";
-constexpr const char* Cut = "1657:6: \"" SIXTY "...\" is no durab";
+constexpr const char* Cut = "2065:6: \"" SIXTY "...\" is no durab";
 // clang-format off
 constexpr Foreign Foreigners[] = {
     {"name=\"picMap\"",       "source=\"a.tsx\"",     "3:3: the tileset is a file of its own"},
-    {"\"csv\"",               "\"base64\"",           "1603:4: the layer's encoding is \"base64\""},
-    {"csv\">\n387,",          "csv\">\n0,",           "1604:1: this cell is empty"},
-    {"csv\">\n387,",          "csv\">\n400,",         "1604:1: the sheet has no tile at column 15, row 12"},
-    {"<objectgroup",          "<group name=\"x\"/><objectgroup", "1652:3: a layer \"x\""},
-    {"name=\"papers\"",       "",                     "1653:4: the thing has no name"},
-    {"x=\"500\"",             "x=\"1520\"",           "1653:4: this object is outside the field"},
-    {"value=\"270\"",         "value=\"many\"",       "1657:6: \"many\" is no durab"},
+    {"\"csv\"",               "\"base64\"",           "2011:4: the layer's encoding is \"base64\""},
+    {"csv\">\n387,",          "csv\">\n0,",           "2012:1: this cell is empty"},
+    {"csv\">\n387,",          "csv\">\n401,",         "2012:1: the sheet has no tile at column 16, row 12"},
+    {"<objectgroup",          "<group name=\"x\"/><objectgroup", "2060:3: a layer \"x\""},
+    {"name=\"papers\"",       "",                     "2061:4: the thing has no name"},
+    {"x=\"500\"",             "x=\"1520\"",           "2061:4: this object is outside the field"},
+    {"value=\"270\"",         "value=\"many\"",       "2065:6: \"many\" is no durab"},
     {"value=\"270\"",         Long,                   Cut},
-    {"name=\"count\"",        "name=\"coutn\"",       "1656:6: \"coutn\" is no property of a thing"},
-    {"name=\"place\" type=\"int\" value=\"1\"", "name=\"place\" value=\"0\"", "1668:6: place 0 of this cell is taken"},
-    {"x=\"900\" y=\"60\"",    "x=\"800\" y=\"80\"",   "2202:4: a second landing spot here"},
-    {"x=\"900\" y=\"60\"",    "x=\"0\" y=\"0\"",      "2201:4: a landing spot on tile 2 of fence"},
-    {"</layer>",              "</laier>",             "1651:4: no XML: Start-end tags mismatch"},
+    {"name=\"count\"",        "name=\"coutn\"",       "2064:6: \"coutn\" is no property of a thing"},
+    {"name=\"place\" type=\"int\" value=\"1\"", "name=\"place\" value=\"0\"", "2076:6: place 0 of this cell is taken"},
+    {"x=\"900\" y=\"60\"",    "x=\"800\" y=\"80\"",   "2610:4: a second landing spot here"},
+    {"x=\"900\" y=\"60\"",    "x=\"0\" y=\"0\"",      "2609:4: a landing spot on tile 2 of fence"},
+    {"</layer>",              "</laier>",             "2059:4: no XML: Start-end tags mismatch"},
 };
 // clang-format on
 
