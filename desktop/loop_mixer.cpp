@@ -9,9 +9,10 @@ namespace {
 
 constexpr double FadeSeconds = 4;  // from silence to the full level
 
-std::int16_t Sum(std::int16_t heard, float added) {
+std::int16_t Sum(std::int16_t heard, float gain, std::int16_t added) {
     constexpr float Highest = std::numeric_limits<std::int16_t>::max();
-    return static_cast<std::int16_t>(std::clamp(static_cast<float>(heard) + added, -Highest, Highest));
+    return static_cast<std::int16_t>(
+        std::clamp(static_cast<float>(heard) + gain * static_cast<float>(added), -Highest, Highest));
 }
 
 }  // namespace
@@ -62,8 +63,8 @@ void LoopMixer::MixLoop(Loop& loop, double masterNow, std::span<std::int16_t> he
     std::size_t left = loop.at;
     std::size_t right = (loop.at + length / 2) % length;
     for (std::size_t i = 0; i < frames; ++i) {
-        heard[2 * i] = Sum(heard[2 * i], gain * loop.samples[left]);
-        heard[2 * i + 1] = Sum(heard[2 * i + 1], gain * loop.samples[right]);
+        heard[2 * i] = Sum(heard[2 * i], gain, loop.samples[left]);
+        heard[2 * i + 1] = Sum(heard[2 * i + 1], gain, loop.samples[right]);
         gain += step;
         if (++left == length) left = 0;
         if (++right == length) right = 0;

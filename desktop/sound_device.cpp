@@ -25,6 +25,10 @@ int MixVolume(int hundredths) {
     return (hundredths * MIX_MAX_VOLUME + 50) / 100;
 }
 
+bool HasAny(const AmbienceLevels& levels) {
+    return std::any_of(levels.begin(), levels.end(), [](double level) { return level > 0; });
+}
+
 // The mixer's thread asks for what plays below the sounds.
 void MixLoops(void* loops, Uint8* stream, int bytes) {
     static_cast<LoopMixer*>(loops)->Mix(
@@ -112,7 +116,7 @@ void SoundDevice::LetAmbience(bool on) {
 void SoundDevice::ApplyAmbience() {
     const int audible = hasAmbience ? loudness : 0;
     loops.SetMaster(audible / 100.0);
-    if (state == State::Closed && (audible == 0 || ambience == AmbienceLevels())) return;
+    if (state == State::Closed && (audible == 0 || !HasAny(ambience))) return;
     if (!Open()) return;
     for (std::size_t i = 0; i < ambience.size(); ++i) {
         if (ambience[i] > 0 && audible > 0 && !loaded[i]) LoadLoop(i);

@@ -25,8 +25,9 @@ std::optional<SoundRequest> OwnSound(const std::string& name, int slot, int colu
 }
 
 const Family& FamilyOfShot(const Happening& shot) {
+    if (shot.mode == ThrowMode) return FamilyNamed("throw");
     const WeaponKey* const key = WeaponKeyOf(shot.text);
-    if (key == nullptr) return FamilyNamed(shot.mode == ThrowMode ? "throw" : "");
+    if (key == nullptr) return FamilyNamed("");
     return FamilyNamed(shot.mode == SecondaryMode ? key->secondary : key->family);
 }
 

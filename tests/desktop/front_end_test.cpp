@@ -3,7 +3,10 @@
 #include "desktop/front_end.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
+
+#include <QAction>
 
 #include "desktop/appearance.h"
 #include "desktop/stops.h"
@@ -161,6 +164,18 @@ TEST_F(FrontEndTest, TheSoundIsSetByKeysAndRemembered) {
     EXPECT_EQ(GivenEvents(), 0);
     press(Qt::Key_M, Qt::NoModifier);
     EXPECT_EQ(GivenEvents(), 2) << "without Ctrl it is the game's";
+}
+
+TEST_F(FrontEndTest, TheValleyIsSilencedInTheMenuAndStaysSo) {
+    setenv("SDL_AUDIODRIVER", "dummy", 1);
+    Start({.ambience = false});
+    host.Sounds().SetAmbience({1});
+    EXPECT_FALSE(host.Sounds().IsOpen());
+    for (QAction* const action : window.findChildren<QAction*>())
+        if (action->text().contains(QStringLiteral("birds"))) action->trigger();
+    EXPECT_TRUE(settings.Now().ambience);
+    EXPECT_TRUE(host.Sounds().IsOpen());
+    unsetenv("SDL_AUDIODRIVER");
 }
 
 TEST_F(FrontEndTest, WhileAQuestionStandsNothingEntersTheGame) {

@@ -136,6 +136,59 @@ TEST_F(SoundDeviceTest, AllSoundsAreAsLoudAsThePlayerWantsThem) {
     }
 }
 
+TEST_F(SoundDeviceTest, TheValleyIsHeardUntilItIsMutedAndTheDeviceIsIdle) {
+    std::filesystem::create_directories(folder.Path() / "wav/ambience");
+    folder.Write("wav/ambience/wind.wav", Wave(22050));
+    folder.Write("wav/ambience/wood.wav", "no sound");
+    device.SetAmbience({});
+    EXPECT_FALSE(device.IsOpen()) << "for silence nothing is opened";
+    testing::internal::CaptureStderr();
+    device.SetAmbience({1, 1, 1, 1, 1});
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "Sarnoth III: wav/ambience/wood.wav: byte 0: expected a WAV sound\n");
+    ASSERT_TRUE(device.IsOpen());
+    EXPECT_FALSE(device.Idle());
+    EXPECT_FALSE(device.Playing()) << "it takes no slot";
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    device.LetAmbience(false);
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    EXPECT_TRUE(device.Idle());
+    device.LetAmbience(true);
+    device.SetLoudness(0);
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    EXPECT_TRUE(device.Idle());
+    device.Close();
+    EXPECT_NE(folder.Read("heard.raw").find_first_not_of('\0'), std::string::npos);
+}
+
+TEST_F(SoundDeviceTest, AFileWithoutSoundEndsNothingWhereTheRulesDidNotAskForIt) {
+    const SoundRequest broken = Sound("broken", "no sound");
+    testing::internal::CaptureStderr();
+    device.PlayIfSound(broken);
+    device.PlayIfSound(broken);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "Sarnoth III: wav/broken.wav: byte 0: expected a WAV sound\n");
+}
+
+// The library's change of rate would click there.
+TEST(SoundFileTest, ALoopEndsWhereItBegins) {
+    std::string wave = Wave(0);
+    constexpr int Length = 2205;
+    for (const int at : {4, 40}) {
+        const std::uint32_t size = 2 * Length + (at == 4 ? 36 : 0);
+        wave.replace(static_cast<std::size_t>(at), 4, reinterpret_cast<const char*>(&size), 4);
+    }
+    for (int i = 0; i < Length; ++i) {
+        const auto sample =
+            static_cast<std::int16_t>(8000 * std::sin(2 * 3.14159265358979 * 21 * i / Length));
+        wave.append(reinterpret_cast<const char*>(&sample), 2);
+    }
+    const Samples loop = DecodeLoop(wave, "loop");
+    ASSERT_EQ(loop.size(), 2U * Length);
+    for (std::size_t i = 0; i < loop.size(); ++i)
+        EXPECT_LE(std::abs(loop[(i + 1) % loop.size()] - loop[i]), 242) << i;
+}
+
 using SoundDeviceDeathTest = SoundDeviceTest;
 
 TEST_F(SoundDeviceDeathTest, WithoutADeviceNothingHappensAndNothingIsPrinted) {
