@@ -1,7 +1,9 @@
 #include "desktop/companion_view.h"
 
 #include <algorithm>
+#include <functional>
 #include <thread>
+#include <utility>
 
 #include "desktop/form_window.h"
 #include "desktop/picture_widget.h"
@@ -18,6 +20,23 @@ QRect BoundsOf(const Control& control) {
     return {0, 0, control.Width, control.Height};
 }
 
+// Runs `atLeave` when the pointer leaves a window.
+class LeaveWatch : public QObject {
+  public:
+    LeaveWatch(QWidget& ofWindow, std::function<void()> toDo) : QObject(&ofWindow), atLeave(std::move(toDo)) {
+        ofWindow.installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Leave) atLeave();
+        return false;
+    }
+
+  private:
+    const std::function<void()> atLeave;
+};
+
 }  // namespace
 
 CompanionView::CompanionView(FormWindow& main, Companion& whose)
@@ -31,6 +50,10 @@ CompanionView::CompanionView(FormWindow& main, Companion& whose)
     companion.FilmTurns();
     motion.setInterval(FrameTime);
     motion.callOnTimeout([this] { Sync(); });
+    new LeaveWatch(window, [this] {
+        companion.ForgetPointer();
+        Sync();
+    });
 }
 
 void CompanionView::Sync() {
@@ -63,6 +86,10 @@ void CompanionView::Screen(const std::function<void(Moment end)>& handleUntil,
 void CompanionView::ShowScreening(const Screening& screening, Moment now) {
     const ViewPlace view = screening.View(now);
     window.WidgetOf(frmField.area)->move(ToScreen(ViewLeft - view.left), ToScreen(ViewTop - view.top));
+}
+
+bool CompanionView::IsInView() const {
+    return field.pos() == QPoint(ToScreen(frmField.area.Left), ToScreen(frmField.area.Top));
 }
 
 void CompanionView::SleepUntil(Moment end) {

@@ -27,6 +27,9 @@ class CompanionView {
     void Screen(const std::function<void(Moment end)>& handleUntil, const Screening::PlaySound& play,
                 bool skips);
 
+    /// Whether the part of the field that the records want in view is the one on the screen.
+    bool IsInView() const;
+
     /// Waits until `end` without an event, and keeps moving meanwhile what moves.
     void SleepUntil(Moment end);
 

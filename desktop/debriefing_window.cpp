@@ -47,6 +47,7 @@ void ShowDebriefing(const std::string& page, const SaveRecording& save) {
     auto* const text = new QTextBrowser(&box);
     text->setFrameShape(QFrame::NoFrame);
     text->setOpenLinks(false);
+    text->setContextMenuPolicy(Qt::NoContextMenu);
     text->setAccessibleName(box.windowTitle());
     text->document()->setDefaultStyleSheet(QString::fromUtf8(Looks));
     text->document()->setDefaultFont(QApplication::font());

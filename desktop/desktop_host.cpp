@@ -95,6 +95,7 @@ void DesktopHost::StopPlayBack() {
 void DesktopHost::LetInAtPace() {
     if (InnermostPump() != 0) return;
     if (companion != nullptr && companion->TheScreening() != nullptr) return;
+    if (companion != nullptr && !hastens && companion->ShowsAct()) return;
     do
         LetIn();
     while (hastens && InnermostPump() == 0);
@@ -178,7 +179,7 @@ void DesktopHost::Screen() {
 }
 
 void DesktopHost::Sync() {
-    slips.Note(Now());
+    NoteHandOver();
     if (IsFilming() || hastens) return;
     mainWindow.Sync();
     for (Form* form : forms)
@@ -190,8 +191,21 @@ void DesktopHost::Sync() {
     if (companion != nullptr) SoundValley();
 }
 
-void DesktopHost::Refresh(Control& control) {
+// The last shot of a soldier who hands over is seen before the view goes to the next one.
+void DesktopHost::NoteHandOver() {
+    constexpr std::chrono::milliseconds Rest(600);
+    const std::optional<Slips::HandOver> before = slips.LastHandOver();
     slips.Note(Now());
+    const std::optional<Slips::HandOver>& handOver = slips.LastHandOver();
+    if (!handOver || (before && before->when == handOver->when)) return;
+    if (!companionView || IsFilming() || hastens) return;
+    if (!companion->ShowsAct() || companionView->IsInView()) return;
+    companionView->SleepUntil(steady_clock::now() + Rest);
+    slips.SeeHandOver(Now());
+}
+
+void DesktopHost::Refresh(Control& control) {
+    NoteHandOver();
     if (hastens) return;
     if (IsFilming()) return companion->Shoot({});
     FormWindow& window = WindowOf(*control.form);

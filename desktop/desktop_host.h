@@ -93,6 +93,7 @@ class DesktopHost : public Host {
     bool SkipsFilm(const InputEvent& event);
     void Screen();
     void RestOnLastSight();
+    void NoteHandOver();
     void WaitInFilm(std::chrono::nanoseconds time, bool pump);
     bool MayEnter(const InputEvent& event);
     void Fail(const std::string& text);

@@ -114,11 +114,10 @@ void FrontEnd::Run(FrontCommand command) {
         case FrontCommand::FullScreen:
             return sizes.ToggleFullScreen();
         case FrontCommand::Larger:
-            sizes.Step(+1);
-            return Say(tr("Size %1").arg(ScaleFactor()));
+            return Say(
+                (sizes.Step(+1) ? tr("Size %1") : tr("Size %1: no larger one fits")).arg(ScaleFactor()));
         case FrontCommand::Smaller:
-            sizes.Step(-1);
-            return Say(tr("Size %1").arg(ScaleFactor()));
+            return Say((sizes.Step(-1) ? tr("Size %1") : tr("Size %1: the smallest")).arg(ScaleFactor()));
         case FrontCommand::Fit:
             sizes.Fit();
             return Say(tr("Size %1, as large as fits").arg(ScaleFactor()));

@@ -46,6 +46,8 @@ SquadWindow::SquadWindow(QWidget& ofOwner, Companion& whose, EventSink to)
     setAttribute(Qt::WA_ShowWithoutActivating);
     Build();
     AddKeys();
+    FollowLog();
+    owner.installEventFilter(this);
     for (QWidget* child : findChildren<QWidget*>())
         child->installEventFilter(this);
 }
@@ -96,22 +98,54 @@ void SquadWindow::AddKeys() {
 
 void SquadWindow::SetShown(bool shows) {
     wanted = shows;
+    givesWay = false;
     if (!owner.isVisible()) return;
     placed = true;
-    if (wanted && !isVisible()) {
-        Rescale();
-        PlaceBeside();
-        show();
-        Sync();
-        logList->scrollToBottom();
-    }
-    if (!wanted) hide();
+    if (wanted && !isVisible()) Open();
+    if (!wanted) Close();
+}
+
+void SquadWindow::Open() {
+    Place();
+    show();
+    // A window system may have placed its inside where the frame was meant to be.
+    QTimer::singleShot(0, this, [this] { Place(); });
+    follows = true;
+    Sync();
+}
+
+void SquadWindow::Close() {
+    if (!isVisible()) return;
+    lastPlace = {pos(), size()};
+    lastScale = shownScale;
+    hide();
+}
+
+// Where it was the last time that it had this size.
+void SquadWindow::Place() {
+    if (shownScale != ScaleFactor()) Rescale();
+    if (lastScale != ScaleFactor()) return PlaceBeside();
+    move(lastPlace.topLeft());
+    resize(lastPlace.size());
 }
 
 void SquadWindow::Toggle() {
-    SetShown(!wanted);
+    SetShown(!isVisible());
     if (!wanted) GiveKeysBack();
     if (atToggle) atToggle(wanted);
+}
+
+// On the full screen it would lie over the game's controls.
+void SquadWindow::NoteFullScreen() {
+    if (owner.isFullScreen()) {
+        givesWay = givesWay || isVisible();
+        return Close();
+    }
+    // The size is set after the state.
+    QTimer::singleShot(0, this, [this] {
+        if (isVisible()) return Place();
+        if (givesWay) SetShown(wanted);
+    });
 }
 
 void SquadWindow::TakeKeys() {
@@ -140,17 +174,24 @@ void SquadWindow::Sync() {
     SyncLog();
 }
 
-// Whoever reads the newest line goes on reading the newest.
 void SquadWindow::SyncLog() {
-    const QScrollBar& bar = *logList->verticalScrollBar();
-    const bool atEnd = bar.value() == bar.maximum();
-    const int before = logList->model()->rowCount();
     if (all->isChecked())
         everything->Sync();
     else
         log->Show(companion.TheChronicle(),
                   {hits->isChecked(), sightings->isChecked(), refusals->isChecked()});
-    if (atEnd && logList->model()->rowCount() != before) logList->scrollToBottom();
+    if (follows) logList->scrollToBottom();
+}
+
+// Whoever reads the newest line goes on reading the newest, also when the lines take more room than before.
+void SquadWindow::FollowLog() {
+    QScrollBar* const bar = logList->verticalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int /*least*/, int most) {
+        if (follows) bar->setValue(most);
+    });
+    const auto note = [this, bar] { follows = bar->sliderPosition() == bar->maximum(); };
+    connect(bar, &QScrollBar::actionTriggered, this, note);
+    connect(bar, &QScrollBar::sliderMoved, this, note);
 }
 
 void SquadWindow::ChangeFilter() {
@@ -163,8 +204,8 @@ void SquadWindow::ChangeFilter() {
         logList->setUniformItemSizes(all->isChecked());  // it may have thousands of lines
         logList->setWordWrap(!all->isChecked());
     }
+    follows = true;
     SyncLog();
-    logList->scrollToBottom();
 }
 
 void SquadWindow::Choose(const QModelIndex& row) {
@@ -182,6 +223,10 @@ void SquadWindow::GoTo(const QModelIndex& row) {
 
 // Enter and Space choose in the squad's list.
 bool SquadWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &owner) {
+        if (event->type() == QEvent::WindowStateChange) NoteFullScreen();
+        return false;
+    }
     if (event->type() == QEvent::MouseButtonRelease) QTimer::singleShot(0, this, [this] { GiveKeysBack(); });
     if (watched != squadList || event->type() != QEvent::KeyPress) return false;
     const int key = static_cast<const QKeyEvent&>(*event).key();
@@ -209,6 +254,8 @@ void SquadWindow::Rescale() {
     squadList->setFixedHeight(rows * ToScreen(RowHeight) + frame);
     squadList->doItemsLayout();
     logList->doItemsLayout();
+    ensurePolished();
+    layout()->activate();
     resize(ToScreen(Width), owner.height());
 }
 

@@ -51,6 +51,11 @@ class SquadWindow : public QWidget {
     void GoTo(const QModelIndex& row);
     void ChangeFilter();
     void SyncLog();
+    void FollowLog();
+    void Open();
+    void Close();
+    void Place();
+    void NoteFullScreen();
     void Rescale();
     bool HasRoom() const;
     void PlaceBeside();
@@ -69,6 +74,10 @@ class SquadWindow : public QWidget {
     QCheckBox* refusals;
     QCheckBox* all;
     bool wanted = true;
-    bool placed = false;  // it was decided whether it comes by itself
+    bool follows = true;    // the log's newest line stays in view
+    bool givesWay = false;  // it is hidden for as long as the main window fills the screen
+    bool placed = false;    // it was decided whether it comes by itself
     double shownScale = 0;
+    double lastScale = 0;
+    QRect lastPlace;  // when it was closed: where its frame began, and its inside's size
 };

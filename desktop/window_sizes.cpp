@@ -37,10 +37,12 @@ Halves WindowSizes::Wanted() const {
     return chosen == 0 ? fitting : std::min(chosen, fitting);
 }
 
-void WindowSizes::Step(int halves) {
-    const Halves to = std::clamp(Scale() + halves, SingleSize, Most());
+bool WindowSizes::Step(int halves) {
+    const Halves before = Scale();
+    const Halves to = std::clamp(before + halves, SingleSize, Most());
     Remember(to);
     Show(to);
+    return to != before;
 }
 
 void WindowSizes::Fit() {
@@ -52,8 +54,12 @@ void WindowSizes::ToggleFullScreen() {
     Settings changed = settings.Now();
     changed.fullScreen = !window.isFullScreen();
     settings.Change(changed);
+    if (!window.isFullScreen()) freePlace = window.geometry().topLeft();
     window.setWindowState(window.windowState() ^ Qt::WindowFullScreen);
-    if (IsFree()) Show(Wanted());
+    if (!IsFree()) return;
+    Show(Wanted());
+    // The size was set where the full screen began.
+    if (freePlace) window.setGeometry(QRect(*freePlace, window.size()));
 }
 
 // The main window first: others stand in its middle.

@@ -4,9 +4,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include <QObject>
+#include <QPoint>
 
 #include "desktop/scale.h"
 
@@ -20,8 +22,8 @@ class WindowSizes : public QObject {
     WindowSizes(FormWindow& ofMain, std::vector<const Form*> ofForms, SettingsFile& ofPlayer,
                 std::function<void()> toShow);
 
-    /// Larger or smaller by so many halves, as far as it goes.
-    void Step(int halves);
+    /// Larger or smaller by so many halves, as far as it goes; whether it goes at all.
+    bool Step(int halves);
 
     /// The largest size again.
     void Fit();
@@ -42,4 +44,5 @@ class WindowSizes : public QObject {
     const std::vector<const Form*> forms;
     SettingsFile& settings;
     const std::function<void()> show;
+    std::optional<QPoint> freePlace;  // of the window's inside, before it filled the screen
 };

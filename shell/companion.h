@@ -56,6 +56,12 @@ class Companion {
     /// Whether something lingers of what has happened.
     bool ShowsEffects() const { return effects.Any(clock()); }
 
+    /// Whether a shot, a hit, a death or a blast is still to be seen.
+    bool ShowsAct() const { return effects.AnyAct(clock()); }
+
+    /// The pointer has left the window: nothing lies under it.
+    void ForgetPointer() { guide.ForgetPointer(); }
+
     /// Its own sounds go to `out` from now on, each when the player sees what it belongs to; those of a shot
     /// on film as soon as the rules' own.
     void SoundThrough(Screening::PlaySound out) { soundOut = std::move(out); }

@@ -289,3 +289,9 @@ bool Effects::Any(Moment now) const {
         return AgeOf(effect.begun, now) < LookOf(effect.cause.kind)->length;
     });
 }
+
+bool Effects::AnyAct(Moment now) const {
+    return std::any_of(running.begin(), running.end(), [now](const Effect& effect) {
+        return IsAct(effect.cause.kind) && AgeOf(effect.begun, now) < LookOf(effect.cause.kind)->length;
+    });
+}

@@ -20,6 +20,9 @@ class Effects {
 
     bool Any(Moment now) const;
 
+    /// Whether a shot, a hit, a death or a blast is still to be seen.
+    bool AnyAct(Moment now) const;
+
     void Clear() { running.clear(); }
 
   private:

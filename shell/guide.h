@@ -23,6 +23,9 @@ class Guide {
     /// Instead of Look while the enemy's turn is shown: no marks, and the read-out says whose turn it is.
     void LookAway();
 
+    /// No place is under the pointer until it moves again.
+    void ForgetPointer() { pointer.reset(); }
+
     /// Whether something is to be shown soon that isn't yet.
     bool IsWaiting() const;
 

@@ -47,7 +47,9 @@ std::string ActName(const ActForecast& act) {
 }
 
 std::string WayToTarget(const ActForecast& act) {
-    return act.range > 0 ? Number(act.distance) + " of " + Cells(act.range) : "";
+    if (act.range <= 0) return "";
+    if (act.distance > act.range) return Cells(act.distance) + ", reaches " + Number(act.range);
+    return Number(act.distance) + " of " + Cells(act.range);
 }
 
 using Lines = std::vector<ReadoutLine>;

@@ -64,6 +64,10 @@ void Slips::NoteUnit(Moment now) {
     shown = curUnit;
 }
 
+void Slips::SeeHandOver(Moment now) {
+    if (handOver) handOver->when = now;
+}
+
 bool Slips::Swallows(const InputEvent& event, Moment now) const {
     if (EndsTurn(event)) return now - cameBack < Pause;
     if (IsKey(event) && outlasted.contains(event.code)) return true;

@@ -26,6 +26,9 @@ class Slips {
     /// The event is about to enter the game.
     void Enters(const InputEvent& event);
 
+    /// What a hand-over leads to is seen only now: the presses until now came too late.
+    void SeeHandOver(Moment now);
+
     /// The last time that a soldier of the squad was selected by no wish of the player's; nothing before the
     /// first.
     const std::optional<HandOver>& LastHandOver() const { return handOver; }

@@ -60,7 +60,7 @@ WalkForecast ForecastWalk(Rehearsal& rehearsal, int cellX, int cellY, float x, f
     walk.timeLeft = unit.time;
     walk.energyLeft = unit.energy;
     const Unit& before = rehearsal.Before().UnitTable[curUnit];
-    if (!IsWayOpen(before, cellX, cellY)) {
+    if (whole.steps.empty() && !IsWayOpen(before, cellX, cellY)) {
         walk.refusal = {Why::NoWay, own.time};
         return walk;
     }

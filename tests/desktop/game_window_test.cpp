@@ -4,6 +4,8 @@
 #include <cstdlib>
 
 #include "platform/headless_host.h"
+#include "shell/companion.h"
+#include "state/audience.h"
 #include "tools/player/scripted_player.h"
 #include "view/start.h"
 #include "window_game.h"
@@ -85,6 +87,43 @@ TEST_F(MissionWindowTest, EverySeedEndsInAVerdictOrByExit) {
         EXPECT_EQ(host.message, result.verdict + ". The end.") << "seed " << seed;
         host.message.clear();
     }
+}
+
+// Keeps where the field lay whenever it was painted.
+class PaintWatch : public QObject {
+  public:
+    explicit PaintWatch(QWidget& ofField) : field(ofField) { field.installEventFilter(this); }
+
+    std::vector<int> lefts;
+
+  protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint) lefts.push_back(field.x());
+        return false;
+    }
+
+  private:
+    QWidget& field;
+};
+
+TEST_F(GameWindowTest, WhoHandsOverIsInViewUntilHisLastShotIsSeen) {
+    Companion companion;
+    HastyHost host(frmField, OtherForms(), Dispatch);
+    host.Accompany(companion);
+    host.Enter([] { Main(1); });
+    FormWindow& window = host.WindowOf(frmField);
+    QTest::keyClick(&window, Qt::Key_BracketRight);
+    host.PumpEvents();
+    QCoreApplication::processEvents();
+    PaintWatch watch(*window.WidgetOf(frmField.area));
+    const int left = frmField.area.Left;
+    host.Enter([] {
+        TheAudience().UnitHurt(FirstOf(EnemyTeam), 5);
+        curUnit = static_cast<i16>(curUnit + 1);
+        frmField.area.Left -= 300;
+    });
+    EXPECT_GT(std::count(watch.lefts.begin(), watch.lefts.end(), left), 3) << "the points rise there";
+    EXPECT_EQ(window.WidgetOf(frmField.area)->x(), left - 300);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // The squad's window beside the game's.
 #include <QListView>
+#include <QScrollBar>
 
 #include "desktop/squad_window.h"
 #include "shell/companion.h"
@@ -79,6 +80,39 @@ TEST_F(SquadWindowTest, ItIsClosedAndOpenedByItsKey) {
     host.Squad()->close();
     EXPECT_FALSE(host.Squad()->IsShown());
     EXPECT_FALSE(told);
+}
+
+TEST_F(SquadWindowTest, TheNewestEntryStaysInViewUntilThePlayerScrollsUp) {
+    QListView& log = List("Log");
+    QScrollBar& bar = *log.verticalScrollBar();
+    const auto addHits = [&](int count) {
+        for (int i = 0; i < count; ++i) {
+            ++orderCount;  // each an entry of its own
+            TheAudience().UnitHurt(FirstOf(EnemyTeam), 5);
+            host.PumpEvents();
+            QCoreApplication::processEvents();
+        }
+    };
+    addHits(40);
+    ASSERT_GT(bar.maximum(), 0);
+    EXPECT_EQ(bar.value(), bar.maximum()) << "through the bar's first showing, which wraps lines anew";
+    bar.triggerAction(QAbstractSlider::SliderToMinimum);
+    addHits(3);
+    EXPECT_EQ(bar.value(), 0) << "he reads an old one";
+    bar.triggerAction(QAbstractSlider::SliderToMaximum);
+    addHits(3);
+    EXPECT_EQ(bar.value(), bar.maximum());
+}
+
+TEST_F(SquadWindowTest, ItGivesWayToTheFullScreen) {
+    FormWindow& main = host.WindowOf(frmField);
+    const QRect place = host.Squad()->geometry();
+    main.setWindowState(Qt::WindowFullScreen);
+    EXPECT_FALSE(host.Squad()->isVisible());
+    EXPECT_TRUE(host.Squad()->IsShown()) << "the player hasn't closed it";
+    main.setWindowState(Qt::WindowNoState);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return host.Squad()->isVisible(); }));
+    EXPECT_EQ(host.Squad()->geometry(), place);
 }
 
 }  // namespace

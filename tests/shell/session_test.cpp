@@ -192,7 +192,10 @@ TEST_F(SessionTest, AProcessKilledAtAnyMomentContinuesFromItsLastEvent) {
         fs::remove_all(folder.Path() / "journal");  // before the child can be killed
         const pid_t child = fork();
         if (child == 0) std::_Exit(Play(seed, {100'000}, false) ? 0 : 1);
-        usleep(5000 + static_cast<useconds_t>(chance() % 40'000));
+        // A sanitized process takes long to come so far.
+        for (int looks = 0; looks < 10'000 && !Lies("current.txt"); ++looks)
+            usleep(1000);
+        usleep(static_cast<useconds_t>(chance() % 40'000));
         kill(child, SIGKILL);
         int status = 0;
         waitpid(child, &status, 0);

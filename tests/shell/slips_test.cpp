@@ -81,6 +81,16 @@ TEST_F(SlipsTest, OnlyAHandOverThatNobodyAskedForSwallowsWhatWasMeantForTheOther
     }
 }
 
+TEST_F(SlipsTest, APauseBeginsWhenTheNextSoldierIsSeen) {
+    slips.Enters(Press(RightButton, 20, 20));
+    curUnit = 1;
+    slips.Note(now);
+    const Moment seen = now + milliseconds(600);
+    slips.SeeHandOver(seen);
+    EXPECT_TRUE(slips.Swallows(Press(RightButton, 20, 20), seen + milliseconds(299)));
+    EXPECT_FALSE(slips.Swallows(Press(RightButton, 20, 20), seen + milliseconds(300)));
+}
+
 TEST_F(SlipsTest, AKeyInTheComputersTurnMakesNoHandOverOfItsEnd) {
     slips.Enters(EndTurn);
     curTeam = EnemyTeam;

@@ -4,9 +4,11 @@
 #include <fstream>
 #include <sstream>
 
+#include "shell/journal.h"
 #include "state/state.h"
 #include "tests/support/game_test.h"
 #include "tools/lab/field_referee.h"
+#include "tools/lab/journal_recording.h"
 #include "tools/lab/recording.h"
 #include "tools/lab/remake.h"
 #include "tools/lab/replay.h"
@@ -103,6 +105,24 @@ TEST_F(LabTest, ABareListOfEventsIsMadeARecording) {
     };
     EXPECT_TRUE(has("  weaponPage 1 -> 2")) << "the file was open for its keys";
     EXPECT_TRUE(has("  UnitTable[0].stance 2 -> 0")) << "and closed for the field's";
+}
+
+TEST_F(LabTest, AJournalIsReplayedWithTheStoreThatItBeganWith) {
+    const std::string things = folder.Read("dat/apc.dat");
+    const std::filesystem::path file = folder.Path() / "game.txt";
+    const std::string head = HeadText(HeadOfGame(5));
+    const std::string rest = StoreText() + "event 1 0 Click frmField.mnuExit -1 0 0 0 0\n";
+    std::ofstream(file) << head << rest;
+    folder.Write("dat/apc.dat", "");
+    ASSERT_TRUE(IsJournal(file));
+    const Recording recording = RecordingOfJournal(file, folder.Path());
+    EXPECT_EQ(folder.Read("dat/apc.dat"), things);
+    ASSERT_FALSE(recording.lines.empty());
+    EXPECT_EQ(recording.lines.back(), "end 0");
+    EXPECT_EQ(ReplayHeadless(recording).difference, "");
+    std::ofstream(file) << head.substr(0, head.find("data")) << "data 0\nstore 0\nseed 5\n" << rest;
+    EXPECT_NE(ErrorOf([&] { RecordingOfJournal(file, folder.Path()); }).find("other data"),
+              std::string::npos);
 }
 
 TEST_F(LabTest, ARecordingThatIsNoneIsToldByItsLine) {

@@ -1,4 +1,5 @@
 // The commands that show a window.
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
@@ -12,6 +13,7 @@
 #include "shell/companion.h"
 #include "tools/game_copy.h"
 #include "tools/lab/commands.h"
+#include "tools/lab/journal_recording.h"
 #include "tools/lab/recorder.h"
 #include "tools/lab/replay.h"
 #include "view/events.h"
@@ -27,6 +29,13 @@ void Tell(const ReplayResult& result) {
         std::cout << result.events << " events replayed, all as recorded\n";
     else
         std::cout << "it went another way at " << result.difference << "\n";
+}
+
+// What a journal comes to, for it says nothing of it itself.
+void TellEnd(const Recording& recording) {
+    const auto isSum = [](const std::string& line) { return line.starts_with("after "); };
+    const auto last = std::find_if(recording.lines.rbegin(), recording.lines.rend(), isSum);
+    if (last != recording.lines.rend()) std::cout << *last << "\n";
 }
 
 // The process ends where it is, so no destructor does it.
@@ -99,9 +108,12 @@ struct ReplayOptions {
 };
 
 int ReplayFile(const ReplayOptions& options) {
-    const Recording recording = ReadRecording(options.file);
     const GameCopy copy(options.game);
     SetProgramFolder(copy.Path());
+    const bool isJournal = IsJournal(options.file);
+    const Recording recording =
+        isJournal ? RecordingOfJournal(options.file, copy.Path()) : ReadRecording(options.file);
+    if (isJournal) TellEnd(recording);
     if (options.window) return ReplayInWindow(recording, options.pictures, copy);
     const ReplayResult result = ReplayHeadless(recording, options.pictures);
     Tell(result);
@@ -143,7 +155,7 @@ Work AddPlay(CLI::App& command) {
 
 Work AddReplay(CLI::App& command) {
     const auto options = std::make_shared<ReplayOptions>();
-    AddFile(command, "FILE", options->file, "the recording");
+    AddFile(command, "FILE", options->file, "the recording, or the journal of a game");
     command.add_flag("--window", options->window, "in a window, to look at");
     command
         .add_option("--pictures", options->pictures,
