@@ -8,7 +8,7 @@ failed=0
 for preset in "$@"; do
     for recording in tests/recordings/*.rec tests/recordings/oddities/*.rec; do
         printf '%-9s %-40s ' "$preset" "$(basename "$recording")"
-        "build/$preset/tools/sarnoth-lab" replay "$recording" || failed=1
+        "build/$preset/tools/sarnoth-lab" replay --game "build/$preset/recorded/game" "$recording" || failed=1
     done
 done
 exit $failed

@@ -131,8 +131,7 @@ TEST(PictureFiles, AreRefusedWhereverTheyAreCut) {
 // Those of other programs: with one, three and four colours, fewer blocks for some, restarts, long runs of
 // zeros.
 TEST(PictureFiles, TheDataOfAJpegAreCountedToTheLastCode) {
-    const std::filesystem::path corpus =
-        std::filesystem::path(SOURCES_FOLDER) / "../tests/fuzz/corpus/picture";
+    const std::filesystem::path corpus = std::filesystem::path(FUZZ_CORPUS) / "picture";
     for (const char* name : {"baseline.jpg", "gray.jpg", "cmyk.jpg", "restarts.jpg", "subsampled.jpg"}) {
         std::ifstream file(corpus / name, std::ios::binary);
         std::string whole{std::istreambuf_iterator<char>(file), {}};

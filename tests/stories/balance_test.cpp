@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/files.h"
 #include "tests/support/game_test.h"
 #include "tools/player/scripted_player.h"
 #include "tools/player/squad_player.h"
@@ -21,6 +22,8 @@ struct Campaign {
 
 class BalanceTest : public GameTest {
   protected:
+    BalanceTest() { SetProgramFolder(played.Path()); }
+
     Campaign PlayAll(const char* player) {
         Campaign campaign;
         for (int seed = 1; seed <= Seeds; ++seed) {
@@ -38,6 +41,8 @@ class BalanceTest : public GameTest {
         std::sort(campaign.turns.begin(), campaign.turns.end());
         return campaign;
     }
+
+    GameCopy played{PLAYED_GAME};
 };
 
 TEST_F(BalanceTest, TheMissionLastsAndCarelessnessCosts) {

@@ -9,9 +9,10 @@ namespace {
 std::vector<PlayedMission> Missions() {
     std::vector<PlayedMission> missions;
     for (const int turns : {10, 1, 9, 2, 8, 3, 7, 4, 6, 5})
-        missions.push_back({100, {"Victory", turns, turns % 2, 0, 3}, ""});
-    missions.push_back({111, {"Withdrawal", 30, 4, 2, 1}, ""});
-    missions.push_back({112, {"Withdrawal", 7, 1, 1, 0}, ""});
+        missions.push_back(
+            {100, {"Victory", turns, turns % 2, 0, 3}, "", {{0, {75, 0}}, {20, {37, 22 + turns % 2}}}});
+    missions.push_back({111, {"Withdrawal", 30, 4, 2, 1}, "", {{0, {75, 0}}}});
+    missions.push_back({112, {"Withdrawal", 7, 1, 1, 0}, "", {}});
     missions.emplace_back().seed = 113;
     missions.back().error = "x";
     return missions;
@@ -27,7 +28,8 @@ TEST(MissionSummaryTest, TheTableLeavesOutWhatFailed) {
         "Withdrawal         2   16.7%      7       7    30    30     2.50   1.50          0.50  100.0%\n"
         // Of twelve the sixth and the eleventh; ten wounded, three dead and 31 enemies; seven were costly.
         "All               12  100.0%      1       6    10    30     0.83   0.25          2.58   58.3%\n"
-        "costly: cost the squad a wounded or dead soldier\n");
+        "costly: cost the squad a wounded or dead soldier\n"
+        "decided in the NW 41.7% NE 0.0% SW 41.7% SE 0.0%\n");
 }
 
 }  // namespace

@@ -10,10 +10,12 @@
 #include "platform/quiet_host.h"
 #include "state/quiet_audience.h"
 #include "tools/game_copy.h"
+#include "tools/missions/heat_map.h"
 #include "tools/missions/options.h"
 #include "tools/missions/summary.h"
 #include "tools/missions/watchdog.h"
 #include "tools/player/squad_player.h"
+#include "tools/whole_file.h"
 
 namespace {
 
@@ -67,14 +69,26 @@ void PrintSpeed(std::size_t missions, std::chrono::duration<double> time) {
               << static_cast<double>(missions) / time.count() << " a second\n";
 }
 
+void Print(const std::vector<PlayedMission>& missions, const MissionOptions& options) {
+    if (options.json)
+        std::cout << MissionJson(missions);
+    else if (options.markdown)
+        std::cout << MissionMarkdown(options.player, missions);
+    else
+        std::cout << MissionTable(missions);
+    if (!options.heat.empty()) WriteWholeFile(options.heat, HeatMapSvg(ClassesOfField(), missions));
+}
+
 ExitCode PlayAll(const MissionOptions& options, const GameCopy& copy) {
     const Clock::time_point start = Clock::now();
-    QuietAudience nobody;
-    InstallAudience(&nobody);
+    FallWatch watch;
+    InstallAudience(&watch);
     std::vector<PlayedMission> missions;
-    for (std::uint64_t seed = options.seeds.first; seed <= options.seeds.last; ++seed)
+    for (std::uint64_t seed = options.seeds.first; seed <= options.seeds.last; ++seed) {
         missions.push_back(Play(static_cast<std::uint32_t>(seed), options, copy));
-    std::cout << (options.json ? MissionJson(missions) : MissionTable(missions));
+        missions.back().falls = watch.Falls();
+    }
+    Print(missions, options);
     if (options.time) PrintSpeed(missions.size(), Clock::now() - start);
     const bool ended = std::all_of(missions.begin(), missions.end(),
                                    [](const PlayedMission& mission) { return mission.error.empty(); });

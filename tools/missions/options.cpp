@@ -18,6 +18,10 @@ void AddMissionOptions(CLI::App& app, MissionOptions& options) {
         ->capture_default_str();
     CLI::Option* const json =
         app.add_flag("--json", options.json, "for programs: the same figures, and each mission's own");
+    app.add_flag("--markdown", options.markdown, "the row of the table in docs/map.md")->excludes(json);
+    app.add_option("--heat", options.heat,
+                   "paints where men fell, and where the missions were decided, over the field, an SVG")
+        ->type_name("FILE");
     app.add_option("--log", options.log,
                    "the whole log of that one mission instead; goes with neither --seeds nor --json")
         ->type_name("SEED")

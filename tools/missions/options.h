@@ -16,6 +16,8 @@ struct MissionOptions {
     int limit = 60;  // seconds
     std::string player = "simple";
     bool json = false;
+    bool markdown = false;
+    std::filesystem::path heat;  // empty for none
     bool time = false;
 };
 

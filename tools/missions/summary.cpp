@@ -92,6 +92,52 @@ std::string Row(const std::string& name, const Figures& figures) {
     return row.str();
 }
 
+using QuarterShares = std::array<double, Quarters>;
+
+// Of all missions that ended.
+QuarterShares SharesOf(const std::vector<PlayedMission>& all) {
+    const Missions missions = Ended(all, "");
+    QuarterShares shares = {};
+    for (const PlayedMission* mission : missions)
+        if (const std::optional<Spot> cell = DecidingCell(*mission))
+            shares[static_cast<std::size_t>(QuarterOf(*cell))] += 1.0 / static_cast<double>(missions.size());
+    return shares;
+}
+
+std::string Percent(double share) {
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(1) << share * 100 << "%";
+    return text.str();
+}
+
+std::string QuarterLine(const std::vector<PlayedMission>& missions) {
+    const QuarterShares shares = SharesOf(missions);
+    std::string line = "decided in the";
+    for (std::size_t quarter = 0; quarter < Quarters; ++quarter)
+        line += std::string(" ") + QuarterNames[quarter] + " " + Percent(shares[quarter]);
+    return line + "\n";
+}
+
+Json QuartersJson(const std::vector<PlayedMission>& missions) {
+    const QuarterShares shares = SharesOf(missions);
+    Json json;
+    for (std::size_t quarter = 0; quarter < Quarters; ++quarter)
+        json[QuarterNames[quarter]] = shares[quarter];
+    return json;
+}
+
+Json SpotJson(const std::optional<Spot>& cell) {
+    if (!cell) return nullptr;
+    return {{"x", int{cell->x}}, {"y", int{cell->y}}};
+}
+
+Json FallsJson(const std::vector<Fall>& falls) {
+    Json json = Json::array();
+    for (const Fall& fall : falls)
+        json.push_back({{"unit", fall.unit}, {"x", int{fall.cell.x}}, {"y", int{fall.cell.y}}});
+    return json;
+}
+
 Json FiguresJson(const Figures& figures) {
     if (figures.missions == 0)
         return {{"missions", 0}, {"share", 0}, {"turns", nullptr}, {"mean", nullptr}, {"costly", nullptr}};
@@ -112,12 +158,22 @@ Json FiguresJson(const Figures& figures) {
 Json PlayedJson(const PlayedMission& mission) {
     if (!mission.error.empty()) return {{"seed", mission.seed}, {"error", mission.error}};
     const MissionResult& result = mission.result;
-    return {{"seed", mission.seed},          {"verdict", result.verdict},
-            {"turns", result.turns},         {"squadWounded", result.squadWounded},
-            {"squadDead", result.squadDead}, {"enemiesDead", result.enemiesDead}};
+    return {{"seed", mission.seed},
+            {"verdict", result.verdict},
+            {"turns", result.turns},
+            {"squadWounded", result.squadWounded},
+            {"squadDead", result.squadDead},
+            {"enemiesDead", result.enemiesDead},
+            {"decidedAt", SpotJson(DecidingCell(mission))},
+            {"fell", FallsJson(mission.falls)}};
 }
 
 }  // namespace
+
+std::optional<Spot> DecidingCell(const PlayedMission& mission) {
+    if (mission.falls.empty() || mission.result.verdict == "Withdrawal") return std::nullopt;
+    return mission.falls.back().cell;
+}
 
 std::string MissionTable(const std::vector<PlayedMission>& missions) {
     std::string table =
@@ -125,7 +181,21 @@ std::string MissionTable(const std::vector<PlayedMission>& missions) {
         "            missions   share    min  median   90%   max  wounded   dead  enemies dead  costly\n";
     for (const char* verdict : Verdicts)
         table += Row(verdict, FiguresOf(missions, verdict));
-    return table + Row("All", FiguresOf(missions, "")) + "costly: cost the squad a wounded or dead soldier\n";
+    return table + Row("All", FiguresOf(missions, "")) +
+           "costly: cost the squad a wounded or dead soldier\n" + QuarterLine(missions);
+}
+
+std::string MissionMarkdown(const std::string& player, const std::vector<PlayedMission>& missions) {
+    const Figures all = FiguresOf(missions, "");
+    std::ostringstream row;
+    row << "| " << player << " | " << Percent(FiguresOf(missions, "Victory").share) << " | "
+        << Percent(FiguresOf(missions, "Defeat").share) << " | " << all.median << ", " << all.ninetieth
+        << " | " << std::fixed << std::setprecision(2) << all.squadWounded << " | " << all.squadDead << " | "
+        << Percent(all.costly) << " |";
+    for (const double share : SharesOf(missions))
+        row << " " << Percent(share) << " |";
+    row << "\n";
+    return row.str();
 }
 
 std::string MissionJson(const std::vector<PlayedMission>& missions) {
@@ -133,6 +203,7 @@ std::string MissionJson(const std::vector<PlayedMission>& missions) {
     for (const char* verdict : Verdicts)
         json[verdict] = FiguresJson(FiguresOf(missions, verdict));
     json["All"] = FiguresJson(FiguresOf(missions, ""));
+    json["quarters"] = QuartersJson(missions);
     json["missions"] = Json::array();
     for (const PlayedMission& mission : missions)
         json["missions"].push_back(PlayedJson(mission));
