@@ -18,5 +18,8 @@ Work AddSoak(CLI::App& command);
 /// The odds on the firing range.
 Work AddOdds(CLI::App& command);
 
+/// The squad as a page.
+Work AddRoster(CLI::App& command);
+
 /// Paints a window into a file.
 Work AddShot(CLI::App& command);

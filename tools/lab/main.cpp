@@ -33,6 +33,7 @@ constexpr Command Commands[] = {
     {"odds", AddOdds,
      "Fires orders for each weapon, fire mode, distance, stance and facing by the game's rules,\n"
      "and shows what they come to."},
+    {"roster", AddRoster, "Shows the squad as a page: docs/roster.md."},
     {"shot", AddShot, "Paints a window of a new game; needs no display."},
 };
 

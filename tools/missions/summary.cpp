@@ -187,9 +187,10 @@ std::string MissionTable(const std::vector<PlayedMission>& missions) {
 
 std::string MissionMarkdown(const std::string& player, const std::vector<PlayedMission>& missions) {
     const Figures all = FiguresOf(missions, "");
+    const Figures won = FiguresOf(missions, "Victory");
     std::ostringstream row;
-    row << "| " << player << " | " << Percent(FiguresOf(missions, "Victory").share) << " | "
-        << Percent(FiguresOf(missions, "Defeat").share) << " | " << all.median << ", " << all.ninetieth
+    row << "| " << player << " | " << Percent(won.share) << " | "
+        << Percent(FiguresOf(missions, "Defeat").share) << " | " << won.median << ", " << won.ninetieth
         << " | " << std::fixed << std::setprecision(2) << all.squadWounded << " | " << all.squadDead << " | "
         << Percent(all.costly) << " |";
     for (const double share : SharesOf(missions))
