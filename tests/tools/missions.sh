@@ -19,6 +19,9 @@ done
 says out "The end."
 expect 0 --seeds 3..3 --turns 1 --time
 says err "1 missions in"
+expect 0 --seeds 1..3 --player sensible --markdown --heat heat.svg
+says out "| sensible | "
+grep -q '<circle' heat.svg && tail -1 heat.svg | grep -qx '</svg>' || complain "the heat map is no picture"
 expect 0 --help
 says out "Usage: sarnoth-missions"
 
@@ -34,7 +37,7 @@ says out '"seed": 9,'
 says out '"error": "'
 
 for arguments in "--seed 1..2" "1..2" "--seeds" "--seeds 2..1" "--seeds 1..4294967296" "--turns 0" "--turns 5x" \
-    "--log 1 --json" "--game /nowhere" "--player nobody"; do
+    "--log 1 --json" "--json --markdown" "--game /nowhere" "--player nobody"; do
     expect 2 $arguments
     [ -s out ] && complain "standard output isn't empty: $arguments"
     says err "Run with --help for more information."

@@ -6,13 +6,21 @@
 namespace {
 
 // Ten victories of 1 to 10 turns, two withdrawals of 30 and 7, and one mission that failed.
+PlayedMission Played(const char* verdict, int turns, int squadWounded, int squadDead, int enemiesDead,
+                     Spot last) {
+    PlayedMission mission;
+    mission.seed = 100;
+    mission.result = {verdict, turns, squadWounded, squadDead, enemiesDead};
+    mission.falls = {{0, {75, 0}}, {20, last}};
+    return mission;
+}
+
 std::vector<PlayedMission> Missions() {
     std::vector<PlayedMission> missions;
     for (const int turns : {10, 1, 9, 2, 8, 3, 7, 4, 6, 5})
-        missions.push_back(
-            {100, {"Victory", turns, turns % 2, 0, 3}, "", {{0, {75, 0}}, {20, {37, 22 + turns % 2}}}});
-    missions.push_back({111, {"Withdrawal", 30, 4, 2, 1}, "", {{0, {75, 0}}}});
-    missions.push_back({112, {"Withdrawal", 7, 1, 1, 0}, "", {}});
+        missions.push_back(Played("Victory", turns, turns % 2, 0, 3, {37, static_cast<i16>(22 + turns % 2)}));
+    missions.push_back(Played("Withdrawal", 30, 4, 2, 1, {75, 45}));
+    missions.push_back(Played("Withdrawal", 7, 1, 1, 0, {75, 45}));
     missions.emplace_back().seed = 113;
     missions.back().error = "x";
     return missions;
