@@ -10,10 +10,6 @@
 
 namespace {
 
-std::optional<FrontKey> FrontKeyOf(const QKeyEvent& event) {
-    return FrontKeyOf(KeyOf(event));
-}
-
 bool IsInBox(const QWidget& target) {
     return qobject_cast<const QDialog*>(target.window()) != nullptr;
 }
@@ -30,7 +26,7 @@ bool FrontKeys::eventFilter(QObject* watched, QEvent* event) {
     if (target == nullptr) return false;
     switch (event->type()) {
         case QEvent::ShortcutOverride:
-            if (!FrontKeyOf(static_cast<const QKeyEvent&>(*event))) return false;
+            if (!FrontKeyOf(KeyOf(static_cast<const QKeyEvent&>(*event)))) return false;
             event->accept();
             return true;
         case QEvent::KeyPress:
@@ -43,7 +39,7 @@ bool FrontKeys::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool FrontKeys::Press(const QWidget& target, const QKeyEvent& key) {
-    const std::optional<FrontKey> row = FrontKeyOf(key);
+    const std::optional<FrontKey> row = FrontKeyOf(KeyOf(key));
     if (!row && !IsInBox(target)) {
         strangers.erase(KeyCode(key));
         return false;

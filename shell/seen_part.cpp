@@ -5,14 +5,12 @@
 
 namespace {
 
+// Buttons and lists have round corners; they hide no more than an edge of their neighbours.
 bool IsOpaque(const Control& control) {
     switch (control.kind) {
         case ControlKind::PictureBox:
         case ControlKind::HScrollBar:
         case ControlKind::VScrollBar:
-        case ControlKind::Combo:
-        case ControlKind::List:
-        case ControlKind::Button:
         case ControlKind::Label:
             return true;
         case ControlKind::Text:
