@@ -5,6 +5,8 @@
 #include <thread>
 #include <utility>
 
+#include <QEvent>
+
 #include "desktop/form_window.h"
 #include "desktop/picture_widget.h"
 #include "desktop/scale.h"
