@@ -14,6 +14,13 @@ namespace {
 
 constexpr int Flags = O_WRONLY | O_APPEND | O_NONBLOCK | O_CLOEXEC;
 
+// A browser's storage knows the one that flushes all.
+#ifdef __EMSCRIPTEN__
+constexpr auto FlushContent = ::fsync;
+#else
+constexpr auto FlushContent = ::fdatasync;
+#endif
+
 // The new name reaches the disk with its folder, where a folder can be flushed.
 void FlushFolder(const std::filesystem::path& folder) {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -54,7 +61,7 @@ bool AppendFile::Append(std::string_view text, bool toDisk) {
         if (written < 0) return false;
         text.remove_prefix(static_cast<std::size_t>(written));
     }
-    return !toDisk || ::fdatasync(descriptor) == 0;
+    return !toDisk || FlushContent(descriptor) == 0;
 }
 
 bool AppendFile::Cut(std::size_t length) {

@@ -36,7 +36,11 @@ export function mouseLine(what, element, record, event) {
 }
 
 function listenToMouse(element, node, send) {
-  element.addEventListener("pointerdown", event => element.setPointerCapture(event.pointerId));
+  // A drag goes on outside; what this one lies in must not take it over.
+  element.addEventListener("pointerdown", event => {
+    event.stopPropagation();
+    element.setPointerCapture(event.pointerId);
+  });
   // Mouse events count clicks, which pointer events don't.
   element.addEventListener("mousedown", event => {
     event.stopPropagation();

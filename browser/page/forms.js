@@ -135,7 +135,7 @@ export class Forms {
       document.getElementById("gameMenu").append(button);
     }
     labelled(button, record.caption, record.letter);
-    button.dataset.letter = record.letter;
+    button.dataset.letter = record.caption[record.caption.indexOf("&") + 1].toUpperCase();
     button.disabled = !record.enabled;
     button.hidden = !record.visible;
   }

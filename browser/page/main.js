@@ -110,6 +110,8 @@ const BrowsersKeys = `<h2>In the browser</h2><p>The browser keeps some keys for 
   loads the page again: the game goes on where it was. F6 leads from the game to the menus above it and back; there Tab goes on.
   Where the browser takes F11, the menu "Help" has "Full screen".</p>`;
 
+const AtRest = 1000;  // milliseconds: so long it only waits when nothing moves
+
 // What the module calls.
 const page = {
   post: text => { const message = JSON.parse(text); Handlers[message.is](message); },
@@ -117,8 +119,9 @@ const page = {
   next: () => lines.shift() ?? null,
   wait: milliseconds => new Promise(resolve => {
     let timer = 0;
-    const done = () => { clearTimeout(timer); wake = null; resolve(); };
+    const done = () => { clearTimeout(timer); wake = null; element("stage").ariaBusy = "true"; resolve(); };
     wake = done;
+    if (milliseconds >= AtRest) element("stage").ariaBusy = "false";
     if (milliseconds >= 1) {
       timer = setTimeout(done, milliseconds);
     } else {  // a timer would take four milliseconds
@@ -187,7 +190,7 @@ function watchPage() {
   addEventListener("keydown", event => takeKey("down", event));
   addEventListener("keyup", event => takeKey("up", event));
   addEventListener("blur", () => send("letgo"));
-  addEventListener("pointerdown", () => sounds.unlock());
+  addEventListener("pointerdown", () => sounds.unlock(), {capture: true});
   document.addEventListener("mouseleave", () => send("leave"));
   for (const menu of document.querySelectorAll("#bar details"))
     menu.addEventListener("focusout", event => { if (!menu.contains(event.relatedTarget)) menu.open = false; });
@@ -226,6 +229,7 @@ async function start() {
   watchPage();
   await createGame({
     page, wasmBinary,
+    locateFile: name => name,  // the module is here already
     preRun: [module => prepare(module, pack)],
     onAbort: reason => { element("note").textContent = `Sarnoth III: ${reason}`; element("note").hidden = false; },
   });

@@ -7,6 +7,7 @@ export const PlayersFolder = "/player";
 export async function mountStore(FS, IDBFS) {
   FS.mkdirTree(PlayersFolder);
   try {
+    await probe();
     FS.mount(IDBFS, {}, PlayersFolder);
     await sync(FS, true);
   } catch (error) {
@@ -15,6 +16,16 @@ export async function mountStore(FS, IDBFS) {
   }
   askToKeep();
   return true;
+}
+
+// Some browsers have no storage in a private window, or refuse it.
+function probe() {
+  return new Promise((resolve, reject) => {
+    if (!globalThis.indexedDB) return reject(new Error("there is none"));
+    const asked = indexedDB.open("sarnoth3-probe");
+    asked.onsuccess = () => { asked.result.close(); resolve(); };
+    asked.onerror = () => reject(asked.error);
+  });
 }
 
 /** Resolves when the storage has what lies in the folder, or with `fromStorage` the other way round. */
