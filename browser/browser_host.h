@@ -1,5 +1,5 @@
-// The host of a game that is played on a page. Everything of the game runs here; the page shows what it is sent
-// and reports what a person does. The browser works only while this waits.
+// The host of a game that is played on a page. Everything of the game runs here; the page shows what it is
+// sent and reports what a person does. The browser works only while this waits.
 #pragma once
 
 #include <deque>

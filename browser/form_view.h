@@ -14,8 +14,8 @@ std::string ControlId(const Control& control);
 
 class FormView {
   public:
-    /// Both must outlive it. An `embedded` form has no window; it stands in the one named `within`, at its own
-    /// Left and Top, and takes no events.
+    /// Both must outlive it. An `embedded` form has no window; it stands in the one named `within`, at its
+    /// own Left and Top, and takes no events.
     FormView(Form& shown, Page& onPage, std::string within = "");
 
     /// Sends what has changed since the last call, all of it the first time.

@@ -10,7 +10,9 @@ std::string JsonQuoted(std::string_view text);
 
 class JsonObject {
   public:
-    JsonObject& Add(std::string_view name, const std::string& value) { return AddRaw(name, JsonQuoted(value)); }
+    JsonObject& Add(std::string_view name, const std::string& value) {
+        return AddRaw(name, JsonQuoted(value));
+    }
     JsonObject& Add(std::string_view name, const char* value) { return AddRaw(name, JsonQuoted(value)); }
     JsonObject& Add(std::string_view name, bool value) { return AddRaw(name, value ? "true" : "false"); }
     JsonObject& Add(std::string_view name, std::integral auto value) {

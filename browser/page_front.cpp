@@ -55,8 +55,7 @@ void PageFront::TakeLine(const std::string& word, std::istream& rest) {
     if (word == "squad" && number < SquadRows().size()) {
         const auto unit = static_cast<int>(number);
         const std::optional<InputEvent> selection = SelectionOf(unit);
-        return host.Receive(selection ? *selection
-                                      : LookAt({UnitTable[unit].cellX, UnitTable[unit].cellY}));
+        return host.Receive(selection ? *selection : LookAt({UnitTable[unit].cellX, UnitTable[unit].cellY}));
     }
     const std::vector<ChronicleEntry>& entries = companion.TheChronicle().Entries();
     if (word == "entry" && number < entries.size() && !(entries[number].cell == Spot{}))
@@ -125,8 +124,6 @@ void PageFront::ShowLog() {
     const Chronicle& chronicle = companion.TheChronicle();
     if (chronicle.Revision() == sentRevision) return;
     sentRevision = chronicle.Revision();
-    page.Post(JsonObject()
-                  .Add("is", "log")
-                  .AddRaw("entries", JsonArray(chronicle.Entries(), EntryJson))
-                  .Text());
+    page.Post(
+        JsonObject().Add("is", "log").AddRaw("entries", JsonArray(chronicle.Entries(), EntryJson)).Text());
 }

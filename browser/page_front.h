@@ -1,5 +1,6 @@
-// What the page has round the game for its player: the windows' own keys and menu, settings, help, the squad at
-// a glance and the log for people. It is sent as messages like everything else; none of it reaches the game.
+// What the page has round the game for its player: the windows' own keys and menu, settings, help, the squad
+// at a glance and the log for people. It is sent as messages like everything else; none of it reaches the
+// game.
 #pragma once
 
 #include <istream>

@@ -1,5 +1,5 @@
-// The keyboard, the pointer and the timers of one form on the page. What a person does there comes as lines; it
-// goes on by the same ways as on any other front end.
+// The keyboard, the pointer and the timers of one form on the page. What a person does there comes as lines;
+// it goes on by the same ways as on any other front end.
 #pragma once
 
 #include <map>
@@ -18,8 +18,8 @@ class PageWindow : public KeyedWindow {
     /// All must outlive it; `to` takes the events.
     PageWindow(Form& ofForm, Page& onPage, const EventSink& to);
 
-    /// Takes the rest of a line after its first word: what was done, and to which control. A line for a control
-    /// that isn't there, or is switched off, does nothing.
+    /// Takes the rest of a line after its first word: what was done, and to which control. A line for a
+    /// control that isn't there, or is switched off, does nothing.
     void TakeMouse(std::istream& rest);
     void TakeKey(const KeyInput& key, bool down);
     void TakeFocus(const std::string& id);

@@ -2,6 +2,14 @@
 # before anything is loaded, and lists them for EmbeddedFiles(). OUTPUT holds what changes with the pictures, and keeps its
 # time when they are as before.
 # Run as: cmake -DOUTPUT=<file.cpp> -DFOLDER=<folder> [-DWASM=ON] -P embed_files.cmake
+# The assembler of WebAssembly wants each object's type and size, and knows neither the former section nor labels at an end.
+if(WASM)
+    set(section ".section .rodata.@label@,\\\"\\\",@\\n.type @label@,@object")
+    set(end ".size @label@, @size@")
+else()
+    set(section ".section .rodata\\n.balign 16")
+    set(end ".previous")
+endif()
 file(GLOB FILES ${FOLDER}/stored/*.bmp ${FOLDER}/stored/*.gif ${FOLDER}/pic/stance?off.gif)
 set(blobs "")
 set(rows "")
@@ -9,19 +17,16 @@ set(number 0)
 foreach(path IN LISTS FILES)
     get_filename_component(name "${path}" NAME)
     file(MD5 "${path}" sum)
-    set(begin "embedded${number}begin")
     file(SIZE "${path}" size)
-    string(APPEND blobs "// ${name} ${sum}\n")
-    if(WASM)  # each object there has a section of its own, a type and a size
-        string(APPEND blobs
-            "asm(\".section .rodata.embedded${number},\\\"\\\",@\\n.p2align 4\\n.type ${begin},@object\\n${begin}:\\n"
-            ".incbin \\\"${path}\\\"\\n.size ${begin}, ${size}\\n\");\n")
-    else()
-        string(APPEND blobs
-            "asm(\".section .rodata\\n.balign 16\\n${begin}: .incbin \\\"${path}\\\"\\n.previous\");\n")
-    endif()
-    string(APPEND blobs "extern \"C\" const char ${begin}[];\n")
-    string(APPEND rows "    rows.push_back({\"${name}\", {${begin}, ${size}}});\n")
+    set(label embedded${number})
+    string(CONFIGURE "${section}" begin_of_blob @ONLY)
+    string(CONFIGURE "${end}" end_of_blob @ONLY)
+    string(APPEND blobs
+        "// ${name} ${sum}\n"
+        "asm(\"${begin_of_blob}\\n${label}: .incbin \\\"${path}\\\"\\n${end_of_blob}\");\n"
+        "extern \"C\" const char ${label}[];\n")
+    string(APPEND rows
+        "    rows.push_back({\"${name}\", {${label}, ${size}}});\n")
     math(EXPR number "${number} + 1")
 endforeach()
 file(CONFIGURE OUTPUT "${OUTPUT}" @ONLY CONTENT

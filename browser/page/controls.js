@@ -71,6 +71,9 @@ class Node {
     this.element.classList.toggle("off", !record.enabled);
   }
 
+  // What was done may come to nothing: the record stays as it was, and is shown.
+  showAgain() { setTimeout(() => this.update(this.record), 150); }
+
   watchFocus() {
     this.element.addEventListener("focus", () => this.send(`focus ${this.record.id}`));
   }
@@ -143,6 +146,7 @@ class ListNode extends Node {
       const row = this.element.selectedIndex - (this.own ? 1 : 0);
       if (row >= 0) send(`choose ${this.record.id} ${row}`);
       this.element.blur();
+      this.showAgain();
     });
     // Until it is opened only the shown entry is there: a log has thousands.
     for (const kind of ["pointerdown", "focus"]) this.element.addEventListener(kind, () => this.fill());
@@ -192,7 +196,10 @@ class ScrollNode extends Node {
     super(record, send, "input");
     this.element.type = "range";
     this.element.addEventListener("input", () => send(`scroll ${this.record.id} ${this.element.value}`));
-    this.element.addEventListener("change", () => send(`change ${this.record.id} ${this.element.value}`));
+    this.element.addEventListener("change", () => {
+      send(`change ${this.record.id} ${this.element.value}`);
+      this.showAgain();
+    });
     this.element.addEventListener("wheel", event => {
       event.preventDefault();
       const {value, least, most, small} = this.record;

@@ -1,4 +1,4 @@
-#include "browser/wasm_page.h"
+#include "browser/web/wasm_page.h"
 
 #include <cstdlib>
 #include <memory>

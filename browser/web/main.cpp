@@ -4,7 +4,7 @@
 #include "browser/browser_host.h"
 #include "browser/json.h"
 #include "browser/page_front.h"
-#include "browser/wasm_page.h"
+#include "browser/web/wasm_page.h"
 #include "data/campaign_files.h"
 #include "platform/files.h"
 #include "shell/companion.h"
@@ -19,8 +19,8 @@
 
 namespace {
 
-constexpr const char* GameFolder = "/game";      // which the page unpacks
-constexpr const char* PlayersFolder = "/player"; // which it keeps
+constexpr const char* GameFolder = "/game";       // which the page unpacks
+constexpr const char* PlayersFolder = "/player";  // which it keeps
 constexpr const char* RecordingFile = "/recording.txt";
 
 Resumption AskToContinue(BrowserHost& host, Companion& companion, const std::string& text) {
@@ -31,7 +31,8 @@ Resumption AskToContinue(BrowserHost& host, Companion& companion, const std::str
                                         .buttons = {"&Continue", "&Watch it", "&New game"},
                                         .atEscape = 0,
                                         .tick = ""});
-    static constexpr Resumption ByButton[] = {Resumption::Continued, Resumption::Watched, Resumption::NewGame};
+    static constexpr Resumption ByButton[] = {Resumption::Continued, Resumption::Watched,
+                                              Resumption::NewGame};
     return ByButton[std::min<std::size_t>(answer.button, 2)];
 }
 
@@ -56,11 +57,8 @@ void Debrief(BrowserHost& host, Page& page, const Companion& companion, const Se
     if (session.HasRecording()) box.buttons.emplace_back("&Save recording...");
     while (host.Ask(box).button == 1) {
         const std::string problem = session.SaveRecording(RecordingFile);
-        page.Post(JsonObject()
-                      .Add("is", "download")
-                      .Add("file", RecordingFile)
-                      .Add("problem", problem)
-                      .Text());
+        page.Post(
+            JsonObject().Add("is", "download").Add("file", RecordingFile).Add("problem", problem).Text());
     }
 }
 
