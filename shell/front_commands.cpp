@@ -1,6 +1,7 @@
 #include "shell/front_commands.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "platform/keys.h"
 
@@ -94,7 +95,7 @@ std::string LoudnessNote(const Settings& now) {
 }
 
 std::string SizeNote(double factor, bool fits) {
-    const int tenths = static_cast<int>(10 * factor + 0.5);
+    const auto tenths = std::lround(10 * factor);
     std::string note = "Size " + std::to_string(tenths / 10);
     if (tenths % 10 != 0) note += "." + std::to_string(tenths % 10);
     return fits ? note + ", as large as fits" : note;
