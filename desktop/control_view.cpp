@@ -8,8 +8,16 @@
 #include "shell/pointer.h"
 #include "shell/stops.h"
 
+namespace {
+
+QString ToQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
 ControlView::ControlView(Control& shown, QWidget& by, const EventSink& to)
-    : record(shown), widget(by), sink(to) {
+    : record(shown), widget(by), sink(to), purpose(ToQString(PurposeOf(shown))) {
     widget.setObjectName(QString::fromStdString(record.name));
     // Tab alone moves the focus, a click never does; and a press that a widget doesn't want isn't for what
     // lies beneath it.
@@ -47,7 +55,7 @@ void ControlView::PressInMiddle() const {
 }
 
 QString ControlView::Tip() const {
-    return QString::fromStdString(TipOf(record));
+    return record.ToolTipText.empty() ? purpose : QString::fromStdString(record.ToolTipText);
 }
 
 // A disabled control leaves the mouse to what lies beneath it; the keyboard still stops at such a picture,

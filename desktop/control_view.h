@@ -48,5 +48,6 @@ class ControlView {
     QWidget& widget;
     const EventSink& sink;
     bool shownEnabled = true;
-    bool named = false;  // for screen readers, not before the widget is whole
+    const QString purpose;  // read where the record has no tip
+    bool named = false;     // for screen readers, not before the widget is whole
 };

@@ -8,6 +8,7 @@
 #include <SDL_mixer.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 
@@ -23,7 +24,7 @@ constexpr int DeviceChunk = 1024;           // frames mixed at a time: a sound s
 constexpr int SlotCount = LastOwnSlot + 1;  // 0 is never asked for
 
 int MixVolume(int hundredths) {
-    return static_cast<int>(LoudnessGain(hundredths) * MIX_MAX_VOLUME + 0.5);
+    return static_cast<int>(std::lround(LoudnessGain(hundredths) * MIX_MAX_VOLUME));
 }
 
 bool HasAny(const AmbienceLevels& levels) {

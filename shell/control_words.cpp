@@ -53,9 +53,12 @@ std::string SpokenName(const Control& control) {
     return tip.empty() ? InWords(control.name) : tip;
 }
 
+std::string_view PurposeOf(const Control& control) {
+    return HelpTip(control.form->name + "." + control.name);
+}
+
 std::string TipOf(const Control& control) {
-    if (!control.ToolTipText.empty()) return control.ToolTipText;
-    return std::string(HelpTip(control.form->name + "." + control.name));
+    return control.ToolTipText.empty() ? std::string(PurposeOf(control)) : control.ToolTipText;
 }
 
 std::string ShortcutWords(const Control& control) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "platform/controls.h"
 
@@ -9,7 +10,11 @@
 /// caption, its tip alone, or its name in words, as "Enemy Count".
 std::string SpokenName(const Control& control);
 
-/// What the pointer reads on it: the record's tip, or what it is for; empty where there is nothing to say.
+/// What a control without a tip of its own is for, the same at all times; empty where there is nothing to
+/// say.
+std::string_view PurposeOf(const Control& control);
+
+/// What the pointer reads on it: the record's tip, or what it is for.
 std::string TipOf(const Control& control);
 
 /// The key that uses it at once, as "Alt+E"; empty for none.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "platform/keys.h"
 
@@ -97,7 +98,7 @@ std::string LoudnessNote(const Settings& now) {
 std::string SizeNote(SizeRemark remark, double factor) {
     static constexpr std::array Remarks = {"", ", as large as fits", ": no larger one fits",
                                            ": the smallest"};
-    const int tenths = static_cast<int>(10 * factor + 0.5);
+    const auto tenths = std::lround(10 * factor);
     std::string note = "Size " + std::to_string(tenths / 10);
     if (tenths % 10 != 0) note += "." + std::to_string(tenths % 10);
     return note + Remarks.at(static_cast<std::size_t>(remark));

@@ -25,7 +25,7 @@ struct Row {
 constexpr Row Rows[] = {
     // clang-format off
     // name                   number             tick                         range          what it can be
-    {"scale",                &Settings::halves, nullptr, SingleSize, LargestSize,              "auto, 1, 1.5, 2 ... 4"},
+    {"scale",                &Settings::halves, nullptr, SingleSize, LargestSize,            "auto, 1, 1.5, 2 ... 4"},
     {"full screen",           nullptr, &Settings::fullScreen,              0, 0,             "yes or no"},
     {"volume",               &Settings::volume, nullptr,                   0, 100,           "0 to 100"},
     {"muted",                 nullptr, &Settings::muted,                   0, 0,             "yes or no"},

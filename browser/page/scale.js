@@ -34,7 +34,17 @@ export class Scale {
   update() {
     this.factor = this.chosen || this.fitting();
     document.documentElement.style.setProperty("--px", `${this.css}px`);
+    this.centre();
     this.changed();
+  }
+
+  // In the middle, on whole pixels of the device.
+  centre() {
+    const {width, height} = this.room();
+    const whole = length => Math.max(0, Math.floor(length * devicePixelRatio / 2) / devicePixelRatio);
+    const {style} = document.documentElement;
+    style.setProperty("--left", `${whole(width - this.size.width * this.css)}px`);
+    style.setProperty("--top", `${whole(height - this.size.height * this.css)}px`);
   }
 
   /** Larger or smaller by a step; 0: as large as fits. What is said of it. */
