@@ -317,4 +317,6 @@ void BrowserHost::EndProcess(int exitCode) {
     exitCode = AtLast(exitCode);
     if (!HasFailed()) Show();
     page.End(exitCode);
+    for (;;)  // nothing of the game runs any more; the page starts another one
+        page.Wait(LongestWait);
 }

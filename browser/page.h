@@ -38,5 +38,5 @@ class Page {
     virtual void Wait(std::chrono::nanoseconds longest) = 0;
 
     /// The game has ended, with an exit code as processes have them.
-    [[noreturn]] virtual void End(int exitCode) = 0;
+    virtual void End(int exitCode) = 0;
 };

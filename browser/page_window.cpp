@@ -42,7 +42,10 @@ void PageWindow::TakeMouse(std::istream& rest) {
     const bool isNative = !IsDrawn(*control) && control->kind != ControlKind::Form;
     if (what == "move") return pointer.Move(input);
     if (what == "down") focused = nullptr;
-    if (isNative) return;
+    if (isNative) {
+        Strays(*control, input.isSecond);  // the press is the page's own; that it came counts
+        return;
+    }
     what == "down" ? pointer.Press(input) : pointer.Release(input);
 }
 

@@ -74,6 +74,20 @@ class Node {
   // What was done may come to nothing: the record stays as it was, and is shown.
   showAgain() { setTimeout(() => this.update(this.record), 150); }
 
+  // A control of the browser's own keeps its presses from the picture below.
+  keepMouse() {
+    for (const kind of ["pointerdown", "mousedown", "mouseup"])
+      this.element.addEventListener(kind, event => {
+        event.stopPropagation();
+        if (kind === "mousedown") this.send(mouseLine("down", this.element, this.record, event));
+      });
+    this.element.addEventListener("mousemove", event => {
+      event.stopPropagation();
+      this.send(mouseLine("move", this.element, this.record, event));
+    });
+    this.element.addEventListener("contextmenu", event => event.preventDefault());
+  }
+
   watchFocus() {
     this.element.addEventListener("focus", () => this.send(`focus ${this.record.id}`));
   }
@@ -122,6 +136,7 @@ class ButtonNode extends Node {
     super(record, send, "button");
     this.element.type = "button";
     this.element.addEventListener("click", () => send(`click ${this.record.id} 0`));
+    this.keepMouse();
     this.watchFocus();
   }
 
@@ -150,6 +165,7 @@ class ListNode extends Node {
     });
     // Until it is opened only the shown entry is there: a log has thousands.
     for (const kind of ["pointerdown", "focus"]) this.element.addEventListener(kind, () => this.fill());
+    this.keepMouse();
     this.watchFocus();
   }
 
@@ -206,6 +222,7 @@ class ScrollNode extends Node {
       const notches = Math.sign(event.deltaY || event.deltaX);
       send(`change ${this.record.id} ${Math.min(most, Math.max(least, value + 3 * small * notches))}`);
     }, {passive: false});
+    this.keepMouse();
     this.watchFocus();
   }
 

@@ -45,9 +45,6 @@ void WasmPage::Wait(std::chrono::nanoseconds longest) {
     page_wait(std::chrono::duration<double, std::milli>(longest).count());
 }
 
-// The module rests for ever; the page starts another one.
 void WasmPage::End(int exitCode) {
     page_end(exitCode);
-    for (;;)
-        page_wait(3'600'000);
 }

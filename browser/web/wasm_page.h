@@ -9,5 +9,5 @@ class WasmPage : public Page {
     void PostPixels(const PixelBlock& block) override;
     std::optional<std::string> Next() override;
     void Wait(std::chrono::nanoseconds longest) override;
-    [[noreturn]] void End(int exitCode) override;
+    void End(int exitCode) override;
 };

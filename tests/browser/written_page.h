@@ -38,7 +38,7 @@ class WrittenPage : public Page {
         idle();
     }
 
-    [[noreturn]] void End(int exitCode) override { throw Ended{exitCode}; }
+    void End(int exitCode) override { throw Ended{exitCode}; }
 
     /// What was told since the last call.
     std::vector<std::string> News() {

@@ -43,6 +43,11 @@ class PageTest(unittest.TestCase):
         page.click_cell(9, 3, RIGHT)
         page.click_cell(9, 3, RIGHT)
         self.assertLess(page.selected()[1], before, "a shot costs time")
+        page.click("frmField.cmdNextTurn", 20, 10)
+        self.assertIn("End the turn?", page.box())
+        page.answer(1)
+        page.rest(seconds=120)
+        self.assertEqual(page.selected(), ("Marcus Hale", 96), "the squad's turn again")
         self.assertEqual(page.complaints(), [])
 
     def test_an_order_in_the_middle_of_a_walk_ends_it(self):
