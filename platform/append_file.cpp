@@ -21,14 +21,6 @@ constexpr auto FlushContent = ::fsync;
 constexpr auto FlushContent = ::fdatasync;
 #endif
 
-// The new name reaches the disk with its folder, where a folder can be flushed.
-void FlushFolder(const std::filesystem::path& folder) {
-    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) return;
-    ::fsync(descriptor);
-    ::close(descriptor);
-}
-
 }  // namespace
 
 bool AppendFile::Open(std::string_view name) {
@@ -40,7 +32,7 @@ bool AppendFile::Create(std::string_view name) {
     std::error_code ignored;
     std::filesystem::create_directories(path.parent_path(), ignored);
     if (!Take(::open(path.c_str(), Flags | O_CREAT | O_EXCL, 0644))) return false;
-    FlushFolder(path.parent_path());
+    FlushFolder(name);  // the new name
     return true;
 }
 
