@@ -3,7 +3,7 @@
 set(EMBEDDED ${CMAKE_BINARY_DIR}/embedded_files.cpp)
 add_custom_command(
     OUTPUT ${EMBEDDED}
-    COMMAND ${CMAKE_COMMAND} -DOUTPUT=${EMBEDDED} -DFOLDER=${ART_FOLDER}
+    COMMAND ${CMAKE_COMMAND} -DOUTPUT=${EMBEDDED} -DFOLDER=${ART_FOLDER} -DWASM=${EMSCRIPTEN}
             -P ${CMAKE_SOURCE_DIR}/cmake/embed_files.cmake
     DEPENDS ${ART_STAMP} ${CMAKE_SOURCE_DIR}/cmake/embed_files.cmake
     COMMENT "Embedding the stored pictures"

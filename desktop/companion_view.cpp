@@ -1,9 +1,10 @@
 #include "desktop/companion_view.h"
 
-#include <algorithm>
 #include <functional>
 #include <thread>
 #include <utility>
+
+#include <QEvent>
 
 #include "desktop/form_window.h"
 #include "desktop/picture_widget.h"
@@ -47,7 +48,6 @@ CompanionView::CompanionView(FormWindow& main, Companion& whose)
       onView(*new SketchWidget(*main.WidgetOf(frmField), {ViewLeft, ViewTop, ViewWidth, ViewHeight})),
       onMap(*new SketchWidget(*main.WidgetOf(frmField.picAreaMap), BoundsOf(frmField.picAreaMap))),
       readout(*new EmbeddedForm(whose.Readout(), *main.WidgetOf(frmField))) {
-    companion.FilmTurns();
     motion.setInterval(FrameTime);
     motion.callOnTimeout([this] { Sync(); });
     new LeaveWatch(window, [this] {
@@ -66,26 +66,17 @@ void CompanionView::Sync() {
     companion.IsMoving() ? motion.start() : motion.stop();
 }
 
-void CompanionView::Screen(const std::function<void(Moment end)>& handleUntil,
-                           const Screening::PlaySound& play, bool skips) {
-    if (!companion.IsFilming() || !companion.BeginScreening(play)) return;
-    Screening& screening = *companion.TheScreening();
-    if (skips) screening.Skip();
+void CompanionView::Show(Screening& screening, Moment now) {
+    const ViewPlace view = screening.View(now);
     field.ShowInstead(&screening.Field());
-    for (Moment now = Clock::now(); screening.Advance(now); now = Clock::now()) {
-        ShowScreening(screening, now);
-        field.SyncCanvas();
-        Sync();
-        window.PaintNow();
-        handleUntil(std::min(screening.Next(now), now + FrameTime));
-    }
-    field.ShowInstead(nullptr);
-    companion.EndScreening();
+    field.move(ToScreen(ViewLeft - view.left), ToScreen(ViewTop - view.top));
+    field.SyncCanvas();
+    Sync();
+    window.PaintNow();
 }
 
-void CompanionView::ShowScreening(const Screening& screening, Moment now) {
-    const ViewPlace view = screening.View(now);
-    window.WidgetOf(frmField.area)->move(ToScreen(ViewLeft - view.left), ToScreen(ViewTop - view.top));
+void CompanionView::EndScreening() {
+    field.ShowInstead(nullptr);
 }
 
 bool CompanionView::IsInView() const {

@@ -2,8 +2,6 @@
 // field is seen. While something moves, a timer keeps it moving; at rest nothing runs.
 #pragma once
 
-#include <functional>
-
 #include <QTimer>
 
 #include "desktop/embedded_form.h"
@@ -21,11 +19,11 @@ class CompanionView {
     /// Brings the widgets in line with what the companion draws now.
     void Sync();
 
-    /// Shows the film of the computer's turn, if there is one worth it, and lets in the window system's
-    /// events meanwhile through `handleUntil`; returns when it has been seen or skipped, at once with
-    /// `skips`.
-    void Screen(const std::function<void(Moment end)>& handleUntil, const Screening::PlaySound& play,
-                bool skips);
+    /// Shows what the screening shows at `now`, in the game's place.
+    void Show(Screening& screening, Moment now);
+
+    /// Shows the game again.
+    void EndScreening();
 
     /// Whether the part of the field that the records want in view is the one on the screen.
     bool IsInView() const;
@@ -34,8 +32,6 @@ class CompanionView {
     void SleepUntil(Moment end);
 
   private:
-    void ShowScreening(const Screening& screening, Moment now);
-
     FormWindow& window;
     Companion& companion;
     CanvasWidget& field;

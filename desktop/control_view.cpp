@@ -1,55 +1,23 @@
 #include "desktop/control_view.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "desktop/scale.h"
-#include "desktop/stops.h"
-#include "shell/help_pages.h"
+#include "platform/keys.h"
+#include "shell/control_words.h"
+#include "shell/pointer.h"
+#include "shell/stops.h"
 
 namespace {
 
-// "imgEnemyCount" to "Enemy Count": without the kind's prefix, a blank before each further capital.
-QString InWords(const std::string& name) {
-    const auto isUpper = [](char character) {
-        return std::isupper(static_cast<unsigned char>(character)) != 0;
-    };
-    auto from = std::find_if(name.begin(), name.end(), isUpper);
-    if (from == name.end()) from = name.begin();
-    QString words;
-    for (auto at = from; at != name.end(); ++at) {
-        if (at != from && isUpper(*at)) words += ' ';
-        words += QLatin1Char(*at);
-    }
-    return words;
-}
-
-std::string CaptionOf(const Control& control) {
-    switch (control.kind) {
-        case ControlKind::Form:
-            return static_cast<const Form&>(control).Caption;
-        case ControlKind::Button:
-            return static_cast<const Button&>(control).Caption;
-        case ControlKind::Label:
-            return static_cast<const Label&>(control).Caption;
-        case ControlKind::Text:
-            return static_cast<const TextBox&>(control).Text;
-        case ControlKind::Menu:
-            return static_cast<const MenuItem&>(control).Caption;
-        default:
-            return "";
-    }
-}
-
-QString HelpTipOf(const Control& control) {
-    const std::string_view tip = HelpTip(control.form->name + "." + control.name);
-    return QString::fromUtf8(tip.data(), static_cast<qsizetype>(tip.size()));
+QString ToQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 }  // namespace
 
 ControlView::ControlView(Control& shown, QWidget& by, const EventSink& to)
-    : record(shown), widget(by), sink(to), helpTip(HelpTipOf(shown)) {
+    : record(shown), widget(by), sink(to), purpose(ToQString(PurposeOf(shown))) {
     widget.setObjectName(QString::fromStdString(record.name));
     // Tab alone moves the focus, a click never does; and a press that a widget doesn't want isn't for what
     // lies beneath it.
@@ -82,8 +50,12 @@ void ControlView::Send(EventKind kind, int code) const {
     sink(EventOf(record, kind, code));
 }
 
+void ControlView::PressInMiddle() const {
+    PressAt(record, {record.Width / 2.0, record.Height / 2.0}, LeftButton, sink);
+}
+
 QString ControlView::Tip() const {
-    return record.ToolTipText.empty() ? helpTip : QString::fromStdString(record.ToolTipText);
+    return record.ToolTipText.empty() ? purpose : QString::fromStdString(record.ToolTipText);
 }
 
 // A disabled control leaves the mouse to what lies beneath it; the keyboard still stops at such a picture,
@@ -98,29 +70,8 @@ void ControlView::SyncEnabled() {
 void ControlView::SyncTip() {
     const QString tip = Tip();
     if (named && widget.toolTip() == tip) return;
-    if (const char letter = ShortcutLetter(record); !named && letter != '\0')
-        widget.setAccessibleDescription(QStringLiteral("Alt+%1").arg(QLatin1Char(letter)));
+    if (!named) widget.setAccessibleDescription(QString::fromStdString(ShortcutWords(record)));
     named = true;
     widget.setToolTip(tip);
-    widget.setAccessibleName(SpokenName(record));
-}
-
-InputEvent EventOf(const Control& control, EventKind kind, int code) {
-    InputEvent event;
-    event.kind = kind;
-    event.control = control.form == &control ? control.name : control.form->name + "." + control.name;
-    event.index = control.index;
-    event.code = code;
-    return event;
-}
-
-QString SpokenName(const Control& control) {
-    std::string caption = CaptionOf(control);
-    std::erase(caption, '&');
-    std::replace(caption.begin(), caption.end(), '\r', ' ');
-    const QString tip = QString::fromStdString(control.ToolTipText);
-    const QString words = StopWords(control);
-    if (!words.isEmpty()) return tip.isEmpty() ? words : words + ": " + tip;
-    if (!caption.empty()) return QString::fromStdString(caption);
-    return tip.isEmpty() ? InWords(control.name) : tip;
+    widget.setAccessibleName(QString::fromStdString(SpokenName(record)));
 }

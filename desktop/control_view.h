@@ -2,17 +2,11 @@
 // by Sync, and sends what a person does to it to the window's sink.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include <QRect>
 #include <QWidget>
 
 #include "platform/controls.h"
-#include "platform/input_event.h"
-
-/// Takes the events of a window's widgets.
-using EventSink = std::function<void(const InputEvent&)>;
+#include "shell/control_events.h"
 
 class ControlView {
   public:
@@ -23,6 +17,9 @@ class ControlView {
     /// Brings the widget in line with its record. What hasn't changed isn't painted again; what has is
     /// painted with the window's next paint.
     void Sync();
+
+    /// As the left button of the mouse does in its middle.
+    void PressInMiddle() const;
 
     const Control& Shown() const { return record; }
     QWidget& Widget() const { return widget; }
@@ -51,13 +48,6 @@ class ControlView {
     QWidget& widget;
     const EventSink& sink;
     bool shownEnabled = true;
-    const QString helpTip;  // read where the record has no tip
+    const QString purpose;  // read where the record has no tip
     bool named = false;     // for screen readers, not before the widget is whole
 };
-
-/// An event of `control`, named as Dispatch expects it, as "frmField.imgStance".
-InputEvent EventOf(const Control& control, EventKind kind, int code);
-
-/// What a screen reader says for a control: what it is and its tip, as "Pocket 3: Smoke grenade"; or its
-/// caption, its tip alone, or its name in words, as "Enemy Count".
-QString SpokenName(const Control& control);

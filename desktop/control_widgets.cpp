@@ -12,8 +12,9 @@
 
 #include "desktop/picture_widget.h"
 #include "desktop/pointer_events.h"
-#include "desktop/stops.h"
 #include "desktop/text_widget.h"
+#include "shell/control_words.h"
+#include "shell/stops.h"
 
 namespace {
 
@@ -152,7 +153,7 @@ void ButtonWidget::SyncContent() {
     const char letter = ShortcutLetter(button);
     setText(Underlined(QString::fromStdString(shownCaption), letter));
     setShortcut({});  // its own would repeat while it is held; the window's keyboard has one that doesn't
-    setAccessibleName(SpokenName(button));
+    setAccessibleName(QString::fromStdString(SpokenName(button)));
 }
 
 ControlView* MakeControlView(Control& control, QWidget& parent, const EventSink& to) {

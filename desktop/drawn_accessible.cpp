@@ -3,15 +3,15 @@
 #include <QAccessibleWidget>
 
 #include "desktop/control_view.h"
-#include "desktop/pointer_events.h"
-#include "desktop/stops.h"
+#include "shell/stops.h"
 
 namespace {
 
 class DrawnAccessible : public QAccessibleWidget {
   public:
-    DrawnAccessible(QWidget& drawn, const Control& control)
-        : QAccessibleWidget(&drawn, GridOf(control) == 0 ? QAccessible::Button : QAccessible::Canvas) {}
+    DrawnAccessible(QWidget& drawn, const ControlView& ofIt)
+        : QAccessibleWidget(&drawn, GridOf(ofIt.Shown()) == 0 ? QAccessible::Button : QAccessible::Canvas),
+          view(ofIt) {}
 
     QStringList actionNames() const override {
         QStringList names = QAccessibleWidget::actionNames();
@@ -21,17 +21,20 @@ class DrawnAccessible : public QAccessibleWidget {
 
     void doAction(const QString& action) override {
         if (action == pressAction())
-            PressAt(*widget(), QRectF(widget()->rect()).center(), Qt::LeftButton);
+            view.PressInMiddle();
         else
             QAccessibleWidget::doAction(action);
     }
+
+  private:
+    const ControlView& view;
 };
 
 QAccessibleInterface* Describe(const QString& /*className*/, QObject* object) {
     auto* const widget = qobject_cast<QWidget*>(object);
     const auto* const view = dynamic_cast<const ControlView*>(widget);
     if (view == nullptr || !IsDrawn(view->Shown()) || !IsStop(view->Shown())) return nullptr;
-    return new DrawnAccessible(*widget, view->Shown());
+    return new DrawnAccessible(*widget, *view);
 }
 
 }  // namespace

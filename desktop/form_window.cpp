@@ -19,7 +19,8 @@
 #include "desktop/picture_widget.h"
 #include "desktop/pointer_events.h"
 #include "desktop/scale.h"
-#include "desktop/stops.h"
+#include "shell/control_words.h"
+#include "shell/stops.h"
 
 namespace {
 
@@ -45,7 +46,7 @@ FormWindow::FormWindow(Form& shown, QWidget* owner, EventSink to)
     QPalette colours = client->palette();
     colours.setColor(QPalette::Window, QColor(Bright));
     client->setPalette(colours);
-    client->setAccessibleName(SpokenName(form));
+    client->setAccessibleName(QString::fromStdString(SpokenName(form)));
     client->setAttribute(Qt::WA_NoMousePropagation);
     new PointerEvents(*client, form, sink);
     NameDrawnControls();

@@ -1,7 +1,5 @@
 #include "desktop/front_end.h"
 
-#include <algorithm>
-
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
@@ -13,8 +11,6 @@
 
 namespace {
 
-constexpr int VolumeStep = 10;
-constexpr int FullVolume = 100;
 constexpr std::chrono::milliseconds NoteTime(1200);
 
 // In pixels of the records.
@@ -50,55 +46,32 @@ FrontEnd::FrontEnd(DesktopHost& onHost, FormWindow& ofMain, const std::vector<co
 }
 
 void FrontEnd::FillMenu(QMenu& menu) {
-    AddEntry(menu, "&Keys", FrontCommand::Help);
-    connect(menu.addAction(tr("&First steps")), &QAction::triggered, this, [this] { ShowCard(); });
-    menu.addSeparator();
-    AddEntry(menu, "&Larger", FrontCommand::Larger);
-    AddEntry(menu, "&Smaller", FrontCommand::Smaller);
-    AddEntry(menu, "As large as f&its", FrontCommand::Fit);
-    AddEntry(menu, "Full s&creen", FrontCommand::FullScreen, &Settings::fullScreen);
-    menu.addSeparator();
-    AddEntry(menu, "Sound &off", FrontCommand::Mute, &Settings::muted);
-    AddEntry(menu, "Lo&uder", FrontCommand::Louder);
-    AddEntry(menu, "Sof&ter", FrontCommand::Softer);
-    connect(AddTick(menu, tr("&Water, wind and birds"), &Settings::ambience), &QAction::triggered, this,
-            [this](bool on) { host.Sounds().LetAmbience(on); });
-    menu.addSeparator();
-    if (SquadWindow* const squad = host.Squad())
-        connect(AddTick(menu, tr("S&quad and log\tCtrl+B"), &Settings::squadWindowShown), &QAction::triggered,
-                squad, &SquadWindow::SetShown);
-    AddTick(menu, tr("&End Turn asks"), &Settings::askBeforeEndTurn);
+    for (const FrontEntry& entry : FrontMenu()) {
+        if (entry.command == FrontCommand::SquadWindow && host.Squad() == nullptr) continue;
+        AddEntry(menu, entry);
+        if (entry.endsGroup) menu.addSeparator();
+    }
     connect(&menu, &QMenu::aboutToShow, this, [this] { SyncMenu(); });
 }
 
 // The key stands in the column of shortcuts but makes none: it is taken before the menu could.
-void FrontEnd::AddEntry(QMenu& menu, const char* caption, FrontCommand command, bool Settings::*shown) {
-    QAction* const action = menu.addAction(QStringLiteral("%1\t%2").arg(tr(caption), KeyWords(command)));
-    connect(action, &QAction::triggered, this, [this, command] { Run(command); });
-    if (shown == nullptr) return;
+void FrontEnd::AddEntry(QMenu& menu, const FrontEntry& entry) {
+    QAction* const action = menu.addAction(QStringLiteral("%1\t%2").arg(tr(entry.caption), entry.keys));
+    connect(action, &QAction::triggered, this, [this, command = entry.command] { Run(command); });
+    if (entry.tick == nullptr) return;
     action->setCheckable(true);
-    ticks.push_back({action, shown});
-}
-
-QAction* FrontEnd::AddTick(QMenu& menu, const QString& caption, bool Settings::*shown) {
-    QAction* const action = menu.addAction(caption);
-    action->setCheckable(true);
-    ticks.push_back({action, shown});
-    connect(action, &QAction::triggered, this, [this, shown](bool on) { Set(shown, on); });
-    return action;
-}
-
-void FrontEnd::Set(bool Settings::*what, bool on) {
-    Settings changed = settings.Now();
-    changed.*what = on;
-    settings.Change(changed);
+    ticks.push_back({action, entry.tick});
 }
 
 void FrontEnd::KeepSquadWindow() {
     SquadWindow* const squad = host.Squad();
     if (squad == nullptr) return;
     squad->SetShown(settings.Now().squadWindowShown);
-    squad->AtToggle([this](bool shown) { Set(&Settings::squadWindowShown, shown); });
+    squad->AtToggle([this](bool shown) {
+        Settings changed = settings.Now();
+        changed.squadWindowShown = shown;
+        settings.Change(changed);
+    });
 }
 
 void FrontEnd::SyncMenu() {
@@ -107,36 +80,34 @@ void FrontEnd::SyncMenu() {
 }
 
 void FrontEnd::Run(FrontCommand command) {
-    const Settings& now = settings.Now();
     switch (command) {
         case FrontCommand::Help:
             return ShowHelp(tr("Keys and mouse"), KeysPage(), KeysWidth, KeysMost);
+        case FrontCommand::FirstSteps:
+            return ShowCard();
         case FrontCommand::FullScreen:
             return sizes.ToggleFullScreen();
         case FrontCommand::Larger:
-            return Say(
-                (sizes.Step(+1) ? tr("Size %1") : tr("Size %1: no larger one fits")).arg(ScaleFactor()));
+            return Say(SizeNote(sizes.Step(+1) ? SizeRemark::None : SizeRemark::Largest, ScaleFactor()));
         case FrontCommand::Smaller:
-            return Say((sizes.Step(-1) ? tr("Size %1") : tr("Size %1: the smallest")).arg(ScaleFactor()));
+            return Say(SizeNote(sizes.Step(-1) ? SizeRemark::None : SizeRemark::Smallest, ScaleFactor()));
         case FrontCommand::Fit:
             sizes.Fit();
-            return Say(tr("Size %1, as large as fits").arg(ScaleFactor()));
-        case FrontCommand::Mute:
-            return SetLoudness(now.volume, !now.muted);
-        case FrontCommand::Louder:
-            return SetLoudness(now.volume + VolumeStep, false);
-        case FrontCommand::Softer:
-            return SetLoudness(now.volume - VolumeStep, now.muted);
+            return Say(SizeNote(SizeRemark::Fits, ScaleFactor()));
+        default:
+            return Take(command);
     }
 }
 
-void FrontEnd::SetLoudness(int volume, bool muted) {
-    Settings changed = settings.Now();
-    changed.volume = std::clamp(volume, 0, FullVolume);
-    changed.muted = muted;
-    settings.Change(changed);
-    host.Sounds().SetLoudness(changed.Loudness());
-    Say(muted ? tr("Sound off") : tr("Volume %1 %").arg(changed.volume));
+// What is only set; the device, the squad's window and the questions go by it.
+void FrontEnd::Take(FrontCommand command) {
+    const Settings before = settings.Now();
+    const Settings now = AfterCommand(command, before);
+    settings.Change(now);
+    if (now.Loudness() != before.Loudness()) host.Sounds().SetLoudness(now.Loudness());
+    if (now.ambience != before.ambience) host.Sounds().LetAmbience(now.ambience);
+    if (now.squadWindowShown != before.squadWindowShown) host.Squad()->SetShown(now.squadWindowShown);
+    if (SetsLoudness(command)) Say(LoudnessNote(now));
 }
 
 void FrontEnd::Resized() {
@@ -164,10 +135,10 @@ void FrontEnd::ShowHelp(const QString& title, const std::string& page, int width
     help->show();
 }
 
-void FrontEnd::Say(const QString& words) {
+void FrontEnd::Say(const std::string& words) {
     const int margin = ToScreen(NoteMargin);
     note.setFont(QApplication::font());  // it may just have changed
-    note.setText(words);
+    note.setText(QString::fromStdString(words));
     note.setContentsMargins(margin, margin, margin, margin);
     note.adjustSize();
     note.move((window.width() - note.width()) / 2, ToScreen(MenuHeight + NoteTop));

@@ -36,15 +36,13 @@ class FrontEnd : public QObject {
 
     void KeepSquadWindow();
     void FillMenu(QMenu& menu);
-    void AddEntry(QMenu& menu, const char* caption, FrontCommand command, bool Settings::*shown = nullptr);
-    QAction* AddTick(QMenu& menu, const QString& caption, bool Settings::*shown);
-    void Set(bool Settings::*what, bool on);
+    void AddEntry(QMenu& menu, const FrontEntry& entry);
     void SyncMenu();
     void Resized();
-    void SetLoudness(int volume, bool muted);
+    void Take(FrontCommand command);
     void ShowHelp(const QString& title, const std::string& page, int width, int most);
     void ShowCard();
-    void Say(const QString& words);
+    void Say(const std::string& words);
 
     DesktopHost& host;
     FormWindow& window;

@@ -7,9 +7,9 @@
 
 #include <QObject>
 
-class QKeyEvent;
+#include "shell/front_commands.h"
 
-enum class FrontCommand { Help, FullScreen, Larger, Smaller, Fit, Mute, Louder, Softer };
+class QKeyEvent;
 
 class FrontKeys : public QObject {
   public:
@@ -26,6 +26,3 @@ class FrontKeys : public QObject {
     const std::function<void(FrontCommand)> run;
     std::set<int> strangers;  // keys that are down and whose releases aren't the game's
 };
-
-/// The key as menus show it, as "Ctrl+M".
-const char* KeyWords(FrontCommand command);

@@ -22,14 +22,12 @@
 #include "platform/run_time_error.h"
 #include "shell/companion.h"
 #include "shell/settings.h"
-#include "shell/watching.h"
 #include "view/events.h"
 #include "view/field_form.h"
 #include "view/forms.h"
 
 namespace {
 
-constexpr const char* GameName = "Sarnoth III";
 constexpr const char* DesktopEntry = "sarnoth3";  // by which desktops find the window's name and icon
 
 void PrintNoDisplay() {
@@ -135,31 +133,6 @@ Resumption AskToContinue(const std::string& text) {
     box.exec();
     if (box.clickedButton() == watch) return Resumption::Watched;
     return box.clickedButton() == begin ? Resumption::NewGame : Resumption::Continued;
-}
-
-void ShowPlayedBack(Watching& watching, Companion& companion, AfterWatching after) {
-    auto& host = static_cast<DesktopHost&>(TheHost());
-    const bool playGoesOn = after == AfterWatching::PlayGoesOn;
-    const auto give = [&companion](const InputEvent& event) {
-        companion.Pass(event, [&event] { Dispatch(event); });
-    };
-    const auto source = [&, playGoesOn, give](int pump, bool lasts) {
-        watching.LetIn(pump, lasts, give);
-        if (!watching.Done() || (!playGoesOn && host.InnermostPump() != 0)) return;
-        companion.SetWatched("");
-        host.StopPlayBack();
-        if (playGoesOn) return;
-        host.ShowMessage("The recording ends here.");
-        host.EndProcess(EXIT_SUCCESS);
-    };
-    const auto meanwhile = [&host, playGoesOn](const InputEvent& event) {
-        const bool closes = event.kind == EventKind::CloseRequest && event.control == frmField.name;
-        if (closes || (!playGoesOn && IsDeed(event))) host.EndProcess(EXIT_SUCCESS);
-        if (IsDeed(event)) host.Hasten();
-    };
-    companion.SetWatched(playGoesOn ? "any key or click: to its end, and play on"
-                                    : "any key or click ends it");
-    host.PlayBack(source, meanwhile);
 }
 
 bool SaveWindow(const std::string& form, const std::filesystem::path& file) {

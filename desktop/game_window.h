@@ -10,7 +10,6 @@
 
 class Companion;
 class SettingsFile;
-class Watching;
 
 struct WindowRun {
     std::function<void()> begin;                       // starts the game, its folder too unless that was set
@@ -31,13 +30,6 @@ int RunInWindow(char** arguments, const WindowRun& run);
 /// Shows `text` in a box with the buttons "Continue", "Watch it" and "New game", of which closing the box
 /// presses the first.
 Resumption AskToContinue(const std::string& text);
-
-/// What becomes of a run that is played back, at its end.
-enum class AfterWatching { PlayGoesOn, ProcessEnds };
-
-/// Plays a run back on the windows from now on, at a pace that can be followed. Keys and clicks bring it to
-/// its end at once. Both must outlive that.
-void ShowPlayedBack(Watching& watching, Companion& companion, AfterWatching after);
 
 /// Saves a window of the running game, named as "frmField", as it would be shown. False when it can't be
 /// written.

@@ -123,3 +123,17 @@ int ShiftState(Qt::KeyboardModifiers modifiers) {
     if (modifiers & Qt::AltModifier) state += AltHeld;
     return state;
 }
+
+KeyInput KeyOf(const QKeyEvent& event) {
+    constexpr int FirstSign = Qt::Key_Space;
+    constexpr int LastSign = Qt::Key_AsciiTilde;
+    KeyInput key;
+    key.code = KeyCode(event);
+    if (event.key() >= FirstSign && event.key() <= LastSign) key.sign = static_cast<char>(event.key());
+    key.shift = ShiftState(event.modifiers());
+    if (event.key() == Qt::Key_Backtab) key.shift |= ShiftHeld;
+    key.isMetaHeld = (event.modifiers() & Qt::MetaModifier) != 0;
+    key.isRepeat = event.isAutoRepeat();
+    key.time = event.timestamp();
+    return key;
+}

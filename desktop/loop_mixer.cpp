@@ -5,9 +5,9 @@
 #include <limits>
 #include <utility>
 
-namespace {
+#include "shell/ambience.h"
 
-constexpr double FadeSeconds = 4;  // from silence to the full level
+namespace {
 
 std::int16_t Sum(std::int16_t heard, float gain, std::int16_t added) {
     constexpr float Highest = std::numeric_limits<std::int16_t>::max();
@@ -53,7 +53,7 @@ void LoopMixer::MixLoop(Loop& loop, double masterNow, std::span<std::int16_t> he
     const std::size_t frames = heard.size() / DeviceSides;
     const std::size_t length = loop.samples.size();
     if (length == 0 || frames == 0) return;
-    const double reach = static_cast<double>(frames) / (FadeSeconds * DeviceFrequency);
+    const double reach = static_cast<double>(frames) / (AmbienceFadeSeconds * DeviceFrequency);
     const double before = loop.level * masterNow;
     loop.level = std::clamp(loop.wanted, loop.level - reach, loop.level + reach);
     const double after = loop.level * wantedMaster;

@@ -10,6 +10,7 @@
 #include "platform/run_time_error.h"
 #include "shell/companion.h"
 #include "shell/debriefing.h"
+#include "shell/playing_back.h"
 #include "shell/questions.h"
 #include "shell/session.h"
 #include "shell/settings.h"

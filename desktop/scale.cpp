@@ -8,7 +8,9 @@ namespace {
 
 constexpr QSize DesktopFrame = {16, 40};  // screen pixels that a desktop puts around a window
 
-Halves scale = SingleSize;
+PixelSize Plain(QSize size) {
+    return {size.width(), size.height()};
+}
 
 // The first and the last pixel of a picture that a screen pixel covers; they differ by one at most.
 struct Covered {
@@ -21,7 +23,7 @@ struct Covered {
 // Edges of the picture's pixels lie on those of the screen's, or in their middle: of two pixels each has one
 // half.
 Covered CoveredBy(int pixel, int length) {
-    return {std::min(2 * pixel / scale, length - 1), std::min((2 * pixel + 1) / scale, length - 1)};
+    return {std::min(2 * pixel / Scale(), length - 1), std::min((2 * pixel + 1) / Scale(), length - 1)};
 }
 
 std::vector<Covered> Columns(const QRect& part, int width) {
@@ -66,52 +68,27 @@ QImage Wrapped(const Picture& picture, const QRect& part, Ground ground) {
 
 }  // namespace
 
-void SetScale(Halves halves) {
-    scale = halves;
-}
-
-Halves Scale() {
-    return scale;
-}
-
-double ScaleFactor() {
-    return scale / 2.0;
-}
-
 QSize SizeWithMenu(const Form& form) {
-    const bool hasMenu = std::any_of(form.controls.begin(), form.controls.end(), [](const Control* control) {
-        return control->kind == ControlKind::Menu;
-    });
-    return {form.Width, form.Height + (hasMenu ? MenuHeight : 0)};
+    const PixelSize size = WholeSize(form);
+    return {size.width, size.height};
 }
 
-// What is rounded up here may be rounded down on the screen, part by part: it fits all the more.
 Halves LargestScale(QSize size, QSize room) {
-    const int across = 2 * room.width() / size.width();
-    const int down = 2 * room.height() / size.height();
-    return std::clamp(std::min(across, down), SingleSize, LargestSize);
+    return ScaleWithin(Plain(size), Plain(room));
 }
 
 Halves FittingScale(QSize screen, std::span<const Form* const> forms) {
-    Halves fitting = LargestSize;
-    for (const Form* form : forms)
-        fitting = std::min(fitting, LargestScale(SizeWithMenu(*form), screen - DesktopFrame));
-    return fitting;
-}
-
-int ToScreen(int edge) {
-    return (edge * scale + 1) >> 1;  // downwards also below 0
+    return ScaleForAll(forms, Plain(screen - DesktopFrame));
 }
 
 QRect ToScreen(const QRect& rectangle) {
-    const QPoint leftTop(ToScreen(rectangle.x()), ToScreen(rectangle.y()));
-    const int right = ToScreen(rectangle.x() + rectangle.width());
-    const int bottom = ToScreen(rectangle.y() + rectangle.height());
-    return {leftTop, QSize(right - leftTop.x(), bottom - leftTop.y())};
+    const Rectangle plain =
+        ToScreen(Rectangle{rectangle.x(), rectangle.y(), rectangle.width(), rectangle.height()});
+    return {plain.left, plain.top, plain.width, plain.height};
 }
 
 QRect Touched(const Rectangle& rectangle) {
-    const QPoint leftTop(rectangle.left * scale >> 1, rectangle.top * scale >> 1);
+    const QPoint leftTop(rectangle.left * Scale() >> 1, rectangle.top * Scale() >> 1);
     const int right = ToScreen(rectangle.left + rectangle.width);
     const int bottom = ToScreen(rectangle.top + rectangle.height);
     return {leftTop, QSize(right - leftTop.x(), bottom - leftTop.y())};
@@ -122,7 +99,7 @@ QPointF FromScreen(QPointF point) {
 }
 
 QImage Enlarged(const Picture& picture, const QRect& part, Ground ground) {
-    if (scale == SingleSize) return Wrapped(picture, part, ground);
+    if (Scale() == SingleSize) return Wrapped(picture, part, ground);
     const Colour solid = ground == Ground::Opaque ? Rgb(0, 0, 0) : 0;
     const std::vector<Covered> columns = Columns(part, picture.Width());
     QImage image(part.size(), QImage::Format_ARGB32_Premultiplied);

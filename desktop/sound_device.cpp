@@ -8,12 +8,14 @@
 #include <SDL_mixer.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 
 #include "desktop/sound_file.h"
 #include "platform/files.h"
 #include "shell/own_sounds.h"
+#include "shell/sound_gains.h"
 
 namespace {
 
@@ -22,7 +24,7 @@ constexpr int DeviceChunk = 1024;           // frames mixed at a time: a sound s
 constexpr int SlotCount = LastOwnSlot + 1;  // 0 is never asked for
 
 int MixVolume(int hundredths) {
-    return (hundredths * MIX_MAX_VOLUME + 50) / 100;
+    return static_cast<int>(std::lround(LoudnessGain(hundredths) * MIX_MAX_VOLUME));
 }
 
 bool HasAny(const AmbienceLevels& levels) {
@@ -115,7 +117,7 @@ void SoundDevice::LetAmbience(bool on) {
 
 void SoundDevice::ApplyAmbience() {
     const int audible = hasAmbience ? loudness : 0;
-    loops.SetMaster(audible / 100.0);
+    loops.SetMaster(LoudnessGain(audible));
     if (state == State::Closed && (audible == 0 || !HasAny(ambience))) return;
     if (!Open()) return;
     for (std::size_t i = 0; i < ambience.size(); ++i) {

@@ -11,6 +11,7 @@
 
 #include "platform/files.h"
 #include "platform/run_time_error.h"
+#include "shell/sound_gains.h"
 
 namespace {
 
@@ -45,14 +46,9 @@ void CheckChunks(std::string_view content, const std::string& fileName) {
     }
 }
 
-double FromHundredthsOfDecibel(int level) {
-    return std::pow(10.0, level / 2000.0);
-}
-
 void ApplyGains(Samples& samples, const SoundRequest& sound) {
-    const double common = FromHundredthsOfDecibel(sound.volume);
-    const double gains[DeviceSides] = {common * FromHundredthsOfDecibel(-std::max(sound.pan, 0)),
-                                       common * FromHundredthsOfDecibel(std::min(sound.pan, 0))};
+    const auto [left, right] = GainsOf(sound);
+    const double gains[DeviceSides] = {left, right};
     for (std::size_t i = 0; i < samples.size(); ++i)
         samples[i] = static_cast<std::int16_t>(std::lround(samples[i] * gains[i % DeviceSides]));
 }

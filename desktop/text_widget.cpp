@@ -6,6 +6,7 @@
 
 #include "desktop/pointer_events.h"
 #include "desktop/scale.h"
+#include "shell/control_words.h"
 
 namespace {
 
@@ -37,7 +38,7 @@ void TextPlate::SyncContent() {
     const QString now = QString::fromStdString(record);
     if (text() != now) {
         setText(now);
-        setAccessibleName(SpokenName(Shown()));
+        setAccessibleName(QString::fromStdString(SpokenName(Shown())));
     }
     if (paintedBack == back && paintedFore == fore) return;
     paintedBack = back;

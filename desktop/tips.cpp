@@ -8,6 +8,8 @@
 #include <QToolTip>
 #include <QWidget>
 
+#include "shell/control_words.h"
+
 namespace {
 
 // Whose tip is read at a point of `parent`: the topmost control's that has one; one that takes the mouse
@@ -24,11 +26,8 @@ const QWidget* Bearer(const QWidget& parent, QPoint at) {
     return parent.toolTip().isEmpty() ? nullptr : &parent;
 }
 
-// For those who have no pointer to look around with, a stop without a tip tells its name, and each its key.
-QString TextBeside(const QWidget& stop) {
-    const QString text = stop.toolTip().isEmpty() ? stop.accessibleName() : stop.toolTip();
-    const QString key = stop.accessibleDescription();
-    return key.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, key);
+QString TextBeside(const Control& stop) {
+    return QString::fromStdString(TipBeside(stop));
 }
 
 }  // namespace
@@ -55,7 +54,7 @@ void Tips::Sync() {
     if (tip != QToolTip::text()) Show(pointer, *under);
 }
 
-void Tips::ShowBeside(QWidget& ofStop, const QRect& besideIt) {
+void Tips::ShowBeside(const Control& ofStop, const QRect& besideIt) {
     stop = &ofStop;
     spot = besideIt;
     QToolTip::showText(inside.mapToGlobal(spot.bottomRight()), TextBeside(*stop), &inside, inside.rect());

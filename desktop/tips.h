@@ -6,6 +6,7 @@
 #include <QRect>
 
 class QWidget;
+struct Control;
 
 class Tips : public QObject {
   public:
@@ -20,7 +21,7 @@ class Tips : public QObject {
 
     /// Shows the tip of `stop`, or its name, and its key beside `spot`, in pixels of the inside, until
     /// PutAway or the pointer's next tip.
-    void ShowBeside(QWidget& stop, const QRect& spot);
+    void ShowBeside(const Control& stop, const QRect& spot);
     void PutAway();
 
   protected:
@@ -30,6 +31,6 @@ class Tips : public QObject {
     void Show(QPoint at, QWidget& under);
 
     QWidget& inside;
-    QWidget* stop = nullptr;  // whose tip ShowBeside has shown
+    const Control* stop = nullptr;  // whose tip ShowBeside has shown
     QRect spot;
 };

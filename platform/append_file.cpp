@@ -14,13 +14,12 @@ namespace {
 
 constexpr int Flags = O_WRONLY | O_APPEND | O_NONBLOCK | O_CLOEXEC;
 
-// The new name reaches the disk with its folder, where a folder can be flushed.
-void FlushFolder(const std::filesystem::path& folder) {
-    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) return;
-    ::fsync(descriptor);
-    ::close(descriptor);
-}
+// A browser's storage knows the one that flushes all.
+#ifdef __EMSCRIPTEN__
+constexpr auto FlushContent = ::fsync;
+#else
+constexpr auto FlushContent = ::fdatasync;
+#endif
 
 }  // namespace
 
@@ -33,7 +32,7 @@ bool AppendFile::Create(std::string_view name) {
     std::error_code ignored;
     std::filesystem::create_directories(path.parent_path(), ignored);
     if (!Take(::open(path.c_str(), Flags | O_CREAT | O_EXCL, 0644))) return false;
-    FlushFolder(path.parent_path());
+    FlushFolder(name);  // the new name
     return true;
 }
 
@@ -54,7 +53,7 @@ bool AppendFile::Append(std::string_view text, bool toDisk) {
         if (written < 0) return false;
         text.remove_prefix(static_cast<std::size_t>(written));
     }
-    return !toDisk || ::fdatasync(descriptor) == 0;
+    return !toDisk || FlushContent(descriptor) == 0;
 }
 
 bool AppendFile::Cut(std::size_t length) {

@@ -213,6 +213,11 @@ void ReplaceFile(std::string_view name, std::string_view content) {
     if (folder.Good()) folder.Flush();
 }
 
+void FlushFolder(std::string_view name) {
+    const OpenFile folder(PlayersPath(name).parent_path(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder.Good()) folder.Flush();
+}
+
 TextReader::TextReader(std::string_view fileName)
     : name(ShownName(fileName)), content(ReadWholeFile(fileName, MaxDataFile)) {}
 

@@ -50,6 +50,10 @@ std::string ReadWholeFile(std::string_view name, std::size_t most = MaxFile);
 /// that may not be written to, and leaves the old one.
 void ReplaceFile(std::string_view name, std::string_view content);
 
+/// What was made, renamed or removed in the folder of that file of the player's reaches the disk, where a
+/// folder can be flushed.
+void FlushFolder(std::string_view name);
+
 /// Reads a text character by character and knows where it is. CR LF and LF both end a line.
 class TextReader {
   public:

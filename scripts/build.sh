@@ -6,6 +6,8 @@ packages_check="$packages_play libcli11-dev nlohmann-json3-dev libpugixml-dev so
 packages_lint="clang-format clang-tidy"
 packages_clang="clang"
 packages_fuzz="clang libclang-rt-14-dev"
+packages_web="emscripten python3 brotli sox"
+packages_browser="chromium chromium-driver python3-selenium"
 packages_package="$packages_play dpkg-dev file lintian appstream desktop-file-utils xvfb xdotool man-db"
 
 # need PURPOSE...: installs what is missing, as root or through sudo; without either it says what and stops.
@@ -55,5 +57,12 @@ build() {
         { [ $tests = ON ] && grep -q '^SARNOTH_TESTS:BOOL=OFF' "build/$preset/CMakeCache.txt"; }; then
         quietly cmake --preset "$preset" -DSARNOTH_TESTS=$tests || exit 1
     fi
-    cmake --build "build/$preset" --target "$@" -- --quiet
+    cmake --build --preset "$preset" --target "$@" -- --quiet
+}
+
+# build_web TARGET...: the page, in two stages, since the programs that make the content need the native toolkit.
+build_web() {
+    build release sarnoth_content
+    build web "$@"
+    scripts/web.sh build/release
 }

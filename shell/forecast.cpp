@@ -45,8 +45,8 @@ void CountOdds(Forecast& forecast, int x, int y) {
     forecast.odds = CountOdds(rehearsal, forecast.act, x, y);
 }
 
-std::size_t StateMark() {
-    std::size_t mark = 1469598103934665603U;
+std::uint64_t StateMark() {
+    std::uint64_t mark = 1469598103934665603U;
     const auto add = [&mark](int value) { mark = (mark ^ static_cast<unsigned>(value)) * 1099511628211U; };
     for (const int value : {int{curTeam}, int{curUnit}, int{orderCount}, int{lastClickX}, int{lastClickY},
                             int{fireModes.chosen}, static_cast<int>(fireInMotion), int{squadTurns}})

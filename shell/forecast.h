@@ -29,4 +29,4 @@ Forecast ForecastAt(int x, int y);
 void CountOdds(Forecast& forecast, int x, int y);
 
 /// Everything that a forecast depends on, as a number: while it stays the same, so do the forecasts.
-std::size_t StateMark();
+std::uint64_t StateMark();

@@ -80,7 +80,7 @@ void Guide::Renew(Moment now) {
     // One place stands for a whole cell, so that moving within it changes nothing.
     const int x = CellOfPixel(pixel->x) * CellSize + HalfCell;
     const int y = CellOfPixel(pixel->y) * CellSize + HalfCell;
-    const std::size_t mark = StateMark() * 31 + static_cast<std::size_t>(x * FieldHeight * CellSize + y);
+    const std::uint64_t mark = StateMark() * 31 + static_cast<std::uint64_t>(x * FieldHeight * CellSize + y);
     if (!forecast || mark != forecastMark) {
         forecast = ForecastAt(x, y);
         forecastMark = mark;

@@ -2,6 +2,7 @@
 // read-out, and says why an order came to nothing. It changes nothing in the game.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 
@@ -47,7 +48,7 @@ class Guide {
 
     std::optional<Place> pointer;
     std::optional<Forecast> forecast;
-    std::size_t forecastMark = 0;  // what it was made of
+    std::uint64_t forecastMark = 0;  // what it was made of
     Moment forecastBegun;
     int selected = -1;
     Refusal said;

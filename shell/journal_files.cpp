@@ -24,6 +24,7 @@ bool Lies(const std::string& name) {
 bool Rename(const std::string& from, const std::string& to) {
     std::error_code failure;
     fs::rename(PlayersPath(from), PlayersPath(to), failure);
+    if (!failure) FlushFolder(to);
     errno = failure.value();
     return !failure;
 }
@@ -33,6 +34,7 @@ bool Rename(const std::string& from, const std::string& to) {
 void RemoveJournal() {
     std::error_code ignored;
     fs::remove(PlayersPath(CurrentJournal), ignored);
+    FlushFolder(CurrentJournal);
 }
 
 // From the back, and only up to the first gap: a rename puts the new file in the old one's place in one step.

@@ -7,12 +7,11 @@
 
 #include "platform/files.h"
 #include "platform/quoted.h"
+#include "shell/scale.h"
 
 namespace {
 
 constexpr const char* Fitting = "auto";
-constexpr int SmallestScale = 2;
-constexpr int LargestScale = 8;
 
 struct Row {
     std::string_view name;
@@ -26,7 +25,7 @@ struct Row {
 constexpr Row Rows[] = {
     // clang-format off
     // name                   number             tick                         range          what it can be
-    {"scale",                &Settings::halves, nullptr, SmallestScale, LargestScale,        "auto, 1, 1.5, 2 ... 4"},
+    {"scale",                &Settings::halves, nullptr, SingleSize, LargestSize,            "auto, 1, 1.5, 2 ... 4"},
     {"full screen",           nullptr, &Settings::fullScreen,              0, 0,             "yes or no"},
     {"volume",               &Settings::volume, nullptr,                   0, 100,           "0 to 100"},
     {"muted",                 nullptr, &Settings::muted,                   0, 0,             "yes or no"},
@@ -60,7 +59,7 @@ bool TakeValue(const Row& row, std::string_view value, Settings& settings) {
         int number = 0;
         const auto read = std::from_chars(value.data(), value.data() + value.size(), number);
         if (read.ec != std::errc()) return false;
-        if (IsScale(row) && number <= LargestScale) number = 2 * number + (value.ends_with(".5") ? 1 : 0);
+        if (IsScale(row) && number <= LargestSize) number = 2 * number + (value.ends_with(".5") ? 1 : 0);
         if (number < row.first || number > row.last) return false;
         tried.*row.number = number;
     }

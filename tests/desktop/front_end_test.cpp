@@ -9,9 +9,9 @@
 #include <QAction>
 
 #include "desktop/appearance.h"
-#include "desktop/stops.h"
 #include "platform/keys.h"
 #include "shell/help_pages.h"
+#include "shell/stops.h"
 #include "test_form.h"
 #include "view/forms.h"
 

@@ -4,6 +4,7 @@
 #include "desktop/game_window.h"
 #include "personal/info_form.h"
 #include "platform/keys.h"
+#include "shell/playing_back.h"
 #include "shell/companion.h"
 #include "tools/player/orders.h"
 #include "view/start.h"

@@ -25,8 +25,9 @@ arrows() {
 }
 circles=$(arrows | tsort 2>&1 >/dev/null) || complain "files in a circle:" "$circles"
 
-grep -rnE '#include *[<"](Q[A-Z]|SDL|qt)' $rooms tools bench tests --exclude-dir=desktop --exclude-dir=pictures && complain "toolkit headers outside desktop/"
-grep -rnE '#include *<(unistd|fcntl|sys/|windows)' $rules view personal shell && complain "headers of the system outside platform/"
+grep -rnE '#include *[<"](Q[A-Z]|SDL|qt)' $rooms browser tools bench tests --exclude-dir=desktop --exclude-dir=pictures && complain "toolkit headers outside desktop/"
+grep -rnE '#include *<(unistd|fcntl|sys/|windows)' $rules view personal shell browser && complain "headers of the system outside platform/"
+grep -rlE '#include *<emscripten|extern "C"' $rooms browser | grep -v '^browser/web/' && complain "a browser's own calls outside browser/web/"
 grep -rnE '\b(rand|srand)\(|std::(uniform|normal|bernoulli)_' $rooms tools && complain "chance from elsewhere than state/chance"
 
 if [ $# -gt 2 ]; then

@@ -302,7 +302,9 @@ TEST(KnownColumnsTest, AreThoseOfTheTileSheet) {
     for (int row = 0; row < TerrainCount; ++row) {
         const int columns = KnownColumns(static_cast<Terrain>(row));
         EXPECT_FALSE(isGrass(row, columns - 1)) << TerrainName(row);
-        if (columns < SheetColumns) EXPECT_TRUE(isGrass(row, columns)) << TerrainName(row);
+        if (columns < SheetColumns) {
+            EXPECT_TRUE(isGrass(row, columns)) << TerrainName(row);
+        }
     }
 }
 

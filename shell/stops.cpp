@@ -1,4 +1,4 @@
-#include "desktop/stops.h"
+#include "shell/stops.h"
 
 #include <string>
 #include <string_view>
@@ -86,9 +86,9 @@ const GridRow* GridRowOf(const Control& control) {
     return nullptr;
 }
 
-QPoint MiddleOfCell(int unit, int cellSize) {
+PixelPoint MiddleOfCell(int unit, int cellSize) {
     const Unit& shown = UnitTable[unit];
-    return QPoint(shown.cellX, shown.cellY) * cellSize + QPoint(cellSize, cellSize) / 2;
+    return {shown.cellX * cellSize + cellSize / 2, shown.cellY * cellSize + cellSize / 2};
 }
 
 }  // namespace
@@ -117,12 +117,11 @@ bool IsMainStop(const Control& control) {
     return false;
 }
 
-QString StopWords(const Control& control) {
+std::string StopWords(const Control& control) {
     const StopRow* const row = RowOf(control);
     if (row == nullptr) return {};
-    const QString words = QString::fromUtf8(row->words);
-    return row->first == row->last ? words
-                                   : QStringLiteral("%1 %2").arg(words).arg(control.index - row->first + 1);
+    if (row->first == row->last) return row->words;
+    return row->words + std::string(" ") + std::to_string(control.index - row->first + 1);
 }
 
 char ShortcutLetter(const Control& control) {
@@ -136,12 +135,12 @@ int GridOf(const Control& control) {
     return row == nullptr ? 0 : row->square;
 }
 
-QPoint StartOn(const Control& control) {
+PixelPoint StartOn(const Control& control) {
     const GridRow* const row = GridRowOf(control);
     return MiddleOfCell(curUnit, row->fieldCell);
 }
 
-std::optional<QPoint> ShownBy(const Control& control) {
+std::optional<PixelPoint> ShownBy(const Control& control) {
     if (&control != &frmField.imgEnemyCount) return std::nullopt;
     return MiddleOfCell(FirstOf(UnitTable[curUnit].enemyTeam) + lastSeenEnemy, CellSize);
 }

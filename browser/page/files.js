@@ -1,0 +1,28 @@
+// The game's files: fetched from beside the page, or taken from within it, where it is one file alone.
+
+/** The bytes of a file as an ArrayBuffer. Throws Error with the file and what is wrong. */
+export async function loadBytes(name) {
+  const inside = globalThis.sarnothFiles?.[name];
+  const answer = await fetch(inside ?? name);
+  if (!answer.ok) throw new Error(`${name}: ${answer.status} ${answer.statusText}`);
+  return answer.arrayBuffer();
+}
+
+/** The same of a file that was compressed by gzip. */
+export async function loadCompressed(name) {
+  const stream = new Blob([await loadBytes(name)]).stream().pipeThrough(new DecompressionStream("gzip"));
+  return new Response(stream).arrayBuffer();
+}
+
+/** The game's module, which servers compress by themselves. */
+export function loadModule() {
+  return globalThis.sarnothFiles ? loadCompressed("sarnoth.wasm.gz") : loadBytes("sarnoth.wasm");
+}
+
+/** What browser/pack.py has packed, as [name, bytes, what else its index has]. */
+export function unpack(buffer) {
+  const headLength = new DataView(buffer).getUint32(0, true);
+  const index = JSON.parse(new TextDecoder().decode(new Uint8Array(buffer, 4, headLength)));
+  const start = 4 + headLength;
+  return index.map(([name, begin, length, ...rest]) => [name, new Uint8Array(buffer, start + begin, length), ...rest]);
+}
