@@ -5,7 +5,7 @@ if(NOT EXISTS ${SARNOTH_NATIVE}/art/made.stamp)
 endif()
 set(ART_FOLDER ${SARNOTH_NATIVE}/art)
 set(ART_STAMP ${ART_FOLDER}/made.stamp)
-set(NATIVE_GAME_FOLDER ${SARNOTH_NATIVE}/game)
+set(RECORDED_GAME ${SARNOTH_NATIVE}/recorded/game)
 set(STOCK_STORE ${SARNOTH_NATIVE}/stock/apc.dat)
 
 # The system's own headers aren't for this machine; a folder with the one library that is headers alone.
