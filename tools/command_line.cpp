@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstdlib>
 #include <iostream>
+#include <limits>
 
 namespace {
 
@@ -72,6 +73,24 @@ CLI::Option* AddGame(CLI::App& app, std::filesystem::path& game) {
 
 CLI::Option* AddSeed(CLI::App& app, std::uint32_t& seed) {
     return app.add_option("--seed", seed, "where chance begins")->type_name("N")->capture_default_str();
+}
+
+CLI::Option* AddPlayer(CLI::App& app, std::string& player) {
+    return app
+        .add_option("--player", player,
+                    "simple: knows where the enemy is, walks there and fires;\n"
+                    "sensible: searches in short bounds, fires when the odds are fair, takes cover;\n"
+                    "careless: searches at a run, runs at the enemy, fires whoever is in the way")
+        ->type_name("NAME")
+        ->check(CLI::IsMember({"simple", "sensible", "careless"}).description(""))
+        ->capture_default_str();
+}
+
+CLI::Option* AddTurns(CLI::App& app, int& turns) {
+    return app.add_option("--turns", turns, "the squad leaves the field after so many turns")
+        ->type_name("N")
+        ->check(Within(1, std::numeric_limits<int>::max()))
+        ->capture_default_str();
 }
 
 CLI::Option* AddFile(CLI::App& app, const char* name, std::filesystem::path& file, const char* description) {

@@ -39,6 +39,12 @@ CLI::Option* AddGame(CLI::App& app, std::filesystem::path& game);
 /// "--seed N".
 CLI::Option* AddSeed(CLI::App& app, std::uint32_t& seed);
 
+/// "--player NAME", one in code: simple, sensible or careless.
+CLI::Option* AddPlayer(CLI::App& app, std::string& player);
+
+/// "--turns N", at least one.
+CLI::Option* AddTurns(CLI::App& app, int& turns);
+
 /// A file that must be named, without the word of an option before it.
 CLI::Option* AddFile(CLI::App& app, const char* name, std::filesystem::path& file, const char* description);
 

@@ -12,6 +12,9 @@ Work AddReplay(CLI::App& command);
 /// Rewrites the lines of a recording.
 Work AddRecord(CLI::App& command);
 
+/// Records a mission of a player in code.
+Work AddMission(CLI::App& command);
+
 /// Random missions.
 Work AddSoak(CLI::App& command);
 

@@ -1,5 +1,5 @@
-// sarnoth-lab: the makers' program around the game: plays and records, replays, rewrites recordings, soaks,
-// checks, measures the odds, paints.
+// sarnoth-lab: the makers' program around the game: plays and records, replays, rewrites recordings, plays
+// missions by itself, soaks, checks, measures the odds, paints.
 #include <map>
 
 #include "tools/check/run_check.h"
@@ -22,6 +22,7 @@ constexpr Command Commands[] = {
      "Plays the events of a recording, and rewrites it with what they change now: for one\n"
      "that was written by hand as the first three lines and events alone, or when data or\n"
      "rules were changed on purpose."},
+    {"mission", AddMission, "Plays a mission by a player in code and records it."},
     {"soak", AddSoak,
      "Plays missions, turns to win them with random events between and within the orders, and\n"
      "looks after each whether all is in order."},

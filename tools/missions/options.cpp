@@ -5,17 +5,8 @@
 void AddMissionOptions(CLI::App& app, MissionOptions& options) {
     constexpr int Most = std::numeric_limits<std::int32_t>::max();  // seconds that fit a clock's nanoseconds
     CLI::Option* const seeds = AddSeeds(app, options.seeds);
-    app.add_option("--player", options.player,
-                   "simple: knows where the enemy is, walks there and fires;\n"
-                   "sensible: searches in short bounds, fires when the odds are fair, takes cover;\n"
-                   "careless: searches at a run, runs at the enemy, fires whoever is in the way")
-        ->type_name("NAME")
-        ->check(CLI::IsMember({"simple", "sensible", "careless"}).description(""))
-        ->capture_default_str();
-    app.add_option("--turns", options.turns, "the squad leaves the field after so many turns")
-        ->type_name("N")
-        ->check(Within(1, Most))
-        ->capture_default_str();
+    AddPlayer(app, options.player);
+    AddTurns(app, options.turns);
     CLI::Option* const json =
         app.add_flag("--json", options.json, "for programs: the same figures, and each mission's own");
     app.add_flag("--markdown", options.markdown, "the row of the table in docs/map.md")->excludes(json);
