@@ -40,6 +40,7 @@ def main():
                '<script type="module">import "sarnoth/main.js";</script>')
     for old, new in (('<link rel="icon" href="icon48.png">', f'<link rel="icon" href="{icon}">'),
                      ('<link rel="manifest" href="manifest.webmanifest">\n', ""),
+                     (re.search('(<link rel="(module)?preload.*\n)+', page)[0], ""),
                      ('<link rel="stylesheet" href="page.css">', f'<style>\n{(site / "page.css").read_text()}</style>'),
                      ('<script type="module" src="main.js"></script>', scripts)):
         if page.count(old) != 1:

@@ -14,9 +14,15 @@ export async function loadCompressed(name) {
   return new Response(stream).arrayBuffer();
 }
 
-/** The game's module, which servers compress by themselves. */
-export function loadModule() {
-  return globalThis.sarnothFiles ? loadCompressed("sarnoth.wasm.gz") : loadBytes("sarnoth.wasm");
+/** The game's module as a WebAssembly.Module, compiled while it comes in. Servers compress it by themselves. */
+export async function compileModule() {
+  if (globalThis.sarnothFiles) return WebAssembly.compile(await loadCompressed("sarnoth.wasm.gz"));
+  const name = "sarnoth.wasm";
+  const answer = await fetch(name);
+  if (!answer.ok) throw new Error(`${name}: ${answer.status} ${answer.statusText}`);
+  // Only a server that names the type lets it be compiled on its way.
+  return answer.headers.get("content-type") === "application/wasm" ? WebAssembly.compileStreaming(answer)
+    : WebAssembly.compile(await answer.arrayBuffer());
 }
 
 /** What browser/pack.py has packed, as [name, bytes, what else its index has]. */

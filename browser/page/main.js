@@ -2,7 +2,7 @@
 
 import createGame from "./sarnoth.js";
 import {ask, say, showPage} from "./boxes.js";
-import {loadBytes, loadCompressed, loadModule, unpack} from "./files.js";
+import {compileModule, loadBytes, loadCompressed, unpack} from "./files.js";
 import {Forms} from "./forms.js";
 import {keyCode, keySign, shiftState} from "./keys.js";
 import {Scale} from "./scale.js";
@@ -221,15 +221,19 @@ async function takeStore() {
 }
 
 async function start() {
-  const [pack, wasmBinary, alone] = await Promise.all([loadCompressed("game.pack.gz"), loadModule(), holdAlone()]);
+  const [pack, compiled, alone] = await Promise.all([loadCompressed("game.pack.gz"), compileModule(), holdAlone()]);
   if (!alone) {
     element("loading").textContent = "Sarnoth III runs in another tab already. Close it there, and load this page again.";
     return;
   }
   watchPage();
   await createGame({
-    page, wasmBinary,
-    locateFile: name => name,  // the module is here already
+    page,
+    locateFile: name => name,  // one file alone has no folder to look in
+    instantiateWasm: (imports, done) => {
+      WebAssembly.instantiate(compiled, imports).then(instance => done(instance, compiled));
+      return {};
+    },
     preRun: [module => prepare(module, pack)],
     onAbort: reason => { element("note").textContent = `Sarnoth III: ${reason}`; element("note").hidden = false; },
   });
