@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "$0")/.."
 . scripts/build.sh
-need package
+need package web
 build release sarnoth sarnoth_content sarnoth_delivery
 
 rm -rf build/package
@@ -12,6 +12,13 @@ quietly cpack --config build/release/CPackConfig.cmake -B build/package || exit 
 rm -rf build/package/_CPack_Packages
 folder=$(echo build/package/*.tar.gz)
 deb=$(echo build/package/*.deb)
+
+# The page: a folder for a server, and one file that opens by a double click.
+build_web sarnoth_web
+web=$(basename "$folder" .tar.gz)-web
+cp build/web/sarnoth.html "build/package/${web%-web}.html"
+tar --sort=name --owner=0 --group=0 --numeric-owner --mtime="@$(git log -1 --format=%ct)" --transform "s|^\.|$web|" \
+    -C build/web/site -c . | gzip -9n >"build/package/$web.tar.gz"
 
 desktop-file-validate delivery/sarnoth3.desktop
 appstreamcli validate --no-net build/release/delivery/*.metainfo.xml
@@ -25,4 +32,4 @@ elif dpkg-query -W sarnoth3 >/dev/null 2>&1; then
 else
     tests/delivery/packages.sh "$folder" "$deb"
 fi
-ls -l "$folder" "$deb"
+ls -l build/package/*
