@@ -227,16 +227,19 @@ async function start() {
     return;
   }
   watchPage();
-  await createGame({
+  let giveUp;
+  const failed = new Promise((_, reject) => { giveUp = reject; });
+  const begun = createGame({
     page,
     locateFile: name => name,  // one file alone has no folder to look in
     instantiateWasm: (imports, done) => {
-      WebAssembly.instantiate(compiled, imports).then(instance => done(instance, compiled));
+      WebAssembly.instantiate(compiled, imports).then(instance => done(instance, compiled)).catch(giveUp);
       return {};
     },
     preRun: [module => prepare(module, pack)],
     onAbort: reason => { element("note").textContent = `Sarnoth III: ${reason}`; element("note").hidden = false; },
   });
+  await Promise.race([begun, failed]);
 }
 
 // The module waits for it before it begins.

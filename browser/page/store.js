@@ -8,7 +8,7 @@ export async function mountStore(FS, IDBFS) {
   FS.mkdirTree(PlayersFolder);
   try {
     await probe();
-    FS.mount(IDBFS, {}, PlayersFolder);
+    FS.mount(keptBy(FS, IDBFS), {}, PlayersFolder);
     await sync(FS, true);
   } catch (error) {
     console.warn(`storage: ${error.message ?? error}`);
@@ -26,6 +26,52 @@ function probe() {
     asked.onsuccess = () => { asked.result.close(); resolve(); };
     asked.onerror = () => reject(asked.error);
   });
+}
+
+// The compiler's own way into the storage, but for the writing: its own takes a failed request for a kept file, and waits
+// for ever when the storage is full. Here all is kept or nothing.
+function keptBy(FS, IDBFS) {
+  return {
+    ...IDBFS,
+    syncfs: (mount, fromStorage, callback) => {
+      if (fromStorage) return IDBFS.syncfs(mount, true, callback);
+      IDBFS.getLocalSet(mount, (error, local) => {
+        if (error) return callback(error);
+        IDBFS.getDB(mount.mountpoint, (error, storage) => {
+          if (error) return callback(error);
+          try {
+            write(FS, storage, IDBFS.DB_STORE_NAME, local.entries, callback);
+          } catch (refused) {
+            callback(refused);
+          }
+        });
+      });
+    },
+  };
+}
+
+function write(FS, storage, name, entries, callback) {
+  const change = storage.transaction([name], "readwrite");
+  change.oncomplete = () => callback(null);
+  change.onabort = () => callback(change.error ?? new Error("the storage has refused"));
+  const files = change.objectStore(name);
+  const kept = new Map();
+  files.index("timestamp").openKeyCursor().onsuccess = event => {
+    const cursor = event.target.result;
+    if (cursor) {
+      kept.set(cursor.primaryKey, cursor.key.getTime());
+      return cursor.continue();
+    }
+    for (const [path, {timestamp}] of Object.entries(entries))
+      if (kept.get(path) !== timestamp.getTime()) files.put(entryOf(FS, path), path);
+    for (const path of kept.keys())
+      if (!entries[path]) files.delete(path);
+  };
+}
+
+function entryOf(FS, path) {
+  const {mtime: timestamp, mode} = FS.stat(path);
+  return FS.isDir(mode) ? {timestamp, mode} : {timestamp, mode, contents: FS.readFile(path)};
 }
 
 /** Resolves when the storage has what lies in the folder, or with `fromStorage` the other way round. */
