@@ -149,6 +149,25 @@ class PageTest(unittest.TestCase):
         page = self.page(before=refuse)
         self.assertPlays(page)
 
+    def test_a_storage_that_fails_in_the_middle_is_shown(self):
+        page = self.page(before="""const put = IDBObjectStore.prototype.put;
+            IDBObjectStore.prototype.put = function(...given) {
+                if (globalThis.isFull) this.transaction.abort();
+                return put.apply(this, given);
+            };""")
+        page.run("globalThis.isFull = true")
+        page.keys(Keys.SPACE)
+        self.assertPlays(page)
+        page.run("[...document.getElementById('gameMenu').children].at(-1).click()")
+        boxes = []
+        while not boxes or "New mission" not in boxes[-1]:
+            page.wait_for("return document.getElementById('box').open && document.getElementById('box').innerText !== arguments[0]",
+                          20, boxes[-1] if boxes else "")
+            boxes.append(page.run("return document.getElementById('box').innerText"))
+            page.run("""const buttons = [...document.querySelectorAll('#box button')];
+                (buttons.find(button => button.textContent.includes('Leave')) ?? buttons[0]).click();""")
+        self.assertTrue(any("File can't be written" in box for box in boxes), boxes)
+
     def test_a_second_tab_is_refused(self):
         page = self.page()
         first = page.driver.current_window_handle
