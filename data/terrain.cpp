@@ -66,7 +66,7 @@ constexpr std::array<const char*, 13> TerrainNames = {
     "surface",  "water",    "trees", "wooden",  "concrete", "stone", "roads",
     "trenches", "prickles", "ships", "various", "highways", "fence"};
 
-int FirstMatch(std::span<const TileRule> rules, int tileX, int tileY) {
+int FirstMatch(std::span<const TileRule> rules, int tileX, int tileY) noexcept {
     for (const TileRule& rule : rules)
         if (rule.tiles.Holds(tileX, tileY)) return rule.value;
     return 0;

@@ -90,7 +90,9 @@ float CentreOf(int cell) {
     return static_cast<float>(cell * CellSize + HalfCell);
 }
 
-bool WalkPlan(const std::vector<PlanStep>& plan, int order, int walker) {
+// Not inlined: who owns the plan has a clean-up, and in a browser each call past a clean-up goes through the
+// page.
+[[gnu::noinline]] bool WalkPlan(const std::vector<PlanStep>& plan, int order, int walker) {
     Unit& unit = UnitTable[walker];
     int x = unit.cellX;
     int y = unit.cellY;

@@ -1,5 +1,6 @@
 #include "platform/code_page.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -59,6 +60,9 @@ std::uint32_t NextCharacter(std::string_view text, std::size_t& position) {
 }  // namespace
 
 std::string FromCodePage(std::string_view bytes) {
+    // Nearly every text of the data is ASCII alone, and stays as it is.
+    constexpr auto isAscii = [](char byte) { return static_cast<std::uint8_t>(byte) < 0x80; };
+    if (std::all_of(bytes.begin(), bytes.end(), isAscii)) return std::string(bytes);
     std::string text;
     for (const char byte : bytes)
         AppendUtf8(text, CharacterOf(static_cast<std::uint8_t>(byte)));

@@ -221,15 +221,8 @@ void FlushFolder(std::string_view name) {
 TextReader::TextReader(std::string_view fileName)
     : name(ShownName(fileName)), content(ReadWholeFile(fileName, MaxDataFile)) {}
 
-bool TextReader::AtLineEnd() const {
-    return AtEnd() || content[position] == '\n' || content.compare(position, 2, "\r\n") == 0;
-}
-
-int TextReader::ReadCharacter(std::string_view expected) {
-    if (AtLineEnd())
-        Refuse("expected " + std::string(expected) + ", found the end of the " + (AtEnd() ? "file" : "line"));
-    ++column;
-    return static_cast<unsigned char>(content[position++]);
+void TextReader::RefuseEnd(std::string_view expected) const {
+    Refuse("expected " + std::string(expected) + ", found the end of the " + (AtEnd() ? "file" : "line"));
 }
 
 void TextReader::ReadLineEnd(std::string_view expected) {
@@ -268,12 +261,11 @@ int Record::ReadInt16(std::size_t offset) const {
 }
 
 std::string Record::ReadText(std::size_t offset, std::size_t length) const {
-    std::string text;
-    for (std::size_t i = offset; i < offset + length && At(i) != 0; ++i) {
-        if (At(i) < ' ') Refuse(i, "expected a text, found the code " + std::to_string(At(i)));
-        text.push_back(static_cast<char>(At(i)));
-    }
-    return FromCodePage(text);
+    std::size_t end = offset;
+    for (; end < offset + length && At(end) != 0; ++end)
+        if (At(end) < ' ') Refuse(end, "expected a text, found the code " + std::to_string(At(end)));
+    const auto start = bytes.begin() + static_cast<std::ptrdiff_t>(offset);
+    return FromCodePage(std::string(start, start + static_cast<std::ptrdiff_t>(end - offset)));
 }
 
 void Record::WriteInt16(std::size_t offset, int value) {

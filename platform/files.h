@@ -59,12 +59,19 @@ class TextReader {
   public:
     explicit TextReader(std::string_view fileName);
 
-    bool AtEnd() const { return position == content.size(); }
-    bool AtLineEnd() const;
+    bool AtEnd() const noexcept { return position == content.size(); }
+    bool AtLineEnd() const noexcept {
+        return AtEnd() || content[position] == '\n' ||
+               (content[position] == '\r' && position + 1 < content.size() && content[position + 1] == '\n');
+    }
 
     /// The next character's code, 0 to 255. Throws BadData at a line's end or the file's, saying that
     /// `expected` should stand there.
-    int ReadCharacter(std::string_view expected);
+    int ReadCharacter(std::string_view expected) {
+        if (AtLineEnd()) RefuseEnd(expected);
+        ++column;
+        return static_cast<unsigned char>(content[position++]);
+    }
 
     /// Goes past the line's end that must stand here. Throws BadData where there is none, saying that
     /// `expected` should stand there.
@@ -86,6 +93,8 @@ class TextReader {
                                Fault fault = Fault::BadData) const;
 
   private:
+    [[noreturn]] void RefuseEnd(std::string_view expected) const;
+
     std::string name;
     std::string content;
     std::size_t position = 0;

@@ -59,6 +59,13 @@ class Checked {
         } else {
             if (std::in_range<Stored>(from)) return static_cast<Stored>(from);
         }
+        Refuse(from);
+    }
+
+    // Stands alone so that Fit is short enough to be inlined: millions of numbers fit, and next to none
+    // doesn't.
+    template <typename From>
+    [[noreturn, gnu::noinline]] static void Refuse(From from) {
         throw RunTimeError(Fault::Overflow, std::to_string(from) + " is not within " +
                                                 std::to_string(Lowest) + " to " + std::to_string(Highest));
     }
