@@ -124,7 +124,10 @@ class PictureNode extends Node {
       Object.assign(this.canvas.style, {width: px(wide), height: px(high)});
     }
     const image = new ImageData(new Uint8ClampedArray(bytes), width, height);
-    this.canvas.getContext("2d").putImageData(image, left, top);
+    // Painted in many small pieces from the processor's side, the field without anything below it: so the browser keeps it
+    // there too, and a frame of a walk costs half.
+    const context = this.canvas.getContext("2d", {alpha: isImage, willReadFrequently: true});
+    context.putImageData(image, left, top);
     this.canvas.hidden = false;
   }
 

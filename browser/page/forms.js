@@ -74,7 +74,7 @@ class FormNode {
       this.canvas.height = Math.max(this.canvas.height, top + height);
       Object.assign(this.canvas.style, {width: px(this.canvas.width), height: px(this.canvas.height)});
     }
-    this.canvas.getContext("2d").putImageData(new ImageData(new Uint8ClampedArray(bytes), width, height), left, top);
+    this.canvas.getContext("2d", {willReadFrequently: true}).putImageData(new ImageData(new Uint8ClampedArray(bytes), width, height), left, top);
   }
 
   showFrame({left, top, width, height, tip}) {
