@@ -8,7 +8,7 @@ table=$(mktemp)
 trap 'rm -f "$table" "$table.page"' EXIT
 mkdir -p "$docs/map"
 {
-    echo "| Player | Victories | Defeats | Turns of a victory: median, 90% | Wounded | Dead | Cost the squad somebody | NW | NE | SW | SE |"
+    echo "| Player | Victories | Defeats | Turns of a victory: 10%, median, 90% | Wounded | Dead | Cost the squad somebody | NW | NE | SW | SE |"
     echo "|---|---|---|---|---|---|---|---|---|---|---|"
     for player in sensible careless; do
         "$1" --player $player --seeds 1..2000 --markdown --heat "$docs/map/$player.svg"

@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int Seeds = 100;
-constexpr int Turns = 40;
+constexpr int Turns = 22;
 
 struct Campaign {
     int victories = 0;
@@ -51,10 +51,10 @@ Campaign PlayAll(const char* player) {
 // The bounds are wider than what 2000 missions must come to, by the chance of so few.
 TEST(BalanceTest, ACarefulSquadMostlyWinsAndACarelessOneDoesNot) {
     const Campaign sensible = PlayAll("sensible");
-    EXPECT_GE(sensible.victories, Seeds * 72 / 100);
+    EXPECT_GE(sensible.victories, Seeds * 66 / 100);
     EXPECT_LE(sensible.victories, Seeds * 95 / 100);
-    EXPECT_GE(sensible.turns[sensible.turns.size() / 2], 8);
-    EXPECT_LE(sensible.turns[sensible.turns.size() / 2], 21);
+    EXPECT_GE(sensible.turns[sensible.turns.size() / 10], 7);
+    EXPECT_LE(sensible.turns[sensible.turns.size() / 2], 17);
     EXPECT_GE(sensible.dead, Seeds) << "a victory costs";
     for (const int decided : sensible.decided)
         EXPECT_GE(decided, Seeds * 5 / 100);

@@ -48,26 +48,32 @@ const char* ColourOf(int tileClass) {
     return Ground;
 }
 
+// One path for each class: a row's run of its cells is one rectangle.
 void PaintField(std::ostream& svg, const FieldClasses& field) {
+    std::map<int, std::ostringstream> paths;
     for (std::size_t y = 0; y < field.size(); ++y) {
         for (std::size_t x = 0, end = 0; x < field[y].size(); x = end) {
             for (end = x; end < field[y].size() && field[y][end] == field[y][x]; ++end) {
             }
-            svg << "<path fill=\"" << ColourOf(field[y][x]) << "\" d=\"M" << x * Side << " " << y * Side
-                << "h" << (end - x) * Side << "v" << Side << "h-" << (end - x) * Side << "z\"/>\n";
+            paths[field[y][x]] << "M" << x * Side << " " << y * Side << "h" << (end - x) * Side << "v" << Side
+                               << "h-" << (end - x) * Side << "z";
         }
     }
+    for (const auto& [tileClass, path] : paths)
+        svg << "<path fill=\"" << ColourOf(tileClass) << "\" d=\"" << path.str() << "\"/>\n";
 }
 
+// One path for each count: round ends of lines without length are its dots.
 void PaintSpots(std::ostream& svg, const Counts& counts, const KindLook& look) {
-    int most = 1;
+    std::map<int, std::ostringstream> paths;
     for (const auto& [cell, count] : counts)
-        most = std::max(most, count);
-    svg << "<g fill=\"" << look.colour << "\" fill-opacity=\"0.55\">\n";
-    for (const auto& [cell, count] : counts)
-        svg << "<circle cx=\"" << cell.first * Side + Side / 2 << "\" cy=\"" << cell.second * Side + Side / 2
-            << "\" r=\"" << LeastRadius + (MostRadius - LeastRadius) * std::sqrt(double(count) / most)
-            << "\"/>\n";
+        paths[count] << "M" << cell.first * Side + Side / 2 << " " << cell.second * Side + Side / 2 << "h0";
+    const int most = paths.empty() ? 1 : paths.rbegin()->first;
+    svg << "<g stroke=\"" << look.colour << "\" stroke-opacity=\"0.55\" stroke-linecap=\"round\">\n";
+    for (const auto& [count, path] : paths)
+        svg << "<path stroke-width=\""
+            << 2 * (LeastRadius + (MostRadius - LeastRadius) * std::sqrt(double(count) / most)) << "\" d=\""
+            << path.str() << "\"/>\n";
     svg << "</g>\n";
 }
 

@@ -10,7 +10,7 @@
 
 struct MissionOptions {
     SeedRange seeds{1, 1000};
-    int turns = 40;  // after which the player leaves a mission
+    int turns = 22;  // after which the player leaves a mission
     std::optional<std::uint32_t> log;
     std::filesystem::path game = GAME_FOLDER;
     int limit = 60;  // seconds

@@ -17,6 +17,7 @@ struct Figures {
     std::size_t missions = 0;
     double share = 0;  // of all that ended
     int least = 0;     // turns
+    int tenth = 0;
     int median = 0;
     int ninetieth = 0;
     int most = 0;
@@ -68,6 +69,7 @@ Figures FiguresOf(const std::vector<PlayedMission>& all, std::string_view verdic
     figures.missions = missions.size();
     figures.share = static_cast<double>(missions.size()) / static_cast<double>(Ended(all, "").size());
     figures.least = turns.front();
+    figures.tenth = Percentile(turns, 10);
     figures.median = Percentile(turns, 50);
     figures.ninetieth = Percentile(turns, 90);
     figures.most = turns.back();
@@ -190,9 +192,9 @@ std::string MissionMarkdown(const std::string& player, const std::vector<PlayedM
     const Figures won = FiguresOf(missions, "Victory");
     std::ostringstream row;
     row << "| " << player << " | " << Percent(won.share) << " | "
-        << Percent(FiguresOf(missions, "Defeat").share) << " | " << won.median << ", " << won.ninetieth
-        << " | " << std::fixed << std::setprecision(2) << all.squadWounded << " | " << all.squadDead << " | "
-        << Percent(all.costly) << " |";
+        << Percent(FiguresOf(missions, "Defeat").share) << " | " << won.tenth << ", " << won.median << ", "
+        << won.ninetieth << " | " << std::fixed << std::setprecision(2) << all.squadWounded << " | "
+        << all.squadDead << " | " << Percent(all.costly) << " |";
     for (const double share : SharesOf(missions))
         row << " " << Percent(share) << " |";
     row << "\n";
